@@ -1,0 +1,4 @@
+// Precompiled for the dialogs.
+#pragma once
+#include "Comun.h"
+#include <QtWidgets>

@@ -1,0 +1,57 @@
+# The compiler's rules for every target, and the two ways of making one.
+
+add_library(reglas INTERFACE)
+target_compile_options(reglas INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wold-style-cast
+                                        -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+target_compile_definitions(reglas INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS
+                                            QT_NO_FOREACH)
+target_include_directories(reglas INTERFACE ${CMAKE_SOURCE_DIR})
+if(MIRALDOS_SANEADORES)
+  target_compile_options(reglas INTERFACE -fsanitize=address,undefined
+                                          -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(reglas INTERFACE -fsanitize=address,undefined)
+endif()
+
+find_program(MIRALDOS_MOLD mold)
+if(MIRALDOS_MOLD)
+  target_link_options(reglas INTERFACE -fuse-ld=mold)
+endif()
+
+# miraldos_piso(<folder> <libraries below it...>): the static library of one floor, made of the
+# sources that lie directly in its folder (its ui/ subfolder belongs to the library `ui`).
+function(miraldos_piso nombre)
+  file(GLOB fuentes CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp
+                                      ${CMAKE_CURRENT_SOURCE_DIR}/*.h
+                                      ${CMAKE_CURRENT_SOURCE_DIR}/jet/*.cpp
+                                      ${CMAKE_CURRENT_SOURCE_DIR}/jet/*.h)
+  if(NOT fuentes)
+    add_library(${nombre} INTERFACE)
+    target_link_libraries(${nombre} INTERFACE ${ARGN})
+    return()
+  endif()
+  add_library(${nombre} STATIC ${fuentes})
+  target_link_libraries(${nombre} PUBLIC reglas Qt6::Core ${ARGN})
+  target_precompile_headers(${nombre} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/Comun.h)
+endfunction()
+
+# miraldos_pruebas(<folder> <libraries...>): one test program for the folder's tests
+# (tests/<folder>/Test*.cpp) and one ctest entry a file.
+function(miraldos_pruebas nombre carpeta main)
+  file(GLOB fuentes CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${carpeta}/Test*.cpp)
+  if(NOT fuentes)
+    return()
+  endif()
+  set(programa pruebas_${nombre})
+  add_executable(${programa} ${fuentes} ${CMAKE_SOURCE_DIR}/tests/apoyo/${main}.cpp)
+  set_target_properties(${programa} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/pruebas)
+  target_link_libraries(${programa} PRIVATE apoyo_pruebas ${ARGN})
+  target_compile_definitions(${programa} PRIVATE DATOS_PRUEBA="${CMAKE_SOURCE_DIR}/tests/datos"
+                             RAIZ_FUENTES="${CMAKE_SOURCE_DIR}" INSTALACION="${MIRALDOS_INSTALACION}")
+  target_precompile_headers(${programa} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/ComunPruebas.h)
+  foreach(fuente ${fuentes})
+    get_filename_component(clase ${fuente} NAME_WE)
+    add_test(NAME ${carpeta}/${clase} COMMAND ${programa} ${clase})
+    set_tests_properties(${carpeta}/${clase} PROPERTIES TIMEOUT 600
+      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0")
+  endforeach()
+endfunction()
