@@ -1,0 +1,81 @@
+#include "app/cli/Ordenes.h"
+
+#include "core/Error_Ejecucion.h"
+
+namespace {
+
+int Orden_Ayuda(const Contexto& c, const QStringList&)
+{
+    c.Linea("miraldos-cli [--dir DIRECTORIO] [--si] ORDEN ...");
+    for (const Orden& o : Ordenes()) c.Linea("  " + o.uso);
+    return HECHO;
+}
+
+} // namespace
+
+const QList<Orden>& Ordenes()
+{
+    static const QList<Orden> lista = {
+        {"ayuda", "ayuda", Orden_Ayuda},
+    };
+    return lista;
+}
+
+void Contexto::Fila(const QStringList& campos) const
+{
+    QStringList limpios = campos;
+    for (QString& campo : limpios)
+        for (const char16_t c : {u'\t', u'\r', u'\n'}) campo.replace(QChar(c), u' ');
+    Linea(limpios.join(u'\t'));
+}
+
+void Contexto::Linea(const QString& texto) const
+{
+    salida->write((texto + u'\n').toUtf8());
+}
+
+void Contexto::Mensaje(const QString& texto) const
+{
+    errores->write((texto + u'\n').toUtf8());
+}
+
+int Ejecutar_Orden(Contexto contexto, const QStringList& palabras)
+{
+    try {
+        QStringList resto;
+        for (qsizetype i = 0; i < palabras.size(); ++i) {
+            if (palabras[i] == u"--") {
+                resto += palabras.mid(i);
+                break;
+            }
+            if (palabras[i] == u"--si") {
+                contexto.si = true;
+            } else if (palabras[i].startsWith(u"--dir=")) {
+                contexto.dir = palabras[i].mid(6);
+            } else if (palabras[i] == u"--dir") {
+                if (i + 1 == palabras.size()) throw Error_Uso{"Falta el valor de --dir"};
+                contexto.dir = palabras[++i];
+            } else {
+                resto << palabras[i];
+            }
+        }
+        if (resto.isEmpty()) throw Error_Uso{"Falta la orden"};
+        const QString nombre = resto.takeFirst();
+        for (const Orden& o : Ordenes()) {
+            if (o.nombre != nombre) continue;
+            try {
+                return o.ejecutar(contexto, resto);
+            } catch (const Error_Uso& e) {
+                throw Error_Uso{e.texto + "\nUso: miraldos-cli " + o.uso};
+            }
+        }
+        throw Error_Uso{"Orden desconocida: " + nombre + " (véase miraldos-cli ayuda)"};
+    } catch (const Error_Uso& e) {
+        contexto.Mensaje(e.texto);
+        return MAL_USO;
+    } catch (...) {
+        const Error_Ejecucion e = Error_En_Curso();
+        contexto.Mensaje(QStringLiteral("(%1) %2").arg(e.numero).arg(e.descripcion));
+        return RECHAZADO;
+    }
+}
