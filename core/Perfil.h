@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+/// Private profile files (EstTotal.ini, Posicion.ini, Puertos.ini): sections, keys, Windows-1252,
+/// CR LF. Section and key are compared without case, blanks around a key and its value are dropped
+/// on reading, comments and unknown lines are kept, and a write replaces the file whole.
+namespace Perfil {
+
+/// @param maximo  longest value handed back, in characters (the caller's buffer)
+QString Leer(const QString& fichero, const QString& seccion, const QString& clave,
+             const QString& defecto, int maximo = 255);
+
+/// Writes or replaces one key; a null `valor` removes it.
+/// @throws Error_Ejecucion 70, 75, 76 or 61 when the file can't be written; it then stays as it was
+void Escribir(const QString& fichero, const QString& seccion, const QString& clave,
+              const QString& valor);
+
+} // namespace Perfil

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/// Inserts a session with the next number, the present date and the model in force.
+/// @return its number as text; empty on an error, 32767 sessions being the limit
+QString Nueva_Sesion(const QString& nombre, int ope);
+/// Highest session number as text; empty when there is none.
+QString Ultima_Sesion();
+/// Number that the next session would get. @throws Error_Ejecucion 6 above 32767
+int Siguiente_ID();
+/// Deletes a session's row and then its lines, one transaction.
+void Eliminar_Sesion(qint64 id);
+
+/// Compacts the database and opens it again, by way of esttotal.pak, keeping esttotal.bak. Traps
+/// every failure without a message (it goes to the run log) and then opens the old file again.
+/// @return true when the file was replaced
+bool Compactar_BD();

@@ -1,0 +1,7 @@
+#include "core/Sucesos.h"
+
+Sucesos& Sucesos::Unico()
+{
+    static Sucesos unico;
+    return unico;
+}
