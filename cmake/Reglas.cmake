@@ -31,12 +31,13 @@ function(miraldos_avisar_moc objetivo)
 endfunction()
 
 # miraldos_piso(<folder> <libraries below it...>): the static library of one floor, made of the
-# sources that lie directly in its folder (its ui/ subfolder belongs to the library `ui`).
+# sources that lie in its folder and its subfolders (its ui/ belongs to the library `ui`).
 function(miraldos_piso nombre)
   file(GLOB fuentes CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp
                                       ${CMAKE_CURRENT_SOURCE_DIR}/*.h
-                                      ${CMAKE_CURRENT_SOURCE_DIR}/jet/*.cpp
-                                      ${CMAKE_CURRENT_SOURCE_DIR}/jet/*.h)
+                                      ${CMAKE_CURRENT_SOURCE_DIR}/*/*.cpp
+                                      ${CMAKE_CURRENT_SOURCE_DIR}/*/*.h)
+  list(FILTER fuentes EXCLUDE REGEX "/ui/")
   if(NOT fuentes)
     add_library(${nombre} INTERFACE)
     target_link_libraries(${nombre} INTERFACE ${ARGN})

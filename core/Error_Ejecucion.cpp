@@ -71,6 +71,7 @@ constexpr std::pair<int, const char16_t*> DESCRIPCIONES[] = {
     {3315, u"El campo no puede ser una cadena de longitud cero"},
     {3343, u"Formato de base de datos no reconocido"},
     {3420, u"El objeto no es válido o ya no está establecido"},
+    {3437, u"La hoja de cálculo está llena"},
     {8002, u"Número de puerto no válido"},
     {8005, u"El puerto ya está abierto"},
     {8012, u"El dispositivo no está abierto"},
