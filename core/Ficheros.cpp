@@ -4,24 +4,33 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+// A failed open says no more than that it failed: by then the folder and the name are known to be
+// good, so it is the permission. Bytes that no longer fit on the disk come back as a failed write.
+static int Numero_De(QFileDevice::FileError error)
+{
+    switch (error) {
+    case QFileDevice::PermissionsError:
+    case QFileDevice::OpenError:
+    case QFileDevice::RenameError:
+        return 70;
+    case QFileDevice::WriteError:
+    case QFileDevice::ResourceError:
+        return 61;
+    default:
+        return 57;
+    }
+}
+
+static Error_Ejecucion Error_Con_Nombre(int numero, const QString& ruta)
+{
+    return Error_Ejecucion(numero, Descripcion_Error(numero) + QStringLiteral(": ") + ruta);
+}
+
 Error_Ejecucion Ficheros::Error_De(const QFileDevice& fichero)
 {
-    int numero = 57;
-    switch (fichero.error()) {
-    case QFileDevice::PermissionsError:
-    case QFileDevice::OpenError: // a failed open says no more: folder and name were looked at
-                                 // before
-    case QFileDevice::RenameError:
-        numero = 70;
-        break;
-    case QFileDevice::WriteError: // how bytes that no longer fit on the disk come back
-    case QFileDevice::ResourceError:
-        numero = 61;
-        break;
-    default:
-        break;
-    }
-    return Error_Ejecucion(numero, Descripcion_Error(numero) + QStringLiteral(": ") + ruta);
+    return Error_Con_Nombre(
+        Numero_De(fichero.error()),
+        QStringLiteral("%1 (%2)").arg(fichero.fileName(), fichero.errorString()));
 }
 
 QByteArray Ficheros::Leer(const QString& ruta)
