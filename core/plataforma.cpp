@@ -1,0 +1,33 @@
+#include "core/plataforma.h"
+
+#ifdef Q_OS_WIN
+#include <io.h>
+#include <windows.h>
+#else
+#include <QFile>
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+bool plataforma::Sincronizar(QFileDevice& fichero)
+{
+    if (!fichero.flush()) return false;
+#ifdef Q_OS_WIN
+    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(fichero.handle()))) != 0;
+#else
+    return fdatasync(fichero.handle()) == 0;
+#endif
+}
+
+bool plataforma::Sincronizar_Carpeta([[maybe_unused]] const QString& carpeta)
+{
+#ifdef Q_OS_WIN
+    return true; // the file system journals its names
+#else
+    const int d = open(QFile::encodeName(carpeta).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (d < 0) return false;
+    const bool bien = fsync(d) == 0;
+    close(d);
+    return bien;
+#endif
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QFileDevice>
+#include <QString>
+
+/// The only unit (besides the simulator) that calls the operating system directly.
+namespace plataforma {
+
+/// Waits until what was written to an open file lies on the disk.
+/// @return false when the system refuses; nothing else is lost by that
+bool Sincronizar(QFileDevice& fichero);
+
+/// Makes names that were created, renamed or removed in `carpeta` outlive a power cut.
+bool Sincronizar_Carpeta(const QString& carpeta);
+
+} // namespace plataforma
