@@ -1,0 +1,187 @@
+#include "conversions/Campos_Fuente.h"
+
+#include "core/Ansi.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace Campos_Fuente {
+
+namespace {
+
+constexpr double NUMERO_MAXIMO = 1e15;
+
+bool Es_Blanco(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r';
+}
+bool Es_Cifra(char c)
+{
+    return c >= '0' && c <= '9';
+}
+bool Es_Letra(char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+/// Copies the characters of a number in the form that std::from_chars takes.
+/// @return false when the grammar is broken
+bool Normalizar(QByteArrayView campo, Marca marca, QVarLengthArray<char, 64>& s)
+{
+    qsizetype i = 0;
+    const qsizetype n = campo.size();
+    const auto cifras = [&] {
+        qsizetype cuantas = 0;
+        for (; i < n && Es_Cifra(campo[i]); ++i, ++cuantas)
+            s.append(campo[i]);
+        return cuantas;
+    };
+    const auto signo = [&] {
+        if (i == n || (campo[i] != '+' && campo[i] != '-')) return;
+        if (campo[i] == '-') s.append('-');
+        ++i;
+    };
+    signo();
+    qsizetype hay = cifras();
+    if (i < n && (campo[i] == '.' || (campo[i] == ',' && marca == Marca::Punto_O_Coma))) {
+        s.append('.');
+        ++i;
+        hay += cifras();
+    }
+    if (hay == 0) return false;
+    if (i < n && (campo[i] == 'E' || campo[i] == 'e' || campo[i] == 'D' || campo[i] == 'd')) {
+        s.append('e');
+        ++i;
+        signo();
+        if (cifras() == 0) return false;
+    }
+    return i == n;
+}
+
+} // namespace
+
+QByteArrayView Recortar(QByteArrayView t)
+{
+    while (!t.isEmpty() && Es_Blanco(t.front()))
+        t = t.sliced(1);
+    while (!t.isEmpty() && Es_Blanco(t.back()))
+        t.chop(1);
+    return t;
+}
+
+Lista Por_Blancos(QByteArrayView linea)
+{
+    Lista campos;
+    const char* p = linea.data();
+    const char* const final = p + linea.size();
+    while (p < final) {
+        while (p < final && Es_Blanco(*p))
+            ++p;
+        const char* inicio = p;
+        while (p < final && !Es_Blanco(*p))
+            ++p;
+        if (p > inicio) campos.append(QByteArrayView(inicio, p - inicio));
+    }
+    return campos;
+}
+
+Lista Por_Separador(QByteArrayView linea, char separador)
+{
+    Lista campos;
+    for (;;) {
+        const qsizetype corte = linea.indexOf(separador);
+        if (corte < 0) break;
+        campos.append(Recortar(linea.first(corte)));
+        linea = linea.sliced(corte + 1);
+    }
+    campos.append(Recortar(linea));
+    return campos;
+}
+
+std::optional<double> Numero(QByteArrayView campo, Marca marca)
+{
+    QVarLengthArray<char, 64> s;
+    if (!Normalizar(Recortar(campo), marca, s)) return {};
+    double valor = 0;
+    const auto r = std::from_chars(s.data(), s.data() + s.size(), valor);
+    if (r.ec != std::errc() || std::abs(valor) >= NUMERO_MAXIMO) return {};
+    return valor;
+}
+
+std::optional<double> Numero_PK(QByteArrayView campo, Marca marca)
+{
+    if (const auto simple = Numero(campo, marca)) return simple;
+    QByteArrayView t = Recortar(campo);
+    const bool negativo = t.startsWith('-');
+    if (negativo || t.startsWith('+')) t = t.sliced(1);
+    const qsizetype mas = t.indexOf('+');
+    if (mas < 1 || mas + 1 == t.size() || !Es_Cifra(t[mas + 1])) return {};
+    for (const char c : t.first(mas))
+        if (!Es_Cifra(c)) return {};
+    const auto kilometros = Numero(t.first(mas), marca);
+    const auto metros = Numero(t.sliced(mas + 1), marca);
+    if (!kilometros || !metros) return {};
+    const double pk = *kilometros * 1000 + *metros;
+    return negativo ? -pk : pk;
+}
+
+std::optional<double> Sexagesimal_A_Gon(QByteArrayView campo)
+{
+    QByteArrayView t = Recortar(campo);
+    if (!Numero(t)) return {};
+    const bool negativo = t.startsWith('-');
+    if (negativo || t.startsWith('+')) t = t.sliced(1);
+    QByteArray cifras;
+    qsizetype enteras = -1;
+    for (const char c : t) {
+        if (Es_Cifra(c)) {
+            cifras += c;
+        } else if ((c == '.' || c == ',') && enteras < 0) {
+            enteras = cifras.size();
+        } else {
+            return {};
+        }
+    }
+    if (enteras < 0) enteras = cifras.size();
+    // The places are cut from the digits themselves: 45.30 as a binary fraction lies below 30'.
+    while (cifras.size() < enteras + 4)
+        cifras += '0';
+    const double grados = enteras > 0 ? *Numero(cifras.first(enteras)) : 0;
+    const double minutos = cifras.mid(enteras, 2).toInt();
+    const double segundos =
+        *Numero(cifras.mid(enteras + 2, 2) + '.' + cifras.mid(enteras + 4) + '0');
+    if (minutos >= 60 || segundos >= 60) return {};
+    const double gon = (grados + minutos / 60 + segundos / 3600) * 10 / 9;
+    return negativo ? -gon : gon;
+}
+
+bool Es_Comentario(QByteArrayView linea)
+{
+    const QByteArrayView t = Recortar(linea);
+    if (t.isEmpty()) return false;
+    const char c = t.front();
+    if (c == '*' || c == ';' || c == '#' || Es_Letra(c)) return true;
+    const int codigo = static_cast<unsigned char>(c);
+    return codigo >= 128 && Ansi::Caracter(codigo).isLetter();
+}
+
+bool Empieza_Por(QByteArrayView texto, QByteArrayView inicio)
+{
+    return texto.size() >= inicio.size() && Iguales(texto.first(inicio.size()), inicio);
+}
+
+bool Iguales(QByteArrayView a, QByteArrayView b)
+{
+    return a.size() == b.size() && a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+std::optional<QString> Nombre_Eje(QByteArrayView linea)
+{
+    QByteArrayView t = Recortar(linea);
+    if (!Empieza_Por(t, "EJE")) return {};
+    t = Recortar(t.sliced(3));
+    if (!t.startsWith(':')) return {};
+    return Ansi::A_Texto(Recortar(t.sliced(1)));
+}
+
+} // namespace Campos_Fuente

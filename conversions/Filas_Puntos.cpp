@@ -1,0 +1,6 @@
+#include "conversions/Conversion.h"
+
+std::vector<Funcion> Filas_Puntos()
+{
+    return {};
+}

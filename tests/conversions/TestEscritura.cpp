@@ -1,0 +1,169 @@
+#include "conversions/Conversion.h"
+#include "conversions/Escritura.h"
+#include "conversions/Modelo_Secciones.h"
+#include "tests/apoyo/Prueba.h"
+
+#include <numbers>
+
+namespace {
+
+QByteArray Leer(const QString& ruta)
+{
+    QFile f(ruta);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(no existe)");
+}
+
+void Poner(const QString& ruta, const QByteArray& bytes)
+{
+    QFile f(ruta);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+} // namespace
+
+class TestEscritura : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void numeros_fijos();
+    void azimutes();
+    void se_guarda_entero_o_nada();
+    void con_cero_no_queda_destino();
+    void el_destino_no_puede_ser_el_origen();
+    void una_carpeta_no_es_origen_ni_destino();
+    void las_secciones_se_juntan_y_ordenan();
+    void la_tabla_sabe_sus_argumentos();
+};
+
+void TestEscritura::numeros_fijos()
+{
+    using Escritura::Fijo;
+    QCOMPARE(Fijo(0, 3), "0.000");
+    QCOMPARE(Fijo(-0.0004, 3), "0.000");
+    QCOMPARE(Fijo(-0.0006, 3), "-0.001");
+    QCOMPARE(Fijo(-100, 3), "-100.000");
+    QCOMPARE(Fijo(-0.4, 0), "0");
+    QCOMPARE(Fijo(1234567.8915, 3), "1234567.891");
+    QCOMPARE(Fijo(1e300, 0).size(), 301);
+}
+
+void TestEscritura::azimutes()
+{
+    const double gon = std::numbers::pi / 200;
+    QCOMPARE(Escritura::Azimut(0), "0.0000");
+    QCOMPARE(Escritura::Azimut(100 * gon), "100.0000");
+    QCOMPARE(Escritura::Azimut(-50 * gon), "350.0000");
+    QCOMPARE(Escritura::Azimut(850 * gon), "50.0000");
+    QCOMPARE(Escritura::Azimut(399.99996 * gon), "0.0000");
+    QCOMPARE(Escritura::Azimut(-0.00001 * gon), "0.0000");
+    QCOMPARE(Escritura::Azimut(399.99994 * gon), "399.9999");
+}
+
+void TestEscritura::se_guarda_entero_o_nada()
+{
+    QTemporaryDir d;
+    const QString ruta = d.filePath("a.ssh");
+    Escritura::Guardar(ruta, "uno\r\n");
+    QCOMPARE(Leer(ruta), "uno\r\n");
+    Escritura::Guardar(ruta, "dos");
+    QCOMPARE(Leer(ruta), "dos");
+    QVERIFY_EXCEPTION_THROWN(Escritura::Guardar(d.filePath("no/hay/a.ssh"), "x"), Fallo_Conversion);
+    QCOMPARE(QDir(d.path()).entryList(QDir::Files), QStringList{"a.ssh"});
+}
+
+void TestEscritura::con_cero_no_queda_destino()
+{
+    QTemporaryDir d;
+    const Peticion p{d.filePath("a.txt"), d.filePath("a.ssh"), {}};
+    Poner(p.entrada, "x");
+    const auto bien = [] { return QByteArray("nuevo"); };
+    const auto mal = []() -> QByteArray { throw Fallo_Conversion{"roto", 7, "x"}; };
+    Informe_Lectura informe;
+    QCOMPARE(Conversion::Convertir(p, informe, Conversion::Omisiones::Dan_Menos_Uno, bien), 1);
+    QCOMPARE(Leer(p.salida), "nuevo");
+    QCOMPARE(Conversion::Convertir(p, informe, Conversion::Omisiones::Dan_Menos_Uno, mal), 0);
+    QVERIFY(!QFile::exists(p.salida));
+    QCOMPARE(informe.Lineas(), QStringList{"Línea 7: roto: \"x\""});
+
+    Informe_Lectura con_omision;
+    con_omision.Omitir(1, "x", "m");
+    QCOMPARE(Conversion::Convertir(p, con_omision, Conversion::Omisiones::Dan_Menos_Uno, bien), -1);
+    QCOMPARE(Conversion::Convertir(p, con_omision, Conversion::Omisiones::No_Cuentan, bien), 1);
+}
+
+void TestEscritura::el_destino_no_puede_ser_el_origen()
+{
+    QTemporaryDir d;
+    const QString ruta = d.filePath("a.plt");
+    Poner(ruta, "del proyectista");
+    QVERIFY(QFile::link(ruta, d.filePath("b.plt")));
+    for (const char* otro : {"a.plt", "./a.plt", "b.plt"}) {
+        Informe_Lectura informe;
+        const Peticion p{ruta, d.path() + u'/' + QLatin1String(otro), {}};
+        QCOMPARE(Conversion::Convertir(p, informe, Conversion::Omisiones::No_Cuentan,
+                                       [] { return QByteArray("x"); }),
+                 0);
+        QVERIFY(informe.Fallo());
+        QCOMPARE(Leer(ruta), "del proyectista");
+    }
+}
+
+void TestEscritura::una_carpeta_no_es_origen_ni_destino()
+{
+    QTemporaryDir d;
+    for (const QString& ruta : {d.path(), d.filePath("no_hay"), QString()}) {
+        QFile f(ruta);
+        QVERIFY_EXCEPTION_THROWN(Conversion::Abrir(f), Fallo_Conversion);
+    }
+    Informe_Lectura informe;
+    QDir(d.path()).mkdir("salida");
+    QCOMPARE(Conversion::Convertir({d.filePath("x"), d.filePath("salida"), {}}, informe,
+                                   Conversion::Omisiones::No_Cuentan,
+                                   [] { return QByteArray("x"); }),
+             0);
+    QVERIFY(QDir(d.filePath("salida")).exists());
+}
+
+void TestEscritura::las_secciones_se_juntan_y_ordenan()
+{
+    Secciones s;
+    const auto poner = [&](double pk, double d, double z) { s.Anadir(s.Abrir(pk), {d, z}); };
+    poner(20, 0, 5);
+    poner(0, 3, 1);
+    poner(0, -3, 2);
+    poner(20.0005, 0, 4);
+    poner(20.0015, 1, 9);
+    poner(0, 3, 0);
+    s.Abrir(50);
+    s.Ordenar();
+    QCOMPARE(s.Lista().size(), size_t(3));
+    QCOMPARE(s.Lista()[0].pk, 20.0);
+    QCOMPARE(s.Lista()[0].puntos.size(), size_t(2));
+    QCOMPARE(s.Lista()[0].puntos[0].cota, 5.0);
+    QCOMPARE(s.Lista()[0].puntos[1].cota, 4.0);
+    QCOMPARE(s.Lista()[1].puntos[0].desplazamiento, -3.0);
+    QCOMPARE(s.Lista()[1].puntos[1].cota, 1.0);
+    QCOMPARE(s.Lista()[1].puntos[2].cota, 0.0);
+    QCOMPARE(s.Lista()[2].pk, 20.0015);
+}
+
+void TestEscritura::la_tabla_sabe_sus_argumentos()
+{
+    const Funcion f{"prueba", "INDICE ENTRADA SALIDA [APLICACION]",
+                    [](const Peticion& p, Informe_Lectura&) {
+                        return p.entrada == u"e" && p.salida == u"s" ? int(p.datos.size()) : -9;
+                    }};
+    QCOMPARE(Argumentos_De(f).minimo, 3);
+    QCOMPARE(Argumentos_De(f).maximo, 4);
+    Informe_Lectura informe;
+    QCOMPARE(Ejecutar_Funcion(f, {"7", "e", "s"}, informe), 1);
+    QCOMPARE(Ejecutar_Funcion(f, {"7", "e", "s", "a"}, informe), 2);
+    QVERIFY(!informe.Fallo());
+    QCOMPARE(Ejecutar_Funcion(f, {"7", "e"}, informe), 0);
+    QVERIFY(informe.Fallo());
+    QCOMPARE(Ejecutar_Funcion(u"MyDll_no_hay", {}, informe), 0);
+    QVERIFY(informe.Lineas()[0].contains(u"Función desconocida"));
+}
+
+PRUEBA(TestEscritura)
+#include "TestEscritura.moc"
