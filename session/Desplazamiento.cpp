@@ -1,0 +1,143 @@
+#include "session/Desplazamiento.h"
+
+#include "core/ModEstTotal.h"
+
+#include <algorithm>
+
+namespace {
+
+// Sign at the head of a text, taken off. @return true for "-"
+bool Separar_Signo(QStringView& t)
+{
+    if (t.isEmpty() || (t.front() != u'+' && t.front() != u'-')) return false;
+    const bool negativo = t.front() == u'-';
+    t = t.mid(1);
+    return negativo;
+}
+
+// Coordinate of a KRT300 or PX7: a sign and digits that hold no point of their own.
+Decimal Valor_KRT300(const QString& valor, const QString& posdigit, const Anchos_Numero& anchos)
+{
+    QStringView t = QStringView(valor).trimmed();
+    const bool negativo = Separar_Signo(t);
+    t = t.right(anchos.enteros + anchos.decimales).trimmed();
+    const auto numero = t.contains(u'.')
+                            ? Decimal::Leer(t)
+                            : Decimal::De_Cifras(t, Anchos_Numero::Leer(posdigit).decimales);
+    if (!numero) throw Error_Ejecucion(13);
+    return negativo ? -*numero : *numero;
+}
+
+QString Texto_Suma(const Decimal& suma, int decimales)
+{
+    QString texto = suma.Negativo() ? QStringLiteral("-") : QString();
+    texto += QString::number(suma.Entera());
+    texto += u'.';
+    return texto += suma.Decimales(decimales);
+}
+
+QString Forma_De_Cable(const Decimal& suma, int decimales)
+{
+    return (suma.Negativo() ? u'-' : u'+') +
+           QString::number(suma.Entera()).rightJustified(6, u'0') + suma.Decimales(decimales);
+}
+
+QString Desplazamiento_Aceptado(const QString& texto, const QString& formato)
+{
+    if (Clave_Estacion == u"KRT300") return Forma_Fija(texto, formato);
+    return texto.isEmpty() ? QStringLiteral("0") : texto;
+}
+
+} // namespace
+
+Anchos_Numero Anchos_Numero::Leer(const QString& formato)
+{
+    const auto ancho = [&](int n) {
+        return std::clamp(int(Trozo(n, formato, u',').trimmed().toInt()), 0, 18);
+    };
+    return {ancho(1), ancho(2)};
+}
+
+Decimal Valor_Desplazamiento(const QString& texto, const QString& formato)
+{
+    const Anchos_Numero anchos = Anchos_Numero::Leer(formato);
+    QStringView t = QStringView(texto).trimmed();
+    const bool negativo = Separar_Signo(t);
+    const auto fija = t.size() == anchos.enteros + anchos.decimales
+                          ? Decimal::De_Cifras(t, anchos.decimales)
+                          : std::nullopt;
+    const Decimal numero = fija ? *fija : Decimal::Prefijo(t);
+    return negativo ? -numero : numero;
+}
+
+QString Sumar_Desplazamiento(const QString& modo, const QString& desplazamiento,
+                             const QString& formato_desp, const QString& valor,
+                             const QString& posdigit, const QString& formato_suma)
+{
+    if (valor.isEmpty()) return {};
+    const bool krt300 = Clave_Estacion == u"KRT300" || Clave_Estacion == u"PX7";
+    if (!krt300 && Clave_Estacion != u"KRT800") return {};
+
+    const Decimal coordenada =
+        krt300 ? Valor_KRT300(valor, posdigit, Anchos_Numero::Leer(formato_desp))
+               : Decimal::Prefijo(valor);
+    const Decimal suma = coordenada + Valor_Desplazamiento(desplazamiento, formato_desp);
+    const int decimales = Anchos_Numero::Leer(formato_suma).decimales;
+    return krt300 && modo == u"C" ? Forma_De_Cable(suma, decimales) : Texto_Suma(suma, decimales);
+}
+
+QString Forma_Fija(const QString& texto, const QString& formato)
+{
+    const auto [e, d] = Anchos_Numero::Leer(formato);
+    QStringView t = texto;
+    const bool negativo = Separar_Signo(t);
+    if (t.isEmpty()) return QString(std::max(0, e + d - 1), u'0');
+
+    QString cifras;
+    if (const qsizetype punto = t.indexOf(u'.'); punto >= 0) {
+        const QString entera = t.left(punto).toString().rightJustified(e, u'0').right(e);
+        cifras = entera + t.mid(punto + 1).toString().leftJustified(d, u'0', true);
+    } else {
+        cifras = (t.toString() + QString(d, u'0')).right(e + d).rightJustified(e + d, u'0');
+        if (cifras.count(u'0') == cifras.size()) return cifras;
+    }
+    return negativo ? u'-' + cifras : cifras;
+}
+
+Efecto_Tecla Tecla_Desplazamiento(const QString& texto, qsizetype caret, QChar tecla)
+{
+    if ((tecla >= u'0' && tecla <= u'9') || tecla == u'\b') return {.pasa = true, .texto = {}};
+    if (tecla == u'-') {
+        if (texto.contains(u'-')) return {.pita = true, .texto = {}};
+        return {.texto = QStringLiteral("-"), .caret = caret + 1};
+    }
+    return {.pasa = tecla == u'.' && !texto.contains(u'.'), .texto = {}};
+}
+
+QString Teclear_Desplazamiento(const QString& tecleado)
+{
+    QString texto;
+    for (const QChar tecla : tecleado) {
+        const Efecto_Tecla efecto = Tecla_Desplazamiento(texto, texto.size(), tecla);
+        if (efecto.texto)
+            texto = *efecto.texto;
+        else if (efecto.pasa && tecla == u'\b')
+            texto.chop(1);
+        else if (efecto.pasa)
+            texto += tecla;
+    }
+    return texto;
+}
+
+void Quitar_Desplazamientos()
+{
+    Desp_X = Desp_Y = Desp_Z = QStringLiteral("0");
+}
+
+void Poner_Desplazamientos(const QString& x, const QString& y, const QString& z,
+                           const QString& formato)
+{
+    Desp_X = Desplazamiento_Aceptado(x, formato);
+    Desp_Y = Desplazamiento_Aceptado(y, formato);
+    Desp_Z = Desplazamiento_Aceptado(z, formato);
+}

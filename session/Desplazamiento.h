@@ -1,0 +1,69 @@
+#pragma once
+
+#include "core/Decimal.h"
+
+#include <optional>
+#include <QString>
+
+/// Coordinate offsets: the texts that the user types for them, and their addition to a coordinate.
+/// One reading of an offset's text serves the decoder and every upload.
+
+/// The width of every coordinate: seven integer digits and three decimals.
+inline constexpr char16_t FORMATO_COORDENADA[] = u"7,3";
+
+/// Widths written as "e,d".
+struct Anchos_Numero {
+    int enteros = 0, decimales = 0;
+    /// A part that is missing, or no number, is 0; none goes above 18.
+    static Anchos_Numero Leer(const QString& formato);
+};
+
+/// Number that an offset's text stands for. Behind the sign, exactly e + d digits without a point
+/// are the fixed form and split into integer and decimals; any other text is its own value: "12"
+/// is 12.
+/// @param formato  "e,d"
+/// @throws Error_Ejecucion 6 when it is beyond 18 integer digits
+Decimal Valor_Desplazamiento(const QString& texto, const QString& formato);
+
+/// Adds an offset to a coordinate as the family in force (`Clave_Estacion`) writes coordinates.
+/// KRT800: `valor` is decimal text. KRT300 and PX7: `valor` is a sign and a run of digits whose
+/// last ten count, with the decimals of `posdigit`, or, with a point in it, decimal text. The sum
+/// is exact; its decimals are rounded half to even and a carry out of them is lost.
+/// @param modo  "D": signed decimal text; "C" (KRT300 and PX7): the wire form, a sign and nine
+/// digits,
+///              ten from 1,000,000 up
+/// @param formato_desp  "e,d" of the offset's text
+/// @param posdigit  `Campos.PosDigit` of the coordinate's field
+/// @param formato_suma  "e,d" of the sum: its decimals are written
+/// @return an empty text for an empty value and for a family without coordinates
+/// @throws Error_Ejecucion 13 when the value of a KRT300 or PX7 is no number, 6 when it is too long
+QString Sumar_Desplazamiento(const QString& modo, const QString& desplazamiento,
+                             const QString& formato_desp, const QString& valor,
+                             const QString& posdigit, const QString& formato_suma);
+
+/// The form without a point that the KRT300 family uses in its own files: e + d digits, with "-" in
+/// front of a negative number; further decimals and leading digits are dropped. An empty text gives
+/// e + d - 1 zeros.
+QString Forma_Fija(const QString& texto, const QString& formato);
+
+/// What a key does in a box that takes an offset.
+struct Efecto_Tecla {
+    bool pasa = false; ///< the box takes the key as usual
+    bool pita = false;
+    /// The box's whole text is replaced by this, with the caret behind `caret` characters.
+    std::optional<QString> texto;
+    qsizetype caret = 0;
+};
+/// @param texto  what the box holds
+/// @param caret  where the caret stands, from 0
+Efecto_Tecla Tecla_Desplazamiento(const QString& texto, qsizetype caret, QChar tecla);
+
+/// What a box holds after `tecleado` has been typed into it key by key, empty at first.
+QString Teclear_Desplazamiento(const QString& tecleado);
+
+/// No offset on any axis.
+void Quitar_Desplazamientos();
+/// Takes the texts of the three boxes as the offsets in force: a KRT300 takes the fixed form, any
+/// other family the text as typed, an empty box being "0".
+void Poner_Desplazamientos(const QString& x, const QString& y, const QString& z,
+                           const QString& formato);
