@@ -5,6 +5,8 @@
 /// Inserts a session with the next number, the present date and the model in force.
 /// @return its number as text; empty on an error, 32767 sessions being the limit
 QString Nueva_Sesion(const QString& nombre, int ope);
+/// The same for a transfer that keeps the family and model it began with, whatever is in force now.
+QString Nueva_Sesion(const QString& nombre, int ope, const QString& maquina, const QString& maqdes);
 /// Highest session number as text; empty when there is none.
 QString Ultima_Sesion();
 /// Number that the next session would get. @throws Error_Ejecucion 6 above 32767

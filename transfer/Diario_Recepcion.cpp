@@ -1,0 +1,137 @@
+#include "transfer/Diario_Recepcion.h"
+
+#include "core/Ficheros.h"
+#include "core/ModEstTotal.h"
+#include "core/ModLOG.h"
+#include "core/plataforma.h"
+#include "transfer/Recepcion.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+constexpr int MS_AL_DISCO = 400;
+const QString EXTENSION = QStringLiteral(".dia");
+
+QString Nombre_Libre(const QString& base)
+{
+    QString nombre = base + EXTENSION;
+    for (int n = 2; QFile::exists(nombre); ++n) nombre = base + u'-' + QString::number(n) + EXTENSION;
+    return nombre;
+}
+
+} // namespace
+
+Diario_Recepcion::Diario_Recepcion(QObject* padre) : QObject(padre)
+{
+    al_disco.setSingleShot(true);
+    al_disco.setInterval(MS_AL_DISCO);
+    connect(&al_disco, &QTimer::timeout, this, [this] {
+        if (!Al_Disco()) al_disco.start();
+    });
+}
+
+Diario_Recepcion::~Diario_Recepcion()
+{
+    Terminar(false);
+}
+
+void Diario_Recepcion::Empezar(const QString& m, int o, const QDateTime& t)
+{
+    Terminar(false);
+    maquina = m;
+    operacion = o;
+    momento = t;
+    empezado = true;
+}
+
+void Diario_Recepcion::Anotar_Byte(char c)
+{
+    if (!empezado) return;
+    pendiente += c;
+    if (c != Control::EOT) con_datos = true;
+    if (!al_disco.isActive()) al_disco.start();
+}
+
+bool Diario_Recepcion::Abrir()
+{
+    if (fichero.isOpen()) return true;
+    const QString carpeta = En_Instalacion("LOG");
+    if (!QDir().mkpath(carpeta)) return false;
+    fichero.setFileName(Nombre_Libre(QStringLiteral("%1/recepcion_%2_%3_%4")
+                                         .arg(carpeta, momento.toString("yyyyMMdd_HHmmss"), maquina)
+                                         .arg(operacion)));
+    if (!fichero.open(QIODevice::WriteOnly | QIODevice::Unbuffered | QIODevice::NewOnly)) return false;
+    plataforma::Sincronizar_Carpeta(carpeta);
+    return true;
+}
+
+bool Diario_Recepcion::Al_Disco()
+{
+    if (pendiente.isEmpty()) return true;
+    bool bien = Abrir();
+    if (bien) {
+        const qint64 escritos = fichero.write(pendiente);
+        if (escritos > 0) pendiente.remove(0, escritos);
+        bien = plataforma::Sincronizar(fichero) && pendiente.isEmpty();
+    }
+    if (!bien && !fallo_anotado) {
+        fallo_anotado = true;
+        Anotar("Diario_Recepcion", "No se puede escribir " + fichero.fileName() + ": " +
+                                       fichero.errorString());
+    }
+    return bien;
+}
+
+void Diario_Recepcion::Terminar(bool guardada)
+{
+    if (!empezado) return;
+    al_disco.stop();
+    if (!guardada && con_datos) Al_Disco();
+    if (fichero.isOpen()) {
+        fichero.close();
+        if (guardada || !con_datos) fichero.remove();
+    }
+    fichero.setFileName(QString());
+    pendiente.clear();
+    empezado = con_datos = fallo_anotado = false;
+}
+
+QList<Rescate> Rescates()
+{
+    static const QRegularExpression forma(
+        QStringLiteral("^recepcion_(\\d{8}_\\d{6})_(.+)_(\\d+)(?:-\\d+)?\\.dia$"));
+    QList<Rescate> lista;
+    const QDir carpeta(En_Instalacion("LOG"));
+    for (const QFileInfo& f : carpeta.entryInfoList({"*" + EXTENSION}, QDir::Files, QDir::Name)) {
+        Rescate r;
+        r.fichero = f.filePath();
+        r.bytes = f.size();
+        r.momento = f.lastModified();
+        if (const auto m = forma.match(f.fileName()); m.hasMatch()) {
+            r.momento = QDateTime::fromString(m.captured(1), "yyyyMMdd_HHmmss");
+            r.maquina = m.captured(2);
+            r.operacion = m.captured(3).toInt();
+        }
+        lista << r;
+    }
+    return lista;
+}
+
+QString Leer_Diario(const QString& fichero, const QString& maquina)
+{
+    const QByteArray bytes = Ficheros::Leer(fichero);
+    Recepcion = {};
+    bool terminada = false;
+    const Salida_Recepcion comm{[](const QByteArray&) {}, [&terminada] { terminada = true; }};
+    for (const char c : bytes) {
+        if (terminada) break;
+        Recibir_Caracter(c, maquina, comm);
+    }
+    const Estado_Recepcion leido = std::exchange(Recepcion, {});
+    if (maquina == u"NV400") return leido.Acumulado;
+    // The last record of a stream that broke off may lack its last figures.
+    if (!terminada && (maquina == u"KRT300" || maquina == u"PX7"))
+        return leido.Buffer.left(qMax<qsizetype>(leido.Buffer.lastIndexOf(u'_'), 0));
+    return leido.Buffer;
+}
