@@ -44,22 +44,3 @@ private:
     QTimer al_disco;
     bool empezado = false, con_datos = false, fallo_anotado = false;
 };
-
-/// A reception that was left behind.
-struct Rescate {
-    QString fichero;     ///< path
-    QString maquina;     ///< family key, from the name
-    int operacion = 0;
-    QDateTime momento;
-    qint64 bytes = 0;
-};
-
-/// Receptions left under LOG, oldest first; a file whose name tells nothing has an empty family.
-QList<Rescate> Rescates();
-
-/// Plays the bytes of a journal through the family's receive routine.
-/// @param maquina  family key
-/// @return the reception buffer: what was accepted, without the record or line that the end of the
-///         journal cut short (unless the instrument had ended the transmission)
-/// @throws Error_Ejecucion when the file can't be read
-QString Leer_Diario(const QString& fichero, const QString& maquina);

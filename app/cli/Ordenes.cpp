@@ -73,6 +73,8 @@ int Ejecutar_Orden(Contexto contexto, const QStringList& palabras)
     } catch (const Error_Uso& e) {
         contexto.Mensaje(e.texto);
         return MAL_USO;
+    } catch (const Orden_Rechazada&) {
+        return RECHAZADO;
     } catch (...) {
         const Error_Ejecucion e = Error_En_Curso();
         contexto.Mensaje(QStringLiteral("(%1) %2").arg(e.numero).arg(e.descripcion));

@@ -24,8 +24,12 @@ struct Contexto {
 /// Exit status of an order.
 enum Estado_Salida { HECHO = 0, RECHAZADO = 1, MAL_USO = 2 };
 
+/// Ends an order with status 1 when its reason has been said already.
+struct Orden_Rechazada {};
+
 /// One order of miraldos-cli. `ejecutar` gets the words behind the order's name and returns an exit
-/// status; it may throw Error_Uso (status 2) and Error_Ejecucion (status 1, message shown).
+/// status; it may throw Error_Uso (status 2), Error_Ejecucion (status 1, message shown) and
+/// Orden_Rechazada (status 1).
 struct Orden {
     QString nombre;
     QString uso;  ///< its words, for the help: "tabla ENTRADA SALIDA [--separador coma]"

@@ -1,0 +1,49 @@
+#include "app/cli/Instalacion.h"
+
+#include "core/Configuracion.h"
+#include "core/ModEstTotal.h"
+
+Instalacion::Instalacion(const Contexto& c) : contexto(c), interfaz(c)
+{
+    Ruta_Aplicacion = QDir::cleanPath(QDir(c.dir).absolutePath());
+    if (!Cargar_Configuracion(Ruta_Aplicacion)) throw Orden_Rechazada{};
+}
+
+Instalacion::~Instalacion()
+{
+    Base_Datos.reset();
+}
+
+void Instalacion::Elegir_Modelo(const QString& nombre) const
+{
+    Conjunto_Registros modelos = Base_Datos->OpenRecordset("KRT");
+    modelos.Index("PrimaryKey");
+    modelos.Seek({nombre});
+    if (modelos.NoMatch()) {
+        contexto.Mensaje("No existe el modelo " + nombre + " (véase miraldos-cli modelos)");
+        throw Orden_Rechazada{};
+    }
+    Nombre_Estacion = nombre;
+    Clave_Estacion = modelos.Texto("Clave");
+    Cargar_Estacion(nombre);
+}
+
+void Instalacion::Elegir_Maquina(const QString& clave) const
+{
+    if (!QStringList{"KRT300", "KRT800", "NV400", "PX7"}.contains(clave)) {
+        contexto.Mensaje("No existe la máquina " + clave + ": KRT300, KRT800, NV400 o PX7");
+        throw Orden_Rechazada{};
+    }
+    Clave_Estacion = clave;
+}
+
+void Instalacion::Comprobar_Operacion(int ope, const QString& tipo_ope) const
+{
+    Conjunto_Registros operaciones = Base_Datos->OpenRecordset("KRT2");
+    operaciones.Index("PrimaryKey");
+    operaciones.Seek({Clave_Estacion, ope, tipo_ope});
+    if (!operaciones.NoMatch()) return;
+    contexto.Mensaje(QStringLiteral("El modelo %1 no ofrece la operación %2 (véase miraldos-cli "
+                                    "operaciones)").arg(Nombre_Estacion).arg(ope));
+    throw Orden_Rechazada{};
+}

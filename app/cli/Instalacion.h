@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/cli/Interfaz_Consola.h"
+
+/// The program brought up for one order: console interface in use, settings read, database open.
+/// Everything is put back when it goes out of scope.
+class Instalacion {
+public:
+    /// @throws Orden_Rechazada when the settings or the database can't be read (the message is shown)
+    explicit Instalacion(const Contexto& contexto);
+    ~Instalacion();
+    Instalacion(const Instalacion&) = delete;
+    Instalacion& operator=(const Instalacion&) = delete;
+
+    /// Makes `nombre` the model in force. @throws Orden_Rechazada when there is no such model
+    void Elegir_Modelo(const QString& nombre) const;
+    /// Makes `clave` the family in force. @throws Orden_Rechazada when it is none of the four
+    void Elegir_Maquina(const QString& clave) const;
+    /// @throws Orden_Rechazada when the family in force doesn't offer the operation
+    void Comprobar_Operacion(int ope, const QString& tipo_ope) const;
+
+private:
+    Contexto contexto;
+    Interfaz_Consola interfaz;
+};
