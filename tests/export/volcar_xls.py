@@ -1,0 +1,49 @@
+"""Lists the cells of a workbook as xlrd reads them, in the lines that Volcado_Libro.h makes.
+
+Usage: volcar_xls.py FILE. A line: sheet, row, column, kind (T text, N number, V none), value, "n"
+when bold, "t" when the number format is "@"; tab separated. Numbers are the bits of the double.
+"""
+import struct
+import sys
+
+import xlrd
+
+TEXTO, NUMERO, VACIA = "T", "N", "V"
+
+
+def valor(celda):
+    if celda.ctype == xlrd.XL_CELL_TEXT:
+        return TEXTO, celda.value
+    if celda.ctype == xlrd.XL_CELL_ERROR:
+        return TEXTO, xlrd.error_text_from_code[celda.value]
+    if celda.ctype == xlrd.XL_CELL_BLANK:
+        return VACIA, ""
+    return NUMERO, struct.pack(">d", celda.value).hex()
+
+
+def escapar(texto):
+    for de, a in (("\\", "\\\\"), ("\t", "\\t"), ("\n", "\\n"), ("\r", "\\r")):
+        texto = texto.replace(de, a)
+    return texto
+
+
+def main():
+    libro = xlrd.open_workbook(sys.argv[1], formatting_info=True, logfile=sys.stderr)
+    salida = open(sys.stdout.fileno(), "w", encoding="utf-8", errors="surrogatepass", newline="\n")
+    for hoja in libro.sheets():
+        for columna, info in sorted(hoja.colinfo_map.items()):
+            print("ancho", hoja.name, columna, info.width, sep="\t", file=salida)
+        for f in range(hoja.nrows):
+            for c in range(hoja.ncols):
+                celda = hoja.cell(f, c)
+                if celda.ctype == xlrd.XL_CELL_EMPTY:
+                    continue
+                tipo, texto = valor(celda)
+                xf = libro.xf_list[celda.xf_index]
+                negrita = libro.font_list[xf.font_index].bold
+                como_texto = libro.format_map[xf.format_key].format_str == "@"
+                aspecto = ("n" if negrita else "") + ("t" if como_texto else "")
+                print(hoja.name, f, c, tipo, escapar(texto), aspecto, sep="\t", file=salida)
+
+
+main()
