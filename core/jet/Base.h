@@ -1,8 +1,9 @@
 #pragma once
 
+#include <memory>
+#include <QDateTime>
 #include <QString>
 #include <QVariant>
-#include <memory>
 
 class Base;
 class Conexion;
@@ -22,13 +23,17 @@ public:
     Conjunto_Registros(Conjunto_Registros&&) noexcept;
     Conjunto_Registros& operator=(Conjunto_Registros&&) noexcept;
 
-    /// Chooses the index for `Seek` (table recordsets); the name is compared without case.
+    /// Chooses the index for `Seek` (table recordsets) and the order of the moves; the name is
+    /// compared without case. The columns of each index stand in core/jet/Esquema.cpp.
     void Index(const QString& nombre);
     /// Looks for the first row whose leading index columns equal `claves`; `NoMatch` tells.
-    /// A text that holds a number equals the number of a numeric column.
+    /// A text that holds a number equals the number of a numeric column. Without a match there is
+    /// no current row. @throws Error_Ejecucion 3019 before `Index`, 3251 on another kind of
+    /// recordset
     void Seek(const QVariantList& claves);
     bool NoMatch() const;
-    /// Looks for the first row that meets an SQL condition.
+    /// Looks for the first row that meets an SQL condition; without a match the row stays.
+    /// @throws Error_Ejecucion 3251 on a query of several tables
     void FindFirst(const QString& criterio);
 
     /// Before the first, behind the last row; both are true for an empty set.
@@ -49,11 +54,17 @@ public:
     /// The same as text (null as empty text), as a whole number (null and letters as 0).
     QString Texto(const QString& campo) const;
     qint64 Entero(const QString& campo) const;
-    /// Names of the columns, in the order of the query.
+    /// True for the text "SI": how the store holds a boolean.
+    bool Es_Si(const QString& campo) const;
+    /// A stored moment; invalid for null.
+    QDateTime Momento(const QString& campo) const;
+    /// Names of the columns, in the order of the query; a name that stands twice with its table's.
     QStringList Columnas() const;
 
     void AddNew();
     void Edit();
+    /// A boolean is stored as "SI" or "NO", a QDateTime as its text.
+    /// @throws Error_Ejecucion 3265 no such column, 3164 a column that can't be written
     void Poner(const QString& campo, const QVariant& valor);
     void Update();
     void CancelUpdate();
@@ -63,9 +74,11 @@ public:
     /// Runs the query again; the current row is the first.
     void Requery();
 
+    /// Table, dynaset or snapshot behind this door.
+    class Datos;
+
 private:
     friend class Base;
-    struct Datos;
     explicit Conjunto_Registros(std::unique_ptr<Datos> datos);
     std::unique_ptr<Datos> d;
 };
@@ -104,6 +117,12 @@ public:
     /// Adds one row; `valores` in the order of the columns given to `Base::Preparar_Insercion`.
     void Anadir(const QVariantList& valores);
 
+    /// The same value by value, for the longest loops: columns from 0, those not put keep the value
+    /// of the row before.
+    void Poner(int columna, QStringView texto);
+    void Poner(int columna, qint64 numero);
+    void Anadir();
+
 private:
     friend class Base;
     struct Datos;
@@ -116,13 +135,15 @@ private:
 class Base {
 public:
     /// Opens an existing database. @throws Error_Ejecucion 3024 when the file is missing, 3343 when
-    /// it is no database or lacks tables, 3051 without permission, 3045 when another program holds it
+    /// it is no database or lacks tables, 3051 without permission, 3045 when another program holds
+    /// it
     static std::shared_ptr<Base> Abrir(const QString& fichero);
     /// Makes a new, empty database with every table of the program. Used by the build of the
     /// delivered template. @throws Error_Ejecucion 3204 when the file exists
     static std::shared_ptr<Base> Crear(const QString& fichero);
     /// Rewrites `origen` into the new file `destino`, dropping deleted space.
-    /// @throws Error_Ejecucion 3045 when another handle or program holds the source
+    /// @throws Error_Ejecucion 3045 when another program holds the source or this one is in the
+    /// middle of a transaction or a pass, 3204 when `destino` exists
     static void Compactar(const QString& origen, const QString& destino);
 
     ~Base();
@@ -133,6 +154,8 @@ public:
     Conjunto_Registros OpenRecordset(const QString& fuente);
     Conjunto_Registros OpenRecordset(const QString& fuente, Tipo_Conjunto tipo);
     /// Runs a DELETE, UPDATE or INSERT; `?` in the text take `valores`. @return rows touched
+    /// @throws Error_Ejecucion 3065 for a SELECT, 3061 unknown column, 3075 syntax, 3078 unknown
+    /// table, 3163, 3022, 3421 letters in a numeric column, 3058 null in an index
     qint64 Execute(const QString& sql, const QVariantList& valores = {});
     /// Passes through a query once.
     Recorrido Recorrer(const QString& sql, const QVariantList& valores = {});

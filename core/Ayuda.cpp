@@ -1,0 +1,29 @@
+#include "core/Ayuda.h"
+
+#include "core/ModEstTotal.h"
+
+int Paso_Ayuda = 1;
+
+namespace {
+constexpr int ANCHO_TEXTO = 80;
+constexpr int ANCHO_FOTO = 50;
+} // namespace
+
+QList<Paso> Leer_Pasos(const QString& tipo_ope, const QString& ope)
+{
+    const auto base = Base::Abrir(Fichero_MDB);
+    // The model's name, not its family: help is per model.
+    Recorrido r = base->Recorrer("SELECT Texto,Foto FROM Ayudas WHERE TipOpe = ? AND OPE = ? AND "
+                                 "Maquina = ? ORDER By Sec",
+                                 {tipo_ope, ope, Nombre_Estacion});
+    QList<Paso> pasos;
+    while (r.Siguiente())
+        pasos << Paso{r.Texto(0).left(ANCHO_TEXTO), r.Texto(1).left(ANCHO_FOTO)};
+    return pasos;
+}
+
+void Mostrar_Ayuda_Web(const QString& clave)
+{
+    Interfaz_Actual().Arrancar(En_Instalacion("ayudaweb.exe"),
+                               {En_Instalacion("Ayuda") + u',' + clave + QStringLiteral(".htm")});
+}

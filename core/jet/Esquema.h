@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// The tables of the program's database, the one description of them: the delivered template is
+/// made from it, and recordsets find here the columns of an index.
+namespace Esquema {
+
+/// How the program treats a column's value.
+enum class Tipo {
+    Texto,     ///< text of at most `ancho` characters
+    Memo,      ///< text without a limit
+    Entero,    ///< whole number
+    Entero_16, ///< whole number of 16 bits: beyond 32767 it overflows (error 6)
+    Fecha,     ///< text "YYYY-MM-DD HH:MM:SS", local time
+};
+
+struct Columna {
+    QString nombre;
+    Tipo tipo;
+    int ancho = 0; ///< characters, for `Texto`
+};
+
+/// A named index, for `Index` and `Seek`; its columns are never null.
+struct Indice {
+    QString nombre;
+    QStringList columnas; ///< in the order in which `Seek` takes its keys
+    bool unico = true;
+};
+
+struct Tabla {
+    QString nombre;
+    QList<Columna> columnas;
+    QList<Indice> indices;
+
+    /// Column or index by its name, compared without case; null when there is none.
+    const Columna* Buscar_Columna(const QString& nombre) const;
+    const Indice* Buscar_Indice(const QString& nombre) const;
+};
+
+/// All tables, in the order in which they are made.
+const QList<Tabla>& Tablas();
+/// A table by its name, compared without case; null when there is none.
+const Tabla* Buscar_Tabla(const QString& nombre);
+/// SQL that makes all tables and indexes in an empty database.
+QStringList Sentencias();
+
+/// Mark in the file's header that tells the program's databases from others' for file tools.
+inline constexpr qint32 MARCA_FICHERO = 0x4D495241;
+
+/// Names of the width and range checks begin so; errors are told apart by them.
+inline constexpr char PREFIJO_ANCHO[] = "ancho_";
+inline constexpr char PREFIJO_RANGO[] = "rango_";
+
+} // namespace Esquema
