@@ -125,6 +125,21 @@ std::optional<double> Numero_PK(QByteArrayView campo, Marca marca)
     return negativo ? -pk : pk;
 }
 
+bool Numeros(const Lista& campos, qsizetype desde, std::initializer_list<double*> destinos,
+             Marca marca)
+{
+    for (double* destino : destinos) {
+        *destino = 0;
+        if (desde < campos.size()) {
+            const auto n = Numero(campos[desde], marca);
+            if (!n) return false;
+            *destino = *n;
+        }
+        ++desde;
+    }
+    return true;
+}
+
 std::optional<double> Sexagesimal_A_Gon(QByteArrayView campo)
 {
     QByteArrayView t = Recortar(campo);

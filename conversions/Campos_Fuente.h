@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <optional>
 #include <QByteArrayView>
 #include <QString>
@@ -32,6 +33,11 @@ std::optional<double> Numero(QByteArrayView campo, Marca marca = Marca::Punto_O_
 
 /// Reads a station: a number, or "k+mmm.mmm" (1+250.000 is 1250; a sign in front holds for all).
 std::optional<double> Numero_PK(QByteArrayView campo, Marca marca = Marca::Punto_O_Coma);
+
+/// Reads the numbers of the fields from `desde` on into `destinos`, one a field; a field that isn't
+/// there leaves 0. @return false at the first field that is no number
+bool Numeros(const Lista& campos, qsizetype desde, std::initializer_list<double*> destinos,
+             Marca marca = Marca::Punto_O_Coma);
 
 /// Reads an angle in packed sexagesimal degrees "d.mmssff" (45.3015 is 45°30'15").
 /// @return gon; nothing when it is no number or holds 60 minutes or seconds

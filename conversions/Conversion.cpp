@@ -1,7 +1,7 @@
 #include "conversions/Conversion.h"
 
 #include "conversions/Escritura.h"
-#include "core/Error_Ejecucion.h"
+#include "core/Ficheros.h"
 
 #include <QFileInfo>
 
@@ -18,7 +18,7 @@ int Convertir(const Peticion& p, Informe_Lectura& informe, Omisiones omisiones,
                 {QStringLiteral("El fichero destino debe ser diferente al origen"), 0, p.salida});
             return 0;
         }
-        Escritura::Guardar(p.salida, producir());
+        Ficheros::Escribir(p.salida, producir());
         return omisiones == Omisiones::Dan_Menos_Uno && informe.Hay_Omisiones() ? -1 : 1;
     } catch (const Fallo_Conversion& f) {
         informe.Fallar(f);

@@ -1,13 +1,11 @@
 #include "conversions/Escritura.h"
 
-#include "conversions/Informe_Lectura.h"
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <numbers>
+#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace Escritura {
 
@@ -35,15 +33,6 @@ QByteArray Azimut(double radianes)
     if (gon < 0) gon += 400;
     const QByteArray s = Fijo(gon, 4);
     return s == "400.0000" ? QByteArrayLiteral("0.0000") : s;
-}
-
-void Guardar(const QString& ruta, const QByteArray& bytes)
-{
-    QSaveFile fichero(ruta);
-    if (!fichero.open(QIODevice::WriteOnly) || fichero.write(bytes) != bytes.size() ||
-        !fichero.commit())
-        throw Fallo_Conversion{
-            "No se puede escribir el fichero de destino: " + fichero.errorString(), 0, ruta};
 }
 
 void Retirar_Destino(const QString& ruta)

@@ -3,8 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
-/// How the targets are written: numbers in fixed decimals, and files that appear whole or not at
-/// all.
+/// How the targets are written: numbers in fixed decimals, and what becomes of a target that
+/// failed.
 namespace Escritura {
 
 /// Appends `valor` with `decimales` places, "." as mark, no plus sign, and zero without a sign.
@@ -14,11 +14,6 @@ QByteArray Fijo(double valor, int decimales);
 /// Azimuth in gon with 4 places in [0, 400); what would round to 400.0000 is 0.0000.
 /// @param radianes  any turn
 QByteArray Azimut(double radianes);
-
-/// Writes a file whole or not at all: what stood under the name stays until the new one is
-/// complete.
-/// @throws Fallo_Conversion with the system's reason
-void Guardar(const QString& ruta, const QByteArray& bytes);
 
 /// Takes away what stands under the name of a target whose conversion failed: callers take a target
 /// that exists for a success, and an old road must not pass for the new one. Only a plain, writable

@@ -1,6 +1,30 @@
 #include "conversions/Conversion.h"
+#include "conversions/Escritor_Instrumento.h"
+#include "conversions/Escritor_LandXML.h"
+#include "conversions/Lectores_Rasante.h"
+
+namespace {
+
+using Conversion::Omisiones;
+using Lector_Rasante = Rasante (*)(Texto_Fuente&, Informe_Lectura&);
+
+template <Lector_Rasante LEER>
+constexpr Operacion AL_INSTRUMENTO =
+    Conversion::Fichero<LEER, Escribir_Rasante_Instrumento, Omisiones::Dan_Menos_Uno>;
+
+template <Lector_Rasante LEER>
+constexpr Operacion A_LANDXML =
+    Conversion::Fichero<LEER, Escribir_LandXML_Ahora<Rasante>, Omisiones::Dan_Menos_Uno>;
+
+} // namespace
 
 std::vector<Funcion> Filas_Rasantes()
 {
-    return {};
+    constexpr const char* DOS = "ENTRADA SALIDA";
+    return {
+        {"ristram2krt", DOS, AL_INSTRUMENTO<Leer_Rasante_Istram_O_Alz>},
+        {"rqsv2krt", DOS, AL_INSTRUMENTO<Leer_Rasante_Qsv>},
+        {"ristram2landxml", DOS, A_LANDXML<Leer_Rasante_Istram_O_Alz>},
+        {"rqsv2landxml", DOS, A_LANDXML<Leer_Rasante_Qsv>},
+    };
 }

@@ -27,7 +27,6 @@ class TestEscritura : public QObject {
 private Q_SLOTS:
     void numeros_fijos();
     void azimutes();
-    void se_guarda_entero_o_nada();
     void con_cero_no_queda_destino();
     void el_destino_no_puede_ser_el_origen();
     void una_carpeta_no_es_origen_ni_destino();
@@ -57,18 +56,6 @@ void TestEscritura::azimutes()
     QCOMPARE(Escritura::Azimut(399.99996 * gon), "0.0000");
     QCOMPARE(Escritura::Azimut(-0.00001 * gon), "0.0000");
     QCOMPARE(Escritura::Azimut(399.99994 * gon), "399.9999");
-}
-
-void TestEscritura::se_guarda_entero_o_nada()
-{
-    QTemporaryDir d;
-    const QString ruta = d.filePath("a.ssh");
-    Escritura::Guardar(ruta, "uno\r\n");
-    QCOMPARE(Leer(ruta), "uno\r\n");
-    Escritura::Guardar(ruta, "dos");
-    QCOMPARE(Leer(ruta), "dos");
-    QVERIFY_EXCEPTION_THROWN(Escritura::Guardar(d.filePath("no/hay/a.ssh"), "x"), Fallo_Conversion);
-    QCOMPARE(QDir(d.path()).entryList(QDir::Files), QStringList{"a.ssh"});
 }
 
 void TestEscritura::con_cero_no_queda_destino()
