@@ -11,3 +11,9 @@ struct Punto {
     QString z;
     QString codigo;
 };
+
+/// Points in the order of their source.
+struct Puntos {
+    QString nombre; ///< of the file
+    std::vector<Punto> lista;
+};
