@@ -7,6 +7,20 @@
 
 namespace Conversion {
 
+namespace {
+
+void Guardar(const QString& ruta, const QByteArray& bytes)
+{
+    try {
+        Ficheros::Escribir(ruta, bytes);
+    } catch (const Error_Ejecucion& e) {
+        throw Fallo_Conversion{
+            "No se puede escribir el fichero de destino: " + e.descripcion, 0, {}};
+    }
+}
+
+} // namespace
+
 int Convertir(const Peticion& p, Informe_Lectura& informe, Omisiones omisiones,
               const std::function<QByteArray()>& producir)
 {
@@ -18,7 +32,7 @@ int Convertir(const Peticion& p, Informe_Lectura& informe, Omisiones omisiones,
                 {QStringLiteral("El fichero destino debe ser diferente al origen"), 0, p.salida});
             return 0;
         }
-        Ficheros::Escribir(p.salida, producir());
+        Guardar(p.salida, producir());
         return omisiones == Omisiones::Dan_Menos_Uno && informe.Hay_Omisiones() ? -1 : 1;
     } catch (const Fallo_Conversion& f) {
         informe.Fallar(f);
