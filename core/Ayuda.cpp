@@ -22,6 +22,28 @@ QList<Paso> Leer_Pasos(const QString& tipo_ope, const QString& ope)
     return pasos;
 }
 
+QList<Paso> Abrir_Pasos(const QString& tipo_ope, const QString& ope)
+{
+    const QList<Paso> pasos = Leer_Pasos(tipo_ope, ope);
+    if (pasos.isEmpty())
+        Interfaz_Actual().Mensaje(
+            QStringLiteral("No hay ayuda disponible en esta máquina para esta acción"),
+            Icono::Exclamacion);
+    return pasos;
+}
+
+Vista_Paso Ver_Paso(const QList<Paso>& pasos, int n)
+{
+    Vista_Paso v;
+    v.atras = n > 1;
+    v.fin = n > pasos.size();
+    if (v.fin || n < 1) return v;
+    v.texto = Basico::Trim(pasos[n - 1].texto);
+    const QString foto = En_Instalacion(QStringLiteral("bmphlp/") + pasos[n - 1].foto);
+    if (FileExist(foto)) v.foto = foto;
+    return v;
+}
+
 void Mostrar_Ayuda_Web(const QString& clave)
 {
     Interfaz_Actual().Arrancar(En_Instalacion("ayudaweb.exe"),

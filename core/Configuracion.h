@@ -24,7 +24,8 @@ Ajustes Ajustes_Actuales();
 /// Then `Sucesos::ajustes_guardados`. A failure shows its box. @return true when all was written
 bool Guardar_Configuracion(const Ajustes& ajustes);
 
-/// The fixed lists of the settings dialog, in their order (the port list has its duplicate and gap).
+/// The fixed lists of the settings dialog, in their order (the port list has its duplicate and
+/// gap).
 const QStringList& Lista_Puertos();
 const QStringList& Lista_Bits();
 const QStringList& Lista_Paridades();

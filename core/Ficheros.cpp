@@ -45,14 +45,39 @@ QByteArray Ficheros::Leer(const QString& ruta)
     return bytes;
 }
 
-void Ficheros::Escribir(const QString& ruta, const QByteArray& bytes)
+// Opens the file that takes the place of `ruta` when it is committed.
+static void Abrir_Escritura(QSaveFile& fichero, const QString& ruta)
 {
     if (ruta.isEmpty()) throw Error_Ejecucion(52);
     const QFileInfo donde(ruta);
     if (donde.isDir()) throw Error_Con_Nombre(75, ruta);
     if (!donde.absoluteDir().exists()) throw Error_Con_Nombre(76, ruta);
-    QSaveFile fichero(ruta);
-    if (!fichero.open(QIODevice::WriteOnly) || fichero.write(bytes) != bytes.size() ||
-        !fichero.commit())
-        throw Error_De(fichero);
+    fichero.setFileName(ruta);
+    // A file marked read-only is told as a failed write: nothing has been written yet.
+    if (!fichero.open(QIODevice::WriteOnly)) throw Error_Con_Nombre(70, ruta);
+}
+
+void Ficheros::Escribir(const QString& ruta, const QByteArray& bytes)
+{
+    QSaveFile fichero;
+    Abrir_Escritura(fichero, ruta);
+    if (fichero.write(bytes) != bytes.size() || !fichero.commit()) throw Error_De(fichero);
+}
+
+void Ficheros::Copiar(const QString& origen, const QString& destino)
+{
+    constexpr qint64 TRAMO = 1024 * 1024;
+    const QFileInfo donde(origen);
+    if (!donde.exists()) throw Error_Con_Nombre(53, origen);
+    if (donde.isDir()) throw Error_Con_Nombre(75, origen);
+    QFile de(origen);
+    if (!de.open(QIODevice::ReadOnly)) throw Error_De(de);
+    QSaveFile a;
+    Abrir_Escritura(a, destino);
+    while (!de.atEnd()) {
+        const QByteArray tramo = de.read(TRAMO);
+        if (tramo.isEmpty()) throw Error_De(de);
+        if (a.write(tramo) != tramo.size()) throw Error_De(a);
+    }
+    if (!a.commit()) throw Error_De(a);
 }

@@ -21,6 +21,10 @@ QByteArray Leer(const QString& ruta);
 ///         folder, 70 without permission, 61 on a full disk, 57 when the device fails otherwise
 void Escribir(const QString& ruta, const QByteArray& bytes);
 
+/// Copies a file of any size; `destino` appears whole or stays as it was.
+/// @throws Error_Ejecucion as `Leer` for the one and `Escribir` for the other
+void Copiar(const QString& origen, const QString& destino);
+
 /// The failure that `fichero` reports, with the reason the system gave.
 Error_Ejecucion Error_De(const QFileDevice& fichero);
 

@@ -1,0 +1,105 @@
+#include "core/Perfil.h"
+
+#include "core/Ansi.h"
+#include "core/Ficheros.h"
+
+#include <QFileInfo>
+#include <QStringList>
+
+namespace {
+
+bool Iguales(QStringView a, QStringView b)
+{
+    return a.trimmed().compare(b.trimmed(), Qt::CaseInsensitive) == 0;
+}
+
+QStringList Lineas(const QString& fichero)
+{
+    if (!QFileInfo::exists(fichero)) return {};
+    QString texto = Ansi::A_Texto(Ficheros::Leer(fichero));
+    texto.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    if (texto.endsWith(u'\n')) texto.chop(1);
+    return texto.isEmpty() ? QStringList() : texto.split(u'\n');
+}
+
+bool Es_Seccion(QStringView linea)
+{
+    return linea.trimmed().startsWith(u'[');
+}
+
+// First line behind the heading of a section, or -1.
+qsizetype Dentro_De(const QStringList& lineas, const QString& seccion)
+{
+    for (qsizetype i = 0; i < lineas.size(); ++i) {
+        const QStringView l = QStringView(lineas[i]).trimmed();
+        if (!Es_Seccion(l)) continue;
+        const qsizetype cierre = l.indexOf(u']');
+        if (Iguales(cierre < 0 ? l.mid(1) : l.mid(1, cierre - 1), seccion)) return i + 1;
+    }
+    return -1;
+}
+
+// Line of a key in the section that begins at `desde`, or -1.
+qsizetype Linea_De(const QStringList& lineas, qsizetype desde, const QString& clave)
+{
+    if (desde < 0) return -1;
+    for (qsizetype i = desde; i < lineas.size() && !Es_Seccion(lineas[i]); ++i) {
+        const qsizetype igual = lineas[i].indexOf(u'=');
+        if (igual > 0 && !QStringView(lineas[i]).trimmed().startsWith(u';') &&
+            Iguales(QStringView(lineas[i]).left(igual), clave))
+            return i;
+    }
+    return -1;
+}
+
+// Behind the last line of the section that says something.
+qsizetype Final_De(const QStringList& lineas, qsizetype desde)
+{
+    qsizetype final = desde;
+    for (qsizetype i = desde; i < lineas.size() && !Es_Seccion(lineas[i]); ++i)
+        if (!QStringView(lineas[i]).trimmed().isEmpty()) final = i + 1;
+    return final;
+}
+
+} // namespace
+
+QString Perfil::Leer(const QString& fichero, const QString& seccion, const QString& clave,
+                     const QString& defecto, int maximo)
+{
+    QStringList lineas;
+    try {
+        lineas = Lineas(fichero);
+    } catch (const Error_Ejecucion&) {
+        return defecto.left(maximo); // as a file that isn't there
+    }
+    const qsizetype i = Linea_De(lineas, Dentro_De(lineas, seccion), clave);
+    if (i < 0) return defecto.left(maximo);
+    return lineas[i].mid(lineas[i].indexOf(u'=') + 1).trimmed().left(maximo);
+}
+
+void Perfil::Escribir(const QString& fichero, const QString& seccion, const QString& clave,
+                      const QString& valor)
+{
+    QStringList lineas = Lineas(fichero);
+    qsizetype dentro = Dentro_De(lineas, seccion);
+    const qsizetype i = Linea_De(lineas, dentro, clave);
+    if (valor.isNull()) {
+        if (i < 0) return;
+        lineas.removeAt(i);
+    } else {
+        // A line break would make another key of the rest.
+        const QString linea = clave + u'=' + valor.section(u'\r', 0, 0).section(u'\n', 0, 0);
+        if (dentro < 0) {
+            lineas << u'[' + seccion + u']';
+            dentro = lineas.size();
+        }
+        if (i >= 0)
+            lineas[i] = linea;
+        else
+            lineas.insert(Final_De(lineas, dentro), linea);
+    }
+    QByteArray bytes;
+    for (const QString& l : lineas)
+        bytes += Ansi::A_Bytes(l) + "\r\n";
+    Ficheros::Escribir(fichero, bytes);
+}

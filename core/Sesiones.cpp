@@ -1,0 +1,102 @@
+#include "core/Sesiones.h"
+
+#include "core/Ficheros.h"
+#include "core/jet/Compactacion.h"
+#include "core/ModEstTotal.h"
+#include "core/ModLOG.h"
+#include "core/Reloj.h"
+#include "core/Sucesos.h"
+
+#include <limits>
+#include <QFile>
+
+namespace {
+
+constexpr qint64 MAXIMA_SESION = std::numeric_limits<qint16>::max();
+
+Base& Base_Abierta()
+{
+    if (!Base_Datos) throw Error_Ejecucion(91);
+    return *Base_Datos;
+}
+
+void Anotar_Fallo(const char* donde)
+{
+    const Error_Ejecucion e = Error_En_Curso();
+    Anotar(QString::fromLatin1(donde), QStringLiteral("(%1) %2").arg(e.numero).arg(e.descripcion));
+}
+
+} // namespace
+
+QString Nueva_Sesion(const QString& nombre, int ope)
+{
+    try {
+        const int id = Siguiente_ID();
+        // Lines that a failed deletion left behind are no part of the new session.
+        Base_Abierta().Execute("DELETE FROM Registros WHERE ID = ?", {id});
+        Conjunto_Registros sesiones = Base_Abierta().OpenRecordset("Sesiones");
+        sesiones.AddNew();
+        sesiones.Poner("ID", id);
+        sesiones.Poner("Fecha", Reloj_Actual().Ahora());
+        sesiones.Poner("NFichero", nombre);
+        sesiones.Poner("OPE", ope);
+        sesiones.Poner("Maquina", Clave_Estacion);
+        sesiones.Poner("MaqDes", Nombre_Estacion);
+        sesiones.Update();
+        return QString::number(id);
+    } catch (...) {
+        Anotar_Fallo("Nueva_Sesion");
+        return {};
+    }
+}
+
+QString Ultima_Sesion()
+{
+    Conjunto_Registros sesiones = Base_Abierta().OpenRecordset("Sesiones");
+    if (sesiones.Es_EOF()) return {};
+    sesiones.MoveLast();
+    return sesiones.Texto("ID");
+}
+
+int Siguiente_ID()
+{
+    const qint64 ultima = Ultima_Sesion().toLongLong();
+    if (ultima >= MAXIMA_SESION) throw Error_Ejecucion(6);
+    return int(ultima) + 1;
+}
+
+void Eliminar_Sesion(qint64 id)
+{
+    Base& base = Base_Abierta();
+    Transaccion t(base);
+    base.Execute("DELETE FROM Sesiones WHERE ID = ?", {id});
+    base.Execute("DELETE FROM Registros WHERE ID = ?", {id});
+    t.Confirmar();
+    Q_EMIT Sucesos::Unico().sesiones_cambiadas();
+}
+
+bool Compactar_BD()
+{
+    const QString compactada = Ruta_MDB + QStringLiteral("/esttotal.pak");
+    bool hecho = false;
+    try {
+        Compactacion c(Fichero_MDB);
+        if (Base_Datos) Base_Datos->Close();
+        Base_Datos.reset();
+        QFile::remove(compactada);
+        c.Escribir(compactada);
+        Ficheros::Copiar(compactada, Ruta_MDB + QStringLiteral("/esttotal.bak"));
+        c.Sustituir(compactada);
+        hecho = true;
+    } catch (...) {
+        Anotar_Fallo("Compactar_BD");
+        QFile::remove(compactada);
+    }
+    try {
+        Base_Datos = Base::Abrir(Fichero_MDB);
+    } catch (...) {
+        Anotar_Fallo("Compactar_BD");
+    }
+    Q_EMIT Sucesos::Unico().base_reabierta();
+    return hecho;
+}
