@@ -5,6 +5,7 @@
 #include "conversions/Lectores_Puntos.h"
 #include "conversions/Monitorizacion.h"
 #include "conversions/Nivel_IGN.h"
+#include "core/Ficheros.h"
 
 using namespace Conversion;
 
@@ -30,7 +31,7 @@ int Procesar_Cabecera(const Peticion& p, Informe_Lectura& informe)
         return Monitorizacion::Escribir_Cabecera(Monitorizacion::Leer_Cabecera(fuente));
     });
     if (hecho == 0 && !p.salida.isEmpty() && !Escritura::Mismo_Fichero(p.entrada, p.salida))
-        Escritura::Guardar(p.salida, Monitorizacion::Escribir_Cabecera({}));
+        Ficheros::Escribir(p.salida, Monitorizacion::Escribir_Cabecera({}));
     return hecho;
 }
 

@@ -1,4 +1,5 @@
 #include "conversions/Conversion.h"
+#include "conversions/Escritor_LandXML.h"
 #include "conversions/Escritor_Secciones.h"
 #include "conversions/Lectores_Secciones.h"
 
@@ -9,6 +10,9 @@ namespace {
 
 template <auto Leer>
 constexpr Operacion A_Ssp = Fichero<Leer, Escritor_Secciones::Ssp, Omisiones::No_Cuentan>;
+template <auto Leer>
+constexpr Operacion A_LandXML =
+    Fichero<Leer, Escribir_LandXML_Ahora<Secciones>, Omisiones::No_Cuentan>;
 
 } // namespace
 
@@ -21,5 +25,10 @@ std::vector<Funcion> Filas_Secciones()
         {"istram2krt", "ENTRADA SALIDA", A_Ssp<Por_PK>},
         {"htrazado2krt", "ENTRADA SALIDA", A_Ssp<Por_PK>},
         {"mxroad2krt", "ENTRADA SALIDA", A_Ssp<Mxroad>},
+        {"traclip2landxml", "ENTRADA SALIDA", A_LandXML<Clip_Bloques>},
+        {"tracliptrv2landxml", "ENTRADA SALIDA", A_LandXML<Clip_Filas>},
+        {"traqsv2landxml", "ENTRADA SALIDA", A_LandXML<Qsv>},
+        {"traistram2landxml", "ENTRADA SALIDA", A_LandXML<Por_PK>},
+        {"trahtrazado2lamdxml", "ENTRADA SALIDA", A_LandXML<Por_PK>},
     };
 }
