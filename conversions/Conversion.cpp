@@ -1,25 +1,11 @@
 #include "conversions/Conversion.h"
 
 #include "conversions/Escritura.h"
-#include "core/Ficheros.h"
+#include "core/Error_Ejecucion.h"
 
 #include <QFileInfo>
 
 namespace Conversion {
-
-namespace {
-
-void Guardar(const QString& ruta, const QByteArray& bytes)
-{
-    try {
-        Ficheros::Escribir(ruta, bytes);
-    } catch (const Error_Ejecucion& e) {
-        throw Fallo_Conversion{
-            "No se puede escribir el fichero de destino: " + e.descripcion, 0, {}};
-    }
-}
-
-} // namespace
 
 int Convertir(const Peticion& p, Informe_Lectura& informe, Omisiones omisiones,
               const std::function<QByteArray()>& producir)
@@ -32,7 +18,7 @@ int Convertir(const Peticion& p, Informe_Lectura& informe, Omisiones omisiones,
                 {QStringLiteral("El fichero destino debe ser diferente al origen"), 0, p.salida});
             return 0;
         }
-        Guardar(p.salida, producir());
+        Escritura::Guardar(p.salida, producir());
         return omisiones == Omisiones::Dan_Menos_Uno && informe.Hay_Omisiones() ? -1 : 1;
     } catch (const Fallo_Conversion& f) {
         informe.Fallar(f);

@@ -1,5 +1,8 @@
 #include "conversions/Escritura.h"
 
+#include "conversions/Informe_Lectura.h"
+#include "core/Ficheros.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -33,6 +36,16 @@ QByteArray Azimut(double radianes)
     if (gon < 0) gon += 400;
     const QByteArray s = Fijo(gon, 4);
     return s == "400.0000" ? QByteArrayLiteral("0.0000") : s;
+}
+
+void Guardar(const QString& ruta, const QByteArray& bytes)
+{
+    try {
+        Ficheros::Escribir(ruta, bytes);
+    } catch (const Error_Ejecucion& e) {
+        throw Fallo_Conversion{"No se puede escribir el fichero de destino: " + e.descripcion, 0,
+                               {}};
+    }
 }
 
 void Retirar_Destino(const QString& ruta)

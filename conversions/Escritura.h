@@ -15,6 +15,10 @@ QByteArray Fijo(double valor, int decimales);
 /// @param radianes  any turn
 QByteArray Azimut(double radianes);
 
+/// Writes a target whole or not at all: what stood under the name stays until the new one is
+/// complete. @throws Fallo_Conversion with the system's reason
+void Guardar(const QString& ruta, const QByteArray& bytes);
+
 /// Takes away what stands under the name of a target whose conversion failed: callers take a target
 /// that exists for a success, and an old road must not pass for the new one. Only a plain, writable
 /// file is taken away.
