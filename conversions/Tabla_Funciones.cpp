@@ -18,7 +18,7 @@ Peticion Repartir(const Funcion& f, const QStringList& argumentos)
     for (qsizetype i = 0; i < argumentos.size(); ++i) {
         if (nombres[i] == u"ENTRADA") {
             p.entrada = argumentos[i];
-        } else if (nombres[i] == u"SALIDA") {
+        } else if (nombres[i] == u"SALIDA" || nombres[i] == u"[SALIDA]") {
             p.salida = argumentos[i];
         } else {
             p.datos << argumentos[i];
@@ -33,7 +33,8 @@ const std::vector<Funcion>& Tabla_Funciones()
 {
     static const std::vector<Funcion> tabla = [] {
         std::vector<Funcion> t;
-        for (const auto filas : {Filas_Ejes, Filas_Rasantes, Filas_Secciones, Filas_Puntos})
+        for (const auto filas :
+             {Filas_Ejes, Filas_Rasantes, Filas_Secciones, Filas_Puntos, Filas_LandXML})
             for (const Funcion& f : filas())
                 t.push_back(f);
         return t;

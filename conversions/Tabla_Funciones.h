@@ -10,7 +10,7 @@
 /// What a function of the library is asked: its arguments, sorted by their use.
 struct Peticion {
     QString entrada;   ///< source path
-    QString salida;    ///< target path; empty for a list function
+    QString salida;    ///< target path; of a list function the list file, empty for the usual one
     QStringList datos; ///< the other arguments in their order (index, names, texts, second source)
 };
 
@@ -33,6 +33,7 @@ std::vector<Funcion> Filas_Ejes();
 std::vector<Funcion> Filas_Rasantes();
 std::vector<Funcion> Filas_Secciones();
 std::vector<Funcion> Filas_Puntos();
+std::vector<Funcion> Filas_LandXML();
 
 /// @param nombre  with or without "MyDll_"
 /// @return the row, or null when no function has that name
