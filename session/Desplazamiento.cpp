@@ -50,12 +50,20 @@ QString Desplazamiento_Aceptado(const QString& texto, const QString& formato)
 
 } // namespace
 
-Anchos_Numero Anchos_Numero::Leer(const QString& formato)
+Anchos_Numero Anchos_Numero::Leer(QStringView formato)
 {
-    const auto ancho = [&](int n) {
-        return std::clamp(int(Trozo(n, formato, u',').trimmed().toInt()), 0, 18);
+    const auto ancho = [](QStringView t) {
+        t = t.trimmed();
+        int n = 0;
+        for (qsizetype i = 0; i < t.size() && t[i] >= u'0' && t[i] <= u'9'; ++i)
+            n = std::min(n * 10 + int(t[i].unicode() - u'0'), 18);
+        return n;
     };
-    return {ancho(1), ancho(2)};
+    const qsizetype coma = formato.indexOf(u',');
+    if (coma < 0) return {ancho(formato), 0};
+    const QStringView segundo = formato.mid(coma + 1);
+    const qsizetype otra = segundo.indexOf(u',');
+    return {ancho(formato.left(coma)), ancho(otra < 0 ? segundo : segundo.left(otra))};
 }
 
 Decimal Valor_Desplazamiento(const QString& texto, const QString& formato)

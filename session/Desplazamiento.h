@@ -15,7 +15,7 @@ inline constexpr char16_t FORMATO_COORDENADA[] = u"7,3";
 struct Anchos_Numero {
     int enteros = 0, decimales = 0;
     /// A part that is missing, or no number, is 0; none goes above 18.
-    static Anchos_Numero Leer(const QString& formato);
+    static Anchos_Numero Leer(QStringView formato);
 };
 
 /// Number that an offset's text stands for. Behind the sign, exactly e + d digits without a point

@@ -112,6 +112,11 @@ QString Base::Fichero() const
     return Viva(conexion).Fichero();
 }
 
+quint64 Base::Version() const
+{
+    return Viva(conexion).Version();
+}
+
 void Base::Close()
 {
     conexion.reset();

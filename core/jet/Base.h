@@ -162,6 +162,9 @@ public:
     Insercion Preparar_Insercion(const QString& tabla, const QStringList& columnas);
 
     QString Fichero() const;
+    /// A number that stays as long as no row of the database was written, by this program or by
+    /// another one: what was worked out from rows then still holds.
+    quint64 Version() const;
     /// Closes this handle; what is opened on it afterwards raises 3420.
     void Close();
     bool Abierta() const;

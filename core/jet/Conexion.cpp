@@ -134,6 +134,7 @@ void Conexion::Abrir(bool crear)
 
 void Conexion::Configurar()
 {
+    version = 0;
     if (sqlite3_db_readonly(base, "main") == 1) throw Con_Detalle(3051, fichero);
     Ejecutar("PRAGMA journal_mode=WAL");
     Ejecutar("PRAGMA synchronous=NORMAL");
@@ -224,6 +225,18 @@ sqlite3_stmt* Conexion::Compilar(const QByteArray& sql)
             throw Con_Detalle(3142, QString::fromUtf8(resto));
         }
     return st;
+}
+
+quint64 Conexion::Version()
+{
+    static quint64 ultima = 0;
+    Sentencia s = Preparar("PRAGMA data_version");
+    s.Paso();
+    const qint64 de_otros = s.Entero(0), de_aqui = sqlite3_total_changes64(base);
+    if (version == 0 || de_otros != ajenos || de_aqui != propios) version = ++ultima;
+    ajenos = de_otros;
+    propios = de_aqui;
+    return version;
 }
 
 Sentencia Conexion::Preparar(const QByteArray& sql)

@@ -28,6 +28,9 @@ public:
     Conexion& operator=(const Conexion&) = delete;
 
     const QString& Fichero() const { return fichero; }
+    /// Grows whenever a row was written through this connection or any other; never the same for two
+    /// connections of the process.
+    quint64 Version();
     sqlite3* Manejador() const { return base; }
 
     /// A prepared statement, from the cache when one of the same text is idle.
@@ -66,6 +69,9 @@ private:
     QString fichero;
     sqlite3* base = nullptr;
     int nivel = 0;
+    // What `Version` last saw: changes made here, and the file's own count of those made elsewhere.
+    quint64 version = 0;
+    qint64 propios = -1, ajenos = -1;
     // Idle statements by text, the least lately used first.
     std::list<std::pair<QByteArray, sqlite3_stmt*>> libres;
     QHash<QByteArray, std::list<std::pair<QByteArray, sqlite3_stmt*>>::iterator> por_texto;

@@ -1,0 +1,105 @@
+#include "core/ModEstTotal.h"
+#include "core/Sucesos.h"
+#include "session/Decodificador.h"
+
+#include <QHash>
+
+namespace {
+
+using Clave = std::pair<QString, QString>;
+
+QString Doblar(const QString& texto)
+{
+    return Reemplazar(texto, "'", "''");
+}
+
+Fila_Campo Fila_De(const Conjunto_Registros& campos)
+{
+    Fila_Campo f;
+    f.maquina = campos.Texto("Maquina");
+    f.id = campos.Texto("ID");
+    f.campo = campos.Texto("Campo");
+    f.orden = int(campos.Entero("Orden"));
+    f.digitos = int(campos.Entero("Digitos"));
+    f.posdigit = campos.Texto("PosDigit");
+    f.forsalida = campos.Texto("Forsalida");
+    f.especial = campos.Texto("Especial");
+    f.marcas = campos.Texto("Marcas");
+    f.caracter = campos.Texto("Caracter");
+    return f;
+}
+
+// Rows of `Campos` by family and record kind, as long as nothing was written to the database.
+class Cache_Campos {
+public:
+    static Cache_Campos& Unica()
+    {
+        static Cache_Campos cache;
+        return cache;
+    }
+
+    Filas_Campo Pedir(Base& bd, const QString& maquina, const QString& id)
+    {
+        if (const quint64 version = bd.Version(); version != leida) {
+            filas.clear();
+            leida = version;
+        }
+        Filas_Campo& f = filas[{maquina, id}];
+        if (!f) f = Leer(bd, maquina, id);
+        return f;
+    }
+
+private:
+    Cache_Campos()
+    {
+        QObject::connect(&Sucesos::Unico(), &Sucesos::base_reabierta, [this] {
+            filas.clear();
+            leida = 0;
+        });
+    }
+
+    static Filas_Campo Leer(Base& bd, const QString& maquina, const QString& id)
+    {
+        auto leidas = std::make_shared<std::vector<Fila_Campo>>();
+        Conjunto_Registros campos =
+            bd.OpenRecordset("SELECT * FROM Campos WHERE Maquina = '" + Doblar(maquina) +
+                             "' AND ID = '" + Doblar(id) + "' ORDER BY Orden");
+        for (; !campos.Es_EOF(); campos.MoveNext())
+            leidas->push_back(Fila_De(campos));
+        return leidas;
+    }
+
+    QHash<Clave, Filas_Campo> filas;
+    quint64 leida = 0;
+};
+
+} // namespace
+
+Filas_Campo Campos_De(Base& bd, const QString& maquina, const QString& id)
+{
+    return Cache_Campos::Unica().Pedir(bd, maquina, id);
+}
+
+std::optional<Fila_Campo> Buscar_Campo_G(Base& bd, const QString& nombre, const QString& maquina,
+                                         int ope)
+{
+    Conjunto_Registros campos = bd.OpenRecordset("Campos");
+    campos.Index("MaqCam");
+    campos.Seek({maquina, nombre});
+    if (campos.NoMatch()) return std::nullopt;
+    Fila_Campo campo = Fila_De(campos);
+
+    Conjunto_Registros identificadores = bd.OpenRecordset("Identificadores");
+    identificadores.Index("PrimaryKey");
+    identificadores.Seek({maquina, ope, campo.id});
+    if (identificadores.NoMatch() || identificadores.Texto("tipo") != u"G") return std::nullopt;
+    return campo;
+}
+
+int Posicion_Campo(Base& bd, const QString& id, int orden)
+{
+    int posicion = 1;
+    for (const Fila_Campo& campo : *Campos_De(bd, Clave_Estacion, id))
+        if (campo.orden < orden) posicion += campo.digitos;
+    return posicion;
+}

@@ -1,0 +1,398 @@
+#include "session/Decodificador.h"
+
+#include "core/ModEstTotal.h"
+#include "core/ModLOG.h"
+#include "session/Desplazamiento.h"
+#include "session/Nivel.h"
+
+#include <algorithm>
+
+namespace {
+
+QStringView Sin_Blancos_Izquierda(QStringView t)
+{
+    qsizetype i = 0;
+    while (i < t.size() && t[i] == u' ')
+        ++i;
+    return t.mid(i);
+}
+
+QStringView Sin_Blancos(QStringView t)
+{
+    t = Sin_Blancos_Izquierda(t);
+    qsizetype n = t.size();
+    while (n > 0 && t[n - 1] == u' ')
+        --n;
+    return t.left(n);
+}
+
+QStringView Primera_Palabra(QStringView linea)
+{
+    linea = Sin_Blancos_Izquierda(linea);
+    const qsizetype blanco = linea.indexOf(u' ');
+    return blanco < 0 ? linea : linea.left(blanco);
+}
+
+QStringView Vista_Id(QStringView linea, QStringView maquina, int ope)
+{
+    if (maquina == u"NV400") return u"1";
+    if (maquina != u"KRT800") return Sin_Blancos_Izquierda(linea).left(1);
+    return ope == 4   ? QStringView(u"Punto")
+           : ope == 7 ? QStringView(u"Per.Trans")
+                      : Primera_Palabra(linea);
+}
+
+QStringView Vista_Trozo(int n, QStringView linea, QChar sep)
+{
+    qsizetype desde = 0;
+    for (; n > 1; --n) {
+        const qsizetype p = linea.indexOf(sep, desde);
+        if (p < 0) return {};
+        desde = p + 1;
+    }
+    const qsizetype p = linea.indexOf(sep, desde);
+    return linea.mid(desde, p < 0 ? -1 : p - desde);
+}
+
+bool Es_Texto(const Fila_Campo& campo)
+{
+    return Sin_Blancos(campo.posdigit) == u"*";
+}
+
+// A text that is to be split into integer and decimals holds digits; anything else is damage.
+void Exigir_Cifras(QStringView valor)
+{
+    if (!valor.isEmpty() && (valor.front() == u'+' || valor.front() == u'-')) valor = valor.mid(1);
+    const auto vale = [](QChar c) { return (c >= u'0' && c <= u'9') || c == u' ' || c == u'.'; };
+    if (!std::ranges::all_of(valor, vale)) throw Error_Ejecucion(13);
+}
+
+// The picture is the machine's, whose decimal mark is the comma; stored texts have the point.
+QString Aplicar_Formato(const QString& valor, const Fila_Campo& campo)
+{
+    QString numero = valor;
+    numero.replace(u'.', u',');
+    if (!Basico::IsNumeric(numero)) {
+        if (!Es_Texto(campo)) throw Error_Ejecucion(13);
+        return numero.replace(u',', u'.');
+    }
+    return Basico::Formato(numero, campo.forsalida).replace(u',', u'.');
+}
+
+// The digits of an integer part without the zeros in front; "0" when nothing else is left.
+QString Sin_Ceros(QStringView entera)
+{
+    QStringView t = Sin_Blancos(entera);
+    bool negativo = false;
+    if (!t.isEmpty() && (t.front() == u'+' || t.front() == u'-')) {
+        negativo = t.front() == u'-';
+        t = t.mid(1);
+    }
+    if (!std::ranges::all_of(t, [](QChar c) { return c >= u'0' && c <= u'9'; }))
+        throw Error_Ejecucion(13);
+    while (t.size() > 1 && t.front() == u'0')
+        t = t.mid(1);
+    const QString cifras = t.isEmpty() ? QStringLiteral("0") : t.toString();
+    return negativo ? u'-' + cifras : cifras;
+}
+
+// Value of a field in fixed columns. @param linea  without blanks around
+QString Valor_De_Columnas(QStringView linea, int posicion, const Fila_Campo& campo)
+{
+    QStringView corte;
+    if (campo.especial.contains(u"ED") && linea.contains(u'`'))
+        corte = linea.mid(linea.lastIndexOf(u'`') + 1);
+    else if (posicion <= linea.size())
+        corte = Sin_Blancos(linea.mid(posicion - 1, std::max(0, campo.digitos)));
+    if (corte.isEmpty()) return {};
+
+    QString valor = corte.toString();
+    if (!campo.marcas.isEmpty()) {
+        // The first place of a coordinate is its sign's.
+        if (valor.front() != u'-') valor[0] = u'+';
+        valor = Aplicar_Marca(QStringLiteral("D"), campo.marcas, valor, campo.posdigit);
+    } else {
+        if (!Es_Texto(campo)) {
+            if (!campo.caracter.isEmpty()) Exigir_Cifras(valor);
+            valor = Aplicar_Digitos(campo.posdigit, valor, campo.caracter);
+        }
+        if (!campo.forsalida.isEmpty()) valor = Aplicar_Formato(valor, campo);
+    }
+    return campo.especial.isEmpty() ? valor : Aplicar_Especial(valor, campo.especial);
+}
+
+// Value of a KRT800 token; nothing when the instrument sent no data.
+std::optional<QString> Valor_De_Token(QStringView token, const Fila_Campo& campo)
+{
+    if (token.startsWith(u'*')) return std::nullopt;
+    QString valor = token.toString();
+    if (valor.isEmpty()) return valor;
+    if (!campo.marcas.isEmpty())
+        valor = Aplicar_Marca(QStringLiteral("D"), campo.marcas, valor, campo.posdigit);
+    return campo.especial.isEmpty() ? valor : Aplicar_Especial(valor, campo.especial);
+}
+
+// What the tokens of a KRT800 line are counted in: the kinds with a word in front lose it.
+// @return nothing when there is no blank behind the word, so that the line holds no fields
+std::optional<QStringView> Sin_Palabra(QStringView linea, int ope)
+{
+    if (ope == 4 || ope == 7) return linea;
+    linea = Sin_Blancos_Izquierda(linea);
+    const qsizetype blanco = linea.indexOf(u' ');
+    if (blanco < 0) return std::nullopt;
+    return Sin_Blancos_Izquierda(linea.mid(blanco));
+}
+
+QChar Separador_800(int ope)
+{
+    return ope == 6 ? u' ' : u',';
+}
+
+// Item of a KRT800 `DatosG` that holds a field: identifier, field and value.
+std::optional<QStringView> Valor_General_800(QStringView datosg, const Fila_Campo& campo)
+{
+    for (const QStringView pieza : datosg.tokenize(QChar(SEP_LISTA)))
+        if (Vista_Trozo(1, pieza, SEP_CAMPO) == campo.id &&
+            Vista_Trozo(2, pieza, SEP_CAMPO) == campo.campo)
+            return Vista_Trozo(3, pieza, SEP_CAMPO);
+    return std::nullopt;
+}
+
+// Runs a routine that must leave quietly whatever happens.
+template <typename Rutina> void En_Silencio(const char* nombre, Rutina&& rutina)
+{
+    try {
+        rutina();
+    } catch (...) {
+        Anotar(QString::fromLatin1(nombre), Error_En_Curso().descripcion);
+    }
+}
+
+} // namespace
+
+QString Id_De_Linea(const QString& linea, const QString& maquina, int ope)
+{
+    return Vista_Id(linea, maquina, ope).toString();
+}
+
+QString Aplicar_Digitos(const QString& posdigit, const QString& valor, const QString& caracter)
+{
+    if (valor.isEmpty() || Sin_Blancos(posdigit) == u"*") return valor;
+    QString v = valor;
+    const bool negativo = v.front() == u'-';
+    if (negativo)
+        v.remove(0, 1);
+    else if (v.front() == u'+')
+        v[0] = u'0';
+    if (!caracter.isEmpty()) {
+        const auto [e, d] = Anchos_Numero::Leer(posdigit);
+        if (v.size() < d) v = v.rightJustified(d, u'0');
+        const qsizetype corte = v.size() - d;
+        const qsizetype inicio = std::max<qsizetype>(0, corte - e);
+        v = v.mid(inicio, corte - inicio) + caracter + v.mid(corte);
+    }
+    return negativo ? u'-' + v : v;
+}
+
+QString Aplicar_Especial(const QString& valor, const QString& lista)
+{
+    QString v = valor;
+    for (QStringView orden : QStringView(lista).tokenize(u',')) {
+        orden = Sin_Blancos(orden);
+        const qsizetype punto = v.indexOf(u'.');
+        if (orden == u"CD" && punto >= 0) {
+            while (v.size() > punto + 2 && v.endsWith(u'0'))
+                v.chop(1);
+        } else if (orden == u"CI" && punto >= 0) {
+            v = Sin_Ceros(QStringView(v).left(punto)) + v.mid(punto);
+        } else if (orden == u"ED") {
+            v = v.mid(v.lastIndexOf(u'`') + 1);
+        }
+    }
+    return v;
+}
+
+QString Aplicar_Marca(const QString& modo, const QString& marca, const QString& valor,
+                      const QString& posdigit)
+{
+    static const QString formato = QString::fromUtf16(FORMATO_COORDENADA);
+    const auto es = [&](QStringView cual) { return marca.compare(cual, Qt::CaseInsensitive) == 0; };
+    const QString* const desplazamiento = es(u"CX")   ? &Desp_X
+                                          : es(u"CY") ? &Desp_Y
+                                          : es(u"CZ") ? &Desp_Z
+                                                      : nullptr;
+    if (!desplazamiento) return valor;
+    return Sumar_Desplazamiento(modo, *desplazamiento, formato, valor, posdigit, formato);
+}
+
+void Cortar_Campo(const QString& linea, int posicion, const Fila_Campo& campo,
+                  const QStringList& nombres, QStringList& valores)
+{
+    const qsizetype lugar = nombres.indexOf(campo.campo);
+    if (lugar < 0) return;
+    valores[lugar].clear();
+    En_Silencio("Cortar_Campo",
+                [&] { valores[lugar] = Valor_De_Columnas(linea, posicion, campo); });
+}
+
+void Cortar_Token_800(int ope, const QString& linea, int indice, const Fila_Campo& campo,
+                      const QStringList& nombres, QStringList& valores)
+{
+    const auto resto = Sin_Palabra(linea, ope);
+    const qsizetype lugar = nombres.indexOf(campo.campo);
+    if (!resto || lugar < 0 || campo.marcas == u"NL") return;
+    const QStringView token = Vista_Trozo(indice, *resto, Separador_800(ope));
+    QString valor;
+    En_Silencio("Cortar_Token_800",
+                [&] { valor = Valor_De_Token(token, campo).value_or(valores[lugar]); });
+    valores[lugar] = valor;
+}
+
+void Cortar_NV400(const QString& linea, const QStringList& nombres, QStringList& valores)
+{
+    for (qsizetype k = 1; k < nombres.size(); ++k)
+        valores[k - 1] = Campo_NV400(linea, int(k));
+}
+
+void Extraer_Punto(Base& bd, qint64 sesion, const QString& maquina, int ope, const QString& punto,
+                   qint64 desde, qint64 hasta, const QStringList& nombres, QStringList& valores)
+{
+    for (QString& valor : valores)
+        valor.clear();
+    En_Silencio("Extraer_Punto", [&] {
+        Decodificador decodificador(bd, maquina, ope, nombres);
+        Conjunto_Registros registros = bd.OpenRecordset(
+            "SELECT * FROM Registros WHERE ID = " + QString::number(sesion) + " AND Punto = '" +
+            Reemplazar(punto, "'", "''") + "' AND Secuencia BETWEEN " + QString::number(desde) +
+            " AND " + QString::number(hasta) + " ORDER BY Secuencia");
+        for (; !registros.Es_EOF(); registros.MoveNext()) {
+            decodificador.Linea(registros.Texto("Datos"), valores);
+            decodificador.General(registros.Texto("DatosG"), valores);
+        }
+        decodificador.Poner_Punto(punto, valores);
+    });
+}
+
+void Decodificar_Linea(Base& bd, const QString& linea, const QString& punto, const QString& maquina,
+                       int ope, const QStringList& nombres, QStringList& valores)
+{
+    Q_UNUSED(punto)
+    En_Silencio("Decodificar_Linea",
+                [&] { Decodificador(bd, maquina, ope, nombres).Linea(linea, valores); });
+}
+
+void Decodificar_General(Base& bd, const QString& datosg, const QString& maquina,
+                         const QStringList& nombres, QStringList& valores, int ope)
+{
+    En_Silencio("Decodificar_General",
+                [&] { Decodificador(bd, maquina, ope, nombres).General(datosg, valores); });
+}
+
+Decodificador::Decodificador(Base& base, const QString& familia, int operacion,
+                             const QStringList& pedidos)
+    : bd(base), maquina(familia), ope(operacion), nombres(pedidos),
+      nivel(Clave_Estacion == u"NV400")
+{
+    for (qsizetype i = 0; i < nombres.size(); ++i)
+        if (nombres[i].compare(u"PUNTO", Qt::CaseInsensitive) == 0) puntos.push_back(i);
+}
+
+const Decodificador::Registro& Decodificador::Preparar(QStringView id)
+{
+    const auto hallado = registros.find(id);
+    if (hallado != registros.end()) return hallado->second;
+
+    Registro registro;
+    registro.filas = Campos_De(bd, maquina, id.toString());
+    const bool columnas = maquina != u"KRT800";
+    int posicion = columnas ? 2 : 1;
+    for (const Fila_Campo& campo : *registro.filas) {
+        const qsizetype lugar = nombres.indexOf(campo.campo);
+        if (lugar >= 0 && (columnas || campo.marcas != u"NL"))
+            registro.pasos.push_back({lugar, posicion, &campo});
+        posicion += columnas ? campo.digitos : 1;
+    }
+    return registros.emplace(id.toString(), std::move(registro)).first->second;
+}
+
+// A field that fails is emptied; the run log tells of the first one and spares the rest.
+template <typename Valor>
+void Decodificador::Guardar(QString& valor, QStringView linea, Valor&& sacar)
+{
+    try {
+        valor = sacar();
+    } catch (...) {
+        valor.clear();
+        const Error_Ejecucion error = Error_En_Curso();
+        if (!anotado)
+            Anotar("Decodificador", error.descripcion + ": " + linea.left(200).toString());
+        anotado = true;
+    }
+}
+
+void Decodificador::Linea(QStringView linea, QStringList& valores)
+{
+    const Registro& registro = Preparar(nivel ? QStringView(u"1") : Vista_Id(linea, maquina, ope));
+    if (maquina == u"KRT300" || maquina == u"PX7") {
+        const QStringView recortada = Sin_Blancos(linea);
+        for (const Paso& paso : registro.pasos)
+            Guardar(valores[paso.lugar], linea,
+                    [&] { return Valor_De_Columnas(recortada, paso.posicion, *paso.campo); });
+    } else if (maquina == u"KRT800") {
+        const auto resto = Sin_Palabra(linea, ope);
+        if (!resto) return;
+        for (const Paso& paso : registro.pasos) {
+            QString& valor = valores[paso.lugar];
+            const QStringView token = Vista_Trozo(paso.posicion, *resto, Separador_800(ope));
+            Guardar(valor, linea,
+                    [&] { return Valor_De_Token(token, *paso.campo).value_or(valor); });
+        }
+    } else if (maquina == u"NV400" && !registro.filas->empty()) {
+        Cortar_NV400(linea.toString(), nombres, valores);
+    }
+}
+
+void Decodificador::Preparar_Generales()
+{
+    generales.emplace();
+    for (qsizetype i = 0; i < nombres.size(); ++i) {
+        auto campo = Buscar_Campo_G(bd, nombres[i], maquina, ope);
+        // Only the fields marked so travel in the general data of a KRT800.
+        if (!campo || (maquina == u"KRT800" && campo->marcas != u"GE")) continue;
+        // A general value never gets an offset.
+        campo->marcas.clear();
+        generales->push_back({i, Posicion_Campo(bd, campo->id, campo->orden), std::move(*campo)});
+    }
+}
+
+bool Decodificador::Hay_Generales()
+{
+    if (!generales) Preparar_Generales();
+    return !generales->empty();
+}
+
+void Decodificador::General(const QString& datosg, QStringList& valores)
+{
+    if (datosg.isEmpty() || !Hay_Generales()) return;
+    for (const General_Pedido& pedido : *generales) {
+        QString& valor = valores[pedido.lugar];
+        if (maquina == u"KRT800") {
+            if (const auto token = Valor_General_800(datosg, pedido.campo))
+                Guardar(valor, datosg,
+                        [&] { return Valor_De_Token(*token, pedido.campo).value_or(valor); });
+            continue;
+        }
+        for (const QStringView pieza : QStringView(datosg).tokenize(QChar(SEP_LISTA))) {
+            if (pieza.left(1) != pedido.campo.id) continue;
+            Guardar(valor, datosg,
+                    [&] { return Valor_De_Columnas(pieza.mid(1), pedido.posicion, pedido.campo); });
+            break;
+        }
+    }
+}
+
+void Decodificador::Poner_Punto(const QString& punto, QStringList& valores) const
+{
+    for (const qsizetype lugar : puntos)
+        valores[lugar] = punto.mid(punto.lastIndexOf(u'`') + 1);
+}
