@@ -118,9 +118,10 @@ void Rellenar_IDs(const QString& ids, int ope)
         datosexport[0] = "Punto";
         return;
     }
+    // Stored identifiers have their apostrophes doubled, delivered ones may not.
     const QStringList piezas = ids.split(u' ');
     for (qsizetype i = 0; i < piezas.size() && i < MAX_IDS; ++i)
-        datosexport[i] = piezas[i];
+        datosexport[i] = Doblar(Reemplazar(piezas[i], "''", "'"));
 }
 
 bool esta_en_datosexport(const QString& id)
