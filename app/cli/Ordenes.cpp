@@ -1,5 +1,7 @@
 #include "app/cli/Ordenes.h"
 
+#include "app/cli/Ordenes_Conversion.h"
+
 #include "core/Error_Ejecucion.h"
 
 namespace {
@@ -17,6 +19,11 @@ const QList<Orden>& Ordenes()
 {
     static const QList<Orden> lista = {
         {"ayuda", "ayuda", Orden_Ayuda},
+        {"convertidor", "convertidor FUNCION ARGUMENTO...", Orden_Convertidor},
+        {"convertir",
+         "convertir ENTRADA SALIDA [--eje N] [--perfil NOMBRE] [--seccion A:B] "
+         "[--clase alineacion|rasante|transversal|puntos]",
+         Orden_Convertir},
     };
     return lista;
 }
