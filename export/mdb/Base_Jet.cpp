@@ -9,6 +9,7 @@
 #include "export/mdb/Orden_Jet.h"
 #include "export/mdb/Texto_Jet.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QVarLengthArray>

@@ -1,5 +1,6 @@
 #include "export/mdb/Base_Jet.h"
 #include "tests/apoyo/Prueba.h"
+#include "tools/revisar_mdb/Revisor.h"
 
 #include <bit>
 #include <QBuffer>
@@ -36,6 +37,7 @@ static quint32 Crc32(QByteArrayView bytes)
 static void Comparar(const QByteArray& fichero, const QMap<int, quint32>& esperadas)
 {
     constexpr int PAGINA = 4096;
+    QCOMPARE(Revisar_Mdb(fichero), QStringList());
     for (auto it = esperadas.begin(); it != esperadas.end(); ++it) {
         const quint32 crc = Crc32(QByteArrayView(fichero).sliced(it.key() * PAGINA, PAGINA));
         QVERIFY2(
