@@ -83,3 +83,9 @@ void Anotar(const QString& donde, const QString& texto)
         // There is nowhere left to tell it.
     }
 }
+
+void Anotar_Fallo(const QString& donde)
+{
+    const Error_Ejecucion e = Error_En_Curso();
+    Anotar(donde, QStringLiteral("(%1) %2").arg(e.numero).arg(e.descripcion));
+}

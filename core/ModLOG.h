@@ -13,3 +13,5 @@ QString Nombre_Log(const QString& prefijo, const QDateTime& momento);
 
 /// Run log (LOG/Miraldos.log) for failures on which the program is silent on screen; never fails.
 void Anotar(const QString& donde, const QString& texto);
+/// Notes the exception under way: to be called inside a `catch (...)`.
+void Anotar_Fallo(const QString& donde);

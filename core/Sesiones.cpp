@@ -20,15 +20,14 @@ Base& Base_Abierta()
     return *Base_Datos;
 }
 
-void Anotar_Fallo(const char* donde)
-{
-    const Error_Ejecucion e = Error_En_Curso();
-    Anotar(QString::fromLatin1(donde), QStringLiteral("(%1) %2").arg(e.numero).arg(e.descripcion));
-}
-
 } // namespace
 
 QString Nueva_Sesion(const QString& nombre, int ope)
+{
+    return Nueva_Sesion(nombre, ope, Clave_Estacion, Nombre_Estacion);
+}
+
+QString Nueva_Sesion(const QString& nombre, int ope, const QString& maquina, const QString& maqdes)
 {
     try {
         const int id = Siguiente_ID();
@@ -40,8 +39,8 @@ QString Nueva_Sesion(const QString& nombre, int ope)
         sesiones.Poner("Fecha", Reloj_Actual().Ahora());
         sesiones.Poner("NFichero", nombre);
         sesiones.Poner("OPE", ope);
-        sesiones.Poner("Maquina", Clave_Estacion);
-        sesiones.Poner("MaqDes", Nombre_Estacion);
+        sesiones.Poner("Maquina", maquina);
+        sesiones.Poner("MaqDes", maqdes);
         sesiones.Update();
         return QString::number(id);
     } catch (...) {

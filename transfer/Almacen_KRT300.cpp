@@ -84,7 +84,7 @@ Almacen_KRT300::~Almacen_KRT300()
     try {
         d->Confirmar();
     } catch (...) {
-        Anotar("Almacen_KRT300", Error_En_Curso().descripcion);
+        Anotar_Fallo("Almacen_KRT300");
     }
 }
 
@@ -133,8 +133,7 @@ bool Guardar_KRT300(const QString& buffer, qint64 id, const QString& maquina, in
         almacen.Confirmar();
         return true;
     } catch (...) {
-        const Error_Ejecucion e = Error_En_Curso();
-        Anotar("Guardar_KRT300", QStringLiteral("(%1) %2").arg(e.numero).arg(e.descripcion));
+        Anotar_Fallo("Guardar_KRT300");
         return false;
     }
 }

@@ -6,7 +6,6 @@
 #include "core/Sucesos.h"
 #include "transfer/NV400.h"
 #include "transfer/Puertos.h"
-#include "transfer/Recepcion.h"
 
 namespace {
 
@@ -23,7 +22,8 @@ const QList<int> OPERACIONES_CON_SESION = {0, 1, 3, 4, 6, 7, 11};
 } // namespace
 
 Descarga::Descarga(std::unique_ptr<Puerto_Serie> p, QObject* padre)
-    : QObject(padre), puerto(std::move(p))
+    : QObject(padre), puerto(std::move(p)),
+      comm{[this](const QByteArray& b) { Enviar(b); }, [this] { Saltar_a_Sesiones(); }}
 {
     connect(puerto.get(), &Puerto_Serie::evento, this, &Descarga::Evento);
     connect(puerto.get(), &Puerto_Serie::perdido, this, [this](const QString& motivo) {
@@ -126,8 +126,7 @@ void Descarga::Evento()
     try {
         Recibir_Byte();
     } catch (...) {
-        const Error_Ejecucion e = Error_En_Curso();
-        Anotar("Descarga", QStringLiteral("(%1) %2").arg(e.numero).arg(e.descripcion));
+        Anotar_Fallo("Descarga");
     }
 }
 
@@ -140,8 +139,7 @@ void Descarga::Recibir_Byte()
     const std::optional<char> c = puerto->Leer();
     if (!c) return;
     diario.Anotar_Byte(*c);
-    Recibir_Caracter(*c, datos.maquina,
-                     {[this](const QByteArray& b) { Enviar(b); }, [this] { Saltar_a_Sesiones(); }});
+    Recibir_Caracter(*c, datos.maquina, comm);
 }
 
 void Descarga::Mover_Rayo()
@@ -180,8 +178,7 @@ void Descarga::Procesar()
         resultado = Procesar_Recepcion(datos);
     } catch (...) {
         // The user hears nothing more here; the journal keeps what came.
-        const Error_Ejecucion e = Error_En_Curso();
-        Anotar("Procesar_Recepcion", QStringLiteral("(%1) %2").arg(e.numero).arg(e.descripcion));
+        Anotar_Fallo("Procesar_Recepcion");
     }
     procesando = false;
     datos.buffer.clear();
@@ -201,7 +198,7 @@ void Descarga::Terminar()
         if (guardada) Base_Datos->Sincronizar();
     } catch (...) {
         guardada = false;
-        Anotar("Descarga", Error_En_Curso().descripcion);
+        Anotar_Fallo("Descarga");
     }
     diario.Terminar(guardada);
     en_marcha = false;
@@ -214,7 +211,7 @@ void Descarga::Enviar(const QByteArray& bytes)
         puerto->Enviar(bytes);
     } catch (...) {
         // A port that fails to send says so in the label (lost) or by the silence of the instrument.
-        Anotar("Descarga", Error_En_Curso().descripcion);
+        Anotar_Fallo("Descarga");
     }
 }
 

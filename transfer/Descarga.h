@@ -3,6 +3,7 @@
 #include "transfer/Diario_Recepcion.h"
 #include "transfer/Proceso_Recepcion.h"
 #include "transfer/Puerto_Serie.h"
+#include "transfer/Recepcion.h"
 
 #include <QObject>
 #include <QStringList>
@@ -88,6 +89,7 @@ private:
     void Terminar();
 
     std::unique_ptr<Puerto_Serie> puerto;
+    const Salida_Recepcion comm;
     Diario_Recepcion diario;
     QTimer timer1;
     Datos_Recepcion datos;

@@ -1,0 +1,263 @@
+#include "core/Ayuda.h"
+#include "core/ModEstTotal.h"
+#include "tests/apoyo/Base_De_Prueba.h"
+#include "tests/apoyo/Interfaz_Guion.h"
+#include "tests/apoyo/Prueba.h"
+#include "tests/apoyo/Puerto_Memoria.h"
+#include "transfer/Descarga.h"
+#include "transfer/Despacho.h"
+#include "transfer/Peticiones_Transfer.h"
+
+// Which operation starts what, and the common order of a download.
+class TestDespacho : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void las_listas_salen_de_la_base();
+    void el_orden_de_una_descarga_data();
+    void el_orden_de_una_descarga();
+    void que_arranca_cada_operacion_data();
+    void que_arranca_cada_operacion();
+    void sin_nombre_no_se_abre_el_puerto();
+    void el_puerto_que_falla_no_muestra_el_dialogo();
+    void el_nivel_no_pide_nombre();
+    void una_segunda_pita_y_muestra_la_que_corre();
+    void el_filtro_sale_de_conv_data();
+    void el_filtro_sale_de_conv();
+    void sin_fila_termina_el_programa();
+    void la_carga_desconocida_se_dice();
+    void el_recordatorio_tiene_sus_cuatro_lineas();
+
+private:
+    void Fila(const QString& maquina, int ope, const QString& tipo, const QString& conv);
+
+    std::unique_ptr<Base_De_Prueba> base;
+    std::unique_ptr<Interfaz_Guion> interfaz;
+    std::unique_ptr<Descarga> descarga;
+    Puerto_Memoria* puerto = nullptr;
+    Peticiones_Transfer antes;
+    QStringList pasos;
+    QString nombre;
+};
+
+void TestDespacho::init()
+{
+    base = std::make_unique<Base_De_Prueba>();
+    interfaz = std::make_unique<Interfaz_Guion>();
+    antes = Peticiones_De_Transfer();
+    pasos.clear();
+    nombre = "Obra";
+    Puerto = "COM1";
+    Ayuda_Recuerde = Ayuda_Visible = true;
+    Peticiones_Transfer& p = Peticiones_De_Transfer();
+    p.Ocultar_FrmIni = [this] { pasos << "ocultar"; };
+    p.Mostrar_Recordatorio = [this] { pasos << "recuerde"; };
+    p.Pedir_Nombre_Sesion = [this] {
+        pasos << "nombre";
+        return nombre;
+    };
+    p.Mostrar_Pasos = [this](const QString& tipo, const QString& ope) {
+        pasos << "ayuda " + tipo + ope + " paso " + QString::number(Paso_Ayuda);
+    };
+    p.Dialogo_Descarga = [this](bool cargar) -> Descarga* {
+        if (!descarga && cargar) {
+            auto nuevo = std::make_unique<Puerto_Memoria>();
+            puerto = nuevo.get();
+            descarga = std::make_unique<Descarga>(std::move(nuevo));
+        }
+        return descarga.get();
+    };
+    p.Mostrar_Descarga = [this] { pasos << (puerto->Abierto() ? "abierto, descarga" : "descarga"); };
+    for (const QString maquina : {"KRT300", "PX7", "KRT800", "NV400"})
+        for (const QString tipo : {"D", "C"})
+            for (int ope = 0; ope < 12; ++ope) Fila(maquina, ope, tipo, "");
+}
+
+void TestDespacho::cleanup()
+{
+    Peticiones_De_Transfer() = antes;
+    descarga.reset();
+    puerto = nullptr;
+    interfaz.reset();
+    base.reset();
+}
+
+void TestDespacho::Fila(const QString& maquina, int ope, const QString& tipo, const QString& conv)
+{
+    Base_Datos->Execute("INSERT INTO KRT2 (Nombre, OPE, TipOpe, DESOPE, Conv) VALUES (?, ?, ?, ?, ?)",
+                        {maquina, ope, tipo, "Operación " + QString::number(ope), conv});
+}
+
+void TestDespacho::las_listas_salen_de_la_base()
+{
+    Base_Datos->Execute("DELETE FROM KRT2");
+    Base_Datos->Execute("INSERT INTO OPE (OPE, DESOPE) VALUES (1, 'Coordenadas')");
+    Base_Datos->Execute("INSERT INTO OPE (OPE, DESOPE) VALUES (0, 'Datos brutos')");
+    Fila("KRT300", 1, "D", "");
+    Fila("KRT300", 0, "D", "");
+    Fila("KRT300", 1, "C", "");
+    Fila("PX7", 0, "D", "");
+    Clave_Estacion = "KRT300";
+    const auto bajadas = Operaciones_Ofrecidas("D");
+    QCOMPARE(bajadas.size(), 2);
+    QCOMPARE(bajadas[0].texto, QString("Coordenadas"));
+    QCOMPARE(bajadas[0].ope, 1);
+    QCOMPARE(bajadas[1].ope, 0);
+    QCOMPARE(Operaciones_Ofrecidas("C").size(), 1);
+    Clave_Estacion = "NV400";
+    QVERIFY(Operaciones_Ofrecidas("D").isEmpty());
+}
+
+void TestDespacho::el_orden_de_una_descarga_data()
+{
+    QTest::addColumn<bool>("recuerde");
+    QTest::addColumn<bool>("ayuda");
+    QTest::addColumn<QStringList>("esperados");
+    QTest::newRow("todo") << true << true
+                          << QStringList{"ocultar", "recuerde", "nombre", "ayuda D0 paso 1",
+                                         "abierto, descarga"};
+    QTest::newRow("sin avisos") << false << false
+                                << QStringList{"ocultar", "nombre", "abierto, descarga"};
+}
+
+void TestDespacho::el_orden_de_una_descarga()
+{
+    QFETCH(bool, recuerde);
+    QFETCH(bool, ayuda);
+    QFETCH(QStringList, esperados);
+    Ayuda_Recuerde = recuerde;
+    Ayuda_Visible = ayuda;
+    Paso_Ayuda = 7;
+    Lanzar_Operacion("KRT300", 0, "D");
+    QCOMPARE(pasos, esperados);
+}
+
+void TestDespacho::que_arranca_cada_operacion_data()
+{
+    QTest::addColumn<QString>("maquina");
+    QTest::addColumn<int>("ope");
+    QTest::addColumn<QString>("tipo");
+    QTest::addColumn<QString>("ayuda");  // empty: no download starts
+    QTest::addColumn<int>("avisos");
+    QTest::newRow("KRT300 0") << "KRT300" << 0 << "D" << "ayuda D0 paso 1" << 0;
+    QTest::newRow("KRT300 1") << "KRT300" << 1 << "D" << "ayuda D1 paso 1" << 0;
+    QTest::newRow("KRT300 11 es 1") << "KRT300" << 11 << "D" << "ayuda D1 paso 1" << 0;
+    QTest::newRow("PX7 0") << "PX7" << 0 << "D" << "ayuda D0 paso 1" << 0;
+    QTest::newRow("KRT300 5 nada") << "KRT300" << 5 << "D" << "" << 0;
+    QTest::newRow("KRT300 libreria") << "KRT300" << 2 << "D" << "" << 1;
+    QTest::newRow("KRT300 carga") << "KRT300" << 1 << "C" << "" << 1;
+    QTest::newRow("KRT300 carga rara") << "KRT300" << 5 << "C" << "" << 0;
+    QTest::newRow("KRT800 5") << "KRT800" << 5 << "D" << "ayuda D5 paso 1" << 0;
+    QTest::newRow("KRT800 carga 6") << "KRT800" << 6 << "C" << "" << 1;
+    QTest::newRow("NV400 0") << "NV400" << 0 << "D" << "ayuda D0 paso 1" << 0;
+    QTest::newRow("NV400 1 nada") << "NV400" << 1 << "D" << "" << 0;
+    QTest::newRow("NV400 carga") << "NV400" << 1 << "C" << "" << 1;
+    QTest::newRow("otra") << "OTRA" << 0 << "D" << "" << 0;
+    QTest::newRow("tipo raro") << "KRT800" << 0 << "X" << "" << 0;
+}
+
+void TestDespacho::que_arranca_cada_operacion()
+{
+    QFETCH(QString, maquina);
+    QFETCH(int, ope);
+    QFETCH(QString, tipo);
+    QFETCH(QString, ayuda);
+    QFETCH(int, avisos);
+    Clave_Estacion = maquina;
+    Lanzar_Operacion(maquina, ope, tipo);
+    QCOMPARE(pasos.filter("ayuda").join(""), ayuda);
+    QCOMPARE(pasos.contains("abierto, descarga"), !ayuda.isEmpty());
+    QCOMPARE(interfaz->avisos.size(), avisos);
+}
+
+void TestDespacho::sin_nombre_no_se_abre_el_puerto()
+{
+    nombre.clear();
+    Lanzar_Operacion("KRT300", 0, "D");
+    QCOMPARE(pasos, (QStringList{"ocultar", "recuerde", "nombre"}));
+    QVERIFY(!descarga);
+}
+
+void TestDespacho::el_puerto_que_falla_no_muestra_el_dialogo()
+{
+    Peticiones_De_Transfer().Dialogo_Descarga(true);
+    puerto->error_al_abrir = 8002;
+    Lanzar_Operacion("KRT300", 0, "D");
+    QCOMPARE(interfaz->avisos.size(), 1);
+    QCOMPARE(pasos.last(), QString("ayuda D0 paso 1"));
+}
+
+void TestDespacho::el_nivel_no_pide_nombre()
+{
+    Clave_Estacion = "NV400";
+    Lanzar_Operacion("NV400", 0, "D");
+    QCOMPARE(pasos, (QStringList{"ocultar", "recuerde", "ayuda D0 paso 1", "abierto, descarga"}));
+}
+
+void TestDespacho::una_segunda_pita_y_muestra_la_que_corre()
+{
+    Lanzar_Operacion("KRT300", 0, "D");
+    descarga->BtnIniciar();
+    pasos.clear();
+    Lanzar_Operacion("KRT300", 1, "D");
+    QCOMPARE(interfaz->pitidos, 1);
+    QCOMPARE(pasos, QStringList{"abierto, descarga"});
+}
+
+void TestDespacho::el_filtro_sale_de_conv_data()
+{
+    QTest::addColumn<QString>("conv");
+    QTest::addColumn<QString>("filtro");
+    QTest::newRow("dos") << "ASC,TXT" << "ASCII (*.asc)|*.asc|Texto (*.txt)|*.txt";
+    QTest::newRow("una desconocida") << "NADA,TXT" << "Texto (*.txt)|*.txt";
+    QTest::newRow("vacio") << "" << "";
+}
+
+void TestDespacho::el_filtro_sale_de_conv()
+{
+    QFETCH(QString, conv);
+    QFETCH(QString, filtro);
+    Base_Datos->Execute("DELETE FROM KRT2");
+    const QString clave = Base_Datos->OpenRecordset("CONVERT").Columnas().first();
+    for (const QStringList& f : {QStringList{"ASC", " ASCII (*.asc) ", "*.asc "},
+                                 QStringList{"TXT", "Texto (*.txt)", " *.txt"}})
+        Base_Datos->Execute("INSERT INTO CONVERT (" + clave + ", descripcion, ext) VALUES (?, ?, ?)",
+                            {f[0], f[1], f[2]});
+    Fila("KRT300", 1, "C", conv);
+    QCOMPARE(Filtro_Extensiones("KRT300", 1, "C"), filtro);
+    QVERIFY(interfaz->avisos.isEmpty());
+}
+
+void TestDespacho::sin_fila_termina_el_programa()
+{
+    Base_Datos->Execute("DELETE FROM KRT2");
+    Lanzar_Operacion("NV400", 1, "C");
+    QCOMPARE(interfaz->avisos[0].texto, QString("No hay extensiones definidas para esta operación"));
+    QCOMPARE(interfaz->avisos[0].icono, Icono::Critico);
+    QCOMPARE(interfaz->terminado.size(), 1);
+}
+
+void TestDespacho::la_carga_desconocida_se_dice()
+{
+    Lanzar_Operacion("KRT800", 3, "C");
+    QCOMPARE(interfaz->Textos(), QStringList{"El tipo de Carga no existe"});
+    QCOMPARE(interfaz->avisos[0].icono, Icono::Critico);
+}
+
+void TestDespacho::el_recordatorio_tiene_sus_cuatro_lineas()
+{
+    Puerto = "COM3";
+    Velocidad = "9600";
+    Bits_Datos = "8";
+    Paridad = "None";
+    Bits_Parada = "1";
+    const Texto_Recordatorio t = Leer_Recordatorio();
+    QCOMPARE(t.frase,
+             QString("Conecte el aparato al puerto COM3 y configúrelo con los siguientes parámetros:"));
+    QCOMPARE(t.datos[0], QString("Velocidad: 9600"));
+    QCOMPARE(t.datos[3], QString("Bit de Parada: 1"));
+}
+
+PRUEBA(TestDespacho)
+#include "TestDespacho.moc"

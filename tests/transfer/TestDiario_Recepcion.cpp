@@ -1,0 +1,258 @@
+#include "core/ModEstTotal.h"
+#include "tests/apoyo/Base_De_Prueba.h"
+#include "tests/apoyo/Interfaz_Guion.h"
+#include "tests/apoyo/Prueba.h"
+#include "transfer/Diario_Recepcion.h"
+#include "transfer/Rescate.h"
+
+// The journal of received bytes and the sessions rescued from it.
+class TestDiario_Recepcion : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void los_bytes_estan_en_el_disco_en_menos_de_un_segundo();
+    void guardada_se_borra();
+    void sin_guardar_se_queda();
+    void solo_marcas_de_fin_no_dejan_fichero();
+    void dos_en_el_mismo_segundo_no_se_pisan();
+    void empezar_otra_conserva_la_anterior();
+    void sin_carpeta_se_crea();
+    void si_no_se_puede_escribir_se_reintenta();
+    void el_nombre_dice_familia_y_operacion();
+    void rescatado_en_cualquier_corte_es_un_comienzo();
+    void rescatado_entero_guarda_tambien_el_ultimo();
+    void krt800_rescata_las_lineas_completas();
+    void nv400_rescata_las_lineas_aceptadas();
+    void rescatar_guarda_y_quita_el_diario();
+    void rescatar_lo_vacio_dice_por_que();
+
+private:
+    QString Escribir(const QByteArray& bytes);
+    static QByteArray Bajo_Tramas(const QByteArray& libro);
+
+    std::unique_ptr<Base_De_Prueba> base;
+    std::unique_ptr<Interfaz_Guion> interfaz;
+    const QDateTime momento{QDate(2026, 3, 7), QTime(9, 5, 1)};
+};
+
+static QByteArray Leer(const QString& fichero)
+{
+    QFile f(fichero);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<no file>");
+}
+
+static void Anotar(Diario_Recepcion& d, const QByteArray& bytes)
+{
+    for (const char c : bytes) d.Anotar_Byte(c);
+}
+
+void TestDiario_Recepcion::init()
+{
+    base = std::make_unique<Base_De_Prueba>();
+    interfaz = std::make_unique<Interfaz_Guion>();
+    Base_Datos->Execute("INSERT INTO Identificadores (Nombre, OPE, ID, NomID, tipo) "
+                        "VALUES ('KRT300', 0, 'A', '', 'M')");
+}
+
+void TestDiario_Recepcion::cleanup()
+{
+    interfaz.reset();
+    base.reset();
+}
+
+QString TestDiario_Recepcion::Escribir(const QByteArray& bytes)
+{
+    const QString ruta = En_Instalacion("LOG/recepcion_20260307_090501_KRT300_0.dia");
+    QFile f(ruta);
+    if (!QDir().mkpath(En_Instalacion("LOG")) || !f.open(QIODevice::WriteOnly)) return {};
+    f.write(bytes);
+    return ruta;
+}
+
+// The field book as frames of ten characters.
+QByteArray TestDiario_Recepcion::Bajo_Tramas(const QByteArray& libro)
+{
+    QByteArray bytes;
+    for (qsizetype i = 0; i < libro.size(); i += 10) {
+        const QByteArray interior = libro.mid(i, 10) + char('0' + (i / 10) % 10);
+        int suma = 0;
+        for (const char c : interior) suma ^= static_cast<unsigned char>(c);
+        bytes += "\x02" + interior + QByteArray::number(suma).rightJustified(3, '0') + "\x03\r\n";
+    }
+    return bytes;
+}
+
+void TestDiario_Recepcion::los_bytes_estan_en_el_disco_en_menos_de_un_segundo()
+{
+    Diario_Recepcion d;
+    d.Empezar("KRT300", 0, momento);
+    QVERIFY(Rescates().isEmpty());
+    Anotar(d, "\x02" "abc");
+    QTRY_COMPARE_WITH_TIMEOUT(Leer(d.Fichero()), QByteArray("\x02" "abc"), 1000);
+    Anotar(d, "def");
+    QTRY_COMPARE_WITH_TIMEOUT(Leer(d.Fichero()), QByteArray("\x02" "abcdef"), 1000);
+}
+
+void TestDiario_Recepcion::guardada_se_borra()
+{
+    Diario_Recepcion d;
+    d.Empezar("KRT300", 0, momento);
+    Anotar(d, "abc");
+    QVERIFY(d.Al_Disco());
+    QCOMPARE(Rescates().size(), 1);
+    d.Terminar(true);
+    QVERIFY(Rescates().isEmpty());
+}
+
+void TestDiario_Recepcion::sin_guardar_se_queda()
+{
+    {
+        Diario_Recepcion d;
+        d.Empezar("KRT300", 0, momento);
+        Anotar(d, "abc");
+    }
+    QCOMPARE(Rescates().size(), 1);
+    QCOMPARE(Leer(Rescates()[0].fichero), QByteArray("abc"));
+}
+
+void TestDiario_Recepcion::solo_marcas_de_fin_no_dejan_fichero()
+{
+    Diario_Recepcion d;
+    d.Empezar("KRT300", 0, momento);
+    Anotar(d, "\x04");
+    QVERIFY(d.Al_Disco());
+    d.Terminar(false);
+    QVERIFY(Rescates().isEmpty());
+}
+
+void TestDiario_Recepcion::dos_en_el_mismo_segundo_no_se_pisan()
+{
+    Diario_Recepcion a, b;
+    a.Empezar("KRT300", 0, momento);
+    b.Empezar("KRT300", 0, momento);
+    Anotar(a, "uno");
+    Anotar(b, "dos");
+    QVERIFY(a.Al_Disco() && b.Al_Disco());
+    QVERIFY(a.Fichero() != b.Fichero());
+    QCOMPARE(Leer(a.Fichero()), QByteArray("uno"));
+    QCOMPARE(Leer(b.Fichero()), QByteArray("dos"));
+    QCOMPARE(Rescates().size(), 2);
+    QCOMPARE(Rescates()[1].operacion, 0);
+}
+
+void TestDiario_Recepcion::empezar_otra_conserva_la_anterior()
+{
+    Diario_Recepcion d;
+    d.Empezar("KRT300", 0, momento);
+    Anotar(d, "uno");
+    d.Empezar("KRT300", 1, momento);
+    Anotar(d, "dos");
+    d.Terminar(true);
+    QCOMPARE(Rescates().size(), 1);
+    QCOMPARE(Leer(Rescates()[0].fichero), QByteArray("uno"));
+}
+
+void TestDiario_Recepcion::sin_carpeta_se_crea()
+{
+    QDir(En_Instalacion("LOG")).removeRecursively();
+    Diario_Recepcion d;
+    d.Empezar("KRT300", 0, momento);
+    Anotar(d, "uno");
+    QVERIFY(d.Al_Disco());
+    QCOMPARE(Rescates().size(), 1);
+}
+
+void TestDiario_Recepcion::si_no_se_puede_escribir_se_reintenta()
+{
+    // A file where the folder should be refuses every journal, also to the superuser.
+    QDir(En_Instalacion("LOG")).removeRecursively();
+    QFile estorbo(En_Instalacion("LOG"));
+    QVERIFY(estorbo.open(QIODevice::WriteOnly));
+    estorbo.close();
+    Diario_Recepcion d;
+    d.Empezar("KRT300", 0, momento);
+    Anotar(d, "uno");
+    QVERIFY(!d.Al_Disco());
+    Anotar(d, "dos");
+    QVERIFY(estorbo.remove());
+    QTRY_COMPARE_WITH_TIMEOUT(Leer(d.Fichero()), QByteArray("unodos"), 2000);
+    QVERIFY(interfaz->avisos.isEmpty());
+}
+
+void TestDiario_Recepcion::el_nombre_dice_familia_y_operacion()
+{
+    Diario_Recepcion d;
+    d.Empezar("NV400", 11, momento);
+    Anotar(d, "x");
+    QVERIFY(d.Al_Disco());
+    QVERIFY(d.Fichero().endsWith("/recepcion_20260307_090501_NV400_11.dia"));
+    const Rescate r = Rescates()[0];
+    QCOMPARE(r.maquina, QString("NV400"));
+    QCOMPARE(r.operacion, 11);
+    QCOMPARE(r.momento, momento);
+    QCOMPARE(r.bytes, 1);
+}
+
+void TestDiario_Recepcion::rescatado_en_cualquier_corte_es_un_comienzo()
+{
+    const QByteArray libro = "_+P1_A0001_A0002_+P2_A0003_A0004";
+    const QList<QByteArray> registros = libro.mid(1).split('_');
+    const QByteArray bytes = Bajo_Tramas(libro);
+    for (qsizetype n = 0; n <= bytes.size(); ++n) {
+        const QString buffer = Leer_Diario(Escribir(bytes.left(n)), "KRT300");
+        if (buffer.isEmpty()) continue;
+        QVERIFY(buffer.startsWith(u'_'));
+        const QStringList hallados = buffer.mid(1).split(u'_');
+        for (qsizetype i = 0; i < hallados.size(); ++i)
+            QCOMPARE(hallados[i], QString::fromLatin1(registros[i]));
+    }
+}
+
+void TestDiario_Recepcion::rescatado_entero_guarda_tambien_el_ultimo()
+{
+    const QByteArray libro = "_+P1_A0001_A0002";
+    QCOMPARE(Leer_Diario(Escribir(Bajo_Tramas(libro) + "\x04ruido"), "PX7"), QString(libro));
+}
+
+void TestDiario_Recepcion::krt800_rescata_las_lineas_completas()
+{
+    const QString f = Escribir("JOB 1\r\nSTN E1,1\r\nSS 1,");
+    QCOMPARE(Leer_Diario(f, "KRT800"), QString("JOB 1\r\nSTN E1,1\r\nSS 1,"));
+}
+
+void TestDiario_Recepcion::nv400_rescata_las_lineas_aceptadas()
+{
+    const QString f = Escribir("A,01,Z,\r\ng,1,#,\r\n" + QByteArray("g,") + char(((103 + 44) & 63) + 32) +
+                               ",\r\nh,");
+    QCOMPARE(Leer_Diario(f, "NV400"), QString("g,") + QChar(((103 + 44) & 63) + 32) + ",\r\n");
+}
+
+void TestDiario_Recepcion::rescatar_guarda_y_quita_el_diario()
+{
+    const QString f = Escribir(Bajo_Tramas("_+P1_A0001_+P2_A0002_A00") );
+    const Resultado_Recepcion r = Rescatar(f, {QString(), "Rescatada", 0, 0, "KRT300", "Modelo"});
+    QCOMPARE(r.sesiones, QStringList{"1"});
+    QVERIFY(r.completa);
+    QVERIFY(!QFile::exists(f));
+    Conjunto_Registros filas = Base_Datos->OpenRecordset("SELECT * FROM Registros ORDER BY Secuencia");
+    QCOMPARE(filas.RecordCount(), 2);
+    QCOMPARE(Base_Datos->OpenRecordset("Sesiones").Texto("NFichero"), QString("Rescatada"));
+}
+
+void TestDiario_Recepcion::rescatar_lo_vacio_dice_por_que()
+{
+    const QString f = Escribir("\x02_A0");
+    try {
+        Rescatar(f, {QString(), "Rescatada", 0, 0, "KRT300", "Modelo"});
+        QFAIL("nothing to rescue must be said");
+    } catch (const Error_Ejecucion& e) {
+        QCOMPARE(e.numero, 62);
+        QVERIFY(e.descripcion.contains(f));
+    }
+    QVERIFY(QFile::exists(f));
+    QVERIFY(Base_Datos->OpenRecordset("Sesiones").Es_EOF());
+}
+
+PRUEBA(TestDiario_Recepcion)
+#include "TestDiario_Recepcion.moc"
