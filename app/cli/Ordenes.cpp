@@ -1,7 +1,7 @@
 #include "app/cli/Ordenes.h"
 
 #include "app/cli/Ordenes_Conversion.h"
-
+#include "app/cli/Ordenes_Transfer.h"
 #include "core/Error_Ejecucion.h"
 
 namespace {
@@ -24,6 +24,11 @@ const QList<Orden>& Ordenes()
          "convertir ENTRADA SALIDA [--eje N] [--perfil NOMBRE] [--seccion A:B] "
          "[--clase alineacion|rasante|transversal|puntos]",
          Orden_Convertir},
+        {"descargar",
+         "descargar --modelo NOMBRE --ope N --puerto DISPOSITIVO --nombre NOMBRE [--velocidad V]",
+         Orden_Descargar},
+        {"rescates", "rescates", Orden_Rescates},
+        {"rescatar", "rescatar FICHERO --modelo NOMBRE --ope N --nombre NOMBRE", Orden_Rescatar},
     };
     return lista;
 }
