@@ -15,15 +15,6 @@ namespace {
 const QString COMA = QStringLiteral(",");
 const QString FIN_LINEA = QStringLiteral("\r\n");
 
-QStringList Leer_Lineas(const QString& fichero)
-{
-    QStringList lineas = Ansi::A_Texto(Ficheros::Leer(fichero)).split(u'\n');
-    if (lineas.last().isEmpty()) lineas.removeLast();
-    for (QString& linea : lineas)
-        if (linea.endsWith(u'\r')) linea.chop(1);
-    return lineas;
-}
-
 double Numero(QString texto)
 {
     const qsizetype punto = texto.indexOf(u'.');
@@ -216,7 +207,7 @@ bool Convertir_Alz(const QString& entrada, QString& texto)
 {
     qsizetype linea = 0;
     try {
-        Conversion_Alz conversion(Leer_Lineas(entrada), texto);
+        Conversion_Alz conversion(Ficheros::Leer_Lineas(entrada), texto);
         const auto guardar_linea = qScopeGuard([&] { linea = conversion.linea; });
         return conversion.Convertir();
     } catch (...) {
@@ -232,7 +223,7 @@ bool Convertir_Ter(const QString& entrada, const QString& salida)
 try {
     QString texto, estacion;
     qint64 quedan = 0;
-    for (const QString& linea : Leer_Lineas(entrada)) {
+    for (const QString& linea : Ficheros::Leer_Lineas(entrada)) {
         if (quedan > 0) {
             texto += estacion + u',' + linea + FIN_LINEA;
             --quedan;

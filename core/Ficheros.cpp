@@ -1,5 +1,7 @@
 #include "core/Ficheros.h"
 
+#include "core/Ansi.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -55,6 +57,15 @@ static void Abrir_Escritura(QSaveFile& fichero, const QString& ruta)
     fichero.setFileName(ruta);
     // A file marked read-only is told as a failed write: nothing has been written yet.
     if (!fichero.open(QIODevice::WriteOnly)) throw Error_Con_Nombre(70, ruta);
+}
+
+QStringList Ficheros::Leer_Lineas(const QString& ruta)
+{
+    QStringList lineas = Ansi::A_Texto(Leer(ruta)).split(u'\n');
+    if (lineas.last().isEmpty()) lineas.removeLast();
+    for (QString& linea : lineas)
+        if (linea.endsWith(u'\r')) linea.chop(1);
+    return lineas;
 }
 
 void Ficheros::Escribir(const QString& ruta, const QByteArray& bytes)

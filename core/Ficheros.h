@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QFileDevice>
 #include <QString>
+#include <QStringList>
 
 /// Whole files, read and written at one stroke. A file that is written appears whole or not at all:
 /// a failure leaves the one that stood there untouched.
@@ -14,6 +15,10 @@ namespace Ficheros {
 /// @throws Error_Ejecucion 53 when it isn't there, 75 when it is a folder, 70 without permission,
 ///         57 when the device fails
 QByteArray Leer(const QString& ruta);
+
+/// Lines of a text file in the page, without their ends (CR LF or LF); behind the last end there is
+/// no line. @throws Error_Ejecucion as `Leer`
+QStringList Leer_Lineas(const QString& ruta);
 
 /// Writes `bytes` beside `ruta` and takes the place of `ruta` with them.
 /// @throws Error_Ejecucion 52 for an empty name, 76 when the folder isn't there, 75 when `ruta` is

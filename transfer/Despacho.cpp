@@ -4,6 +4,7 @@
 #include "core/ModEstTotal.h"
 #include "transfer/Descarga.h"
 #include "transfer/Peticiones_Transfer.h"
+#include "transfer/Subida_Nivel.h"
 
 namespace {
 
@@ -61,7 +62,7 @@ void Lanzar_Nivel(const QString& maquina, int operacion, const QString& tipo_ope
         if (operacion == 0) Empezar_Descarga(maquina, operacion);
     } else if (tipo_ope == CARGA) {
         Filtro_Extensiones(maquina, operacion, tipo_ope);
-        No_Disponible("La carga de datos al nivel");
+        Subir_NV400(operacion);
     }
 }
 

@@ -8,6 +8,7 @@ class TestFicheros : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void lo_escrito_se_lee();
+    void lineas_de_un_texto();
     void un_fallo_da_su_numero_data();
     void un_fallo_da_su_numero();
     void el_disco_lleno_es_el_61();
@@ -32,6 +33,20 @@ void TestFicheros::lo_escrito_se_lee()
     Ficheros::Escribir(ruta, QByteArray("dos\0\r\n", 6));
     QCOMPARE(Ficheros::Leer(ruta), QByteArray("dos\0\r\n", 6));
     QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{"años.txt"});
+}
+
+void TestFicheros::lineas_de_un_texto()
+{
+    const QTemporaryDir dir;
+    const QString ruta = dir.filePath("a.txt");
+    const auto lineas = [&](const QByteArray& bytes) {
+        Ficheros::Escribir(ruta, bytes);
+        return Ficheros::Leer_Lineas(ruta);
+    };
+    QCOMPARE(lineas(""), QStringList());
+    QCOMPARE(lineas("a\r\nb\n\r\nc"), (QStringList{"a", "b", "", "c"}));
+    QCOMPARE(lineas("a\n\n"), (QStringList{"a", ""}));
+    QCOMPARE(lineas("\xD1\r\r\n"), QStringList{QStringLiteral("Ñ\r")});
 }
 
 void TestFicheros::un_fallo_da_su_numero_data()

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "conversions/Informe_Lectura.h"
+#include "core/Interfaz.h"
+
+#include <QString>
+
+/// The conversions that a dialog or a transfer starts, from the file dialogs to the closing box.
+
+/// What the user wants converted: the options of `frmConvEst`, in their order.
+enum class Clase_Conversion { Alineaciones = 0, Rasantes = 1, Transversales = 2, Puntos = 3 };
+
+/// A file of another package to LandXML: asks for source and target, and the source's extension
+/// picks the function. Cancel ends silently. `Puntos` has no such flow and does nothing.
+void Convertir_A_LandXML(Clase_Conversion clase);
+
+/// A blank or tab separated point file to the KRT point file.
+void Convertir_Puntos();
+
+/// Text behind the last ".", upper case; the whole path, upper case, when it has none.
+QString Extension_De(const QString& ruta);
+
+/// Name that was chosen in a save dialog of filter `filtro`; one without extension takes that of
+/// the chosen pattern, since the extension picks the form that is written.
+QString Con_Extension(const Fichero_Elegido& elegido, const QString& filtro);
+
+/// Shows what a reader left out, and why nothing was converted if so; nothing when there is nothing
+/// to tell. The program's own box has been shown before.
+void Mostrar_Omisiones(const Informe_Lectura& informe);
