@@ -10,11 +10,11 @@ enum class Icono { Ninguno = 0, Critico = 16, Pregunta = 32, Exclamacion = 48, I
 
 /// What a file dialog is asked for.
 struct Peticion_Fichero {
-    QString titulo;
-    QString filtro;          ///< pairs "descripción|patrón" joined by "|"
+    QString titulo{};
+    QString filtro{};        ///< pairs "descripción|patrón" joined by "|"
     int indice_filtro = 1;   ///< chosen pair, from 1
-    QString carpeta;         ///< start folder; empty: the last one used
-    QString extension;       ///< default extension, added to a name typed without one; empty: none
+    QString carpeta{};       ///< start folder; empty: the last one used
+    QString extension{};     ///< default extension, added to a name typed without one; empty: none
     bool guardar = false;    ///< save-style dialog; never asks before overwriting
 };
 

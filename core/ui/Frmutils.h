@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/ui/Ventana.h"
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QTabWidget;
+struct Combo_Ajustes;
+
+/// Settings. Closing hides it: its edits stay until they are accepted or the run ends.
+class Frmutils : public Ventana {
+    Q_OBJECT
+public:
+    Frmutils();
+
+    /// Shows tab 0 (communications) or 1 (other options).
+    void Pestana(int indice);
+    /// Refills the speeds from a comma list and takes the one in force, else the first.
+    void Cargar_Combo1(const QString& lista);
+
+private:
+    QWidget* Hacer_Comunicaciones();
+    QWidget* Hacer_Opciones();
+    void Cargar();
+    static void Llenar(QComboBox& combo, const Combo_Ajustes& ajustes);
+    void Combo6_Click();
+    void Command2_Click();
+
+    QTabWidget* SSTab1;
+    QComboBox *Combo1, *Combo2, *Combo3, *Combo4, *Combo5, *Combo6;
+    QCheckBox *Check1, *Check2, *Check3, *Check4, *Check5, *Check6;
+    QLabel* Animation1;
+};
