@@ -1,6 +1,7 @@
 #include "app/cli/Ordenes.h"
 
 #include "app/cli/Ordenes_Conversion.h"
+#include "app/cli/Ordenes_Export.h"
 #include "app/cli/Ordenes_Transfer.h"
 #include "core/Error_Ejecucion.h"
 
@@ -29,6 +30,10 @@ const QList<Orden>& Ordenes()
          Orden_Descargar},
         {"rescates", "rescates", Orden_Rescates},
         {"rescatar", "rescatar FICHERO --modelo NOMBRE --ope N --nombre NOMBRE", Orden_Rescatar},
+        {"tabla",
+         "tabla ENTRADA SALIDA [--separador tabulacion|coma|espacio] [--version \"Excel 8.0\"] "
+         "[--tabla NOMBRE] [--numeros]",
+         Orden_Tabla},
     };
     return lista;
 }

@@ -41,6 +41,8 @@ public:
             Leer_Globales(flujo);
             Leer_Hojas();
         }
+        if (hojas.empty())
+            throw Error_Ejecucion(3274, QStringLiteral("El libro no tiene hojas de cálculo"));
         return Libro_Excel(std::move(hojas));
     }
 

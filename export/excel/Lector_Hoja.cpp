@@ -37,6 +37,8 @@ double Numero_De_Rk(quint32 rk)
 void Lector_Hoja::Tomar(const Registro_Biff& registro, Flujo_Biff& flujo)
 {
     switch (registro.id) {
+    case Dimensions_8::ID:
+        return Tomar_Dimensiones(registro);
     case ColInfo::ID:
         return Tomar_Columna(registro);
     case LabelSst::ID:
@@ -79,6 +81,20 @@ void Lector_Hoja::Poner(const Lugar_Celda& lugar, Celda celda)
         throw Libro_Danado(QStringLiteral("una celda tiene un número imposible"));
     comun.aspectos.Vestir(celda, lugar.ixfe);
     hoja.Poner(lugar.rw, lugar.col, celda);
+}
+
+// A program that drops the empty cells of prepared rows still counts the rows here.
+void Lector_Hoja::Tomar_Dimensiones(const Registro_Biff& registro)
+{
+    const auto anotar = [this](const auto& d) {
+        hoja.Ampliar_Uso({int(std::min<quint32>(d.rw_mic, Hoja_Excel::MAX_FILAS)), d.col_mic,
+                          int(std::min<quint32>(d.rw_mac, Hoja_Excel::MAX_FILAS)) - 1,
+                          d.col_mac - 1});
+    };
+    if (comun.version == Version_Excel::Excel_8)
+        anotar(registro.Como<Dimensions_8>());
+    else
+        anotar(registro.Como<Dimensions_345>());
 }
 
 void Lector_Hoja::Tomar_Columna(const Registro_Biff& registro)

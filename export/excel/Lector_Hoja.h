@@ -22,6 +22,7 @@ public:
     void Tomar(const Registro_Biff& registro, Flujo_Biff& flujo);
 
 private:
+    void Tomar_Dimensiones(const Registro_Biff& registro);
     void Tomar_Columna(const Registro_Biff& registro);
     void Tomar_Texto(const Registro_Biff& registro, Flujo_Biff& flujo);
     void Tomar_Cadena(const Registro_Biff& registro);

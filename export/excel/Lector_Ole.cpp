@@ -113,17 +113,16 @@ QByteArray Lector_Ole::Leer(const QString& nombre) const
                : Leer_Cadena(flujo->primer_sector, qint64(flujo->tamano));
 }
 
-// Follows a chain of an allocation table, handing each sector to `tomar` until it says no more. A
-// chain cannot be longer than its table, so a longer one runs in a circle.
+// Follows a chain of an allocation table, handing each sector to `tomar` until it says no more.
 template <class Tomar>
 static void Seguir_Cadena(const std::vector<quint32>& tabla, quint32 primero, Tomar tomar)
 {
-    std::size_t vueltas = 0;
+    std::vector<bool> vistos(tabla.size());
     for (quint32 s = primero; s != ENDOFCHAIN; s = tabla[s]) {
         if (s >= tabla.size())
             throw Libro_Danado(QStringLiteral("la cadena de sectores se sale de la tabla"));
-        if (++vueltas > tabla.size())
-            throw Libro_Danado(QStringLiteral("la cadena de sectores no acaba"));
+        if (vistos[s]) throw Libro_Danado(QStringLiteral("la cadena de sectores no acaba"));
+        vistos[s] = true;
         if (!tomar(s)) return;
     }
 }
@@ -143,8 +142,6 @@ QByteArray Lector_Ole::Leer_Cadena(quint32 primero, qint64 tamano) const
     if (tamano == 0) return resultado;
     Seguir_Cadena(fat, primero, [&](quint32 s) {
         resultado += Sector(s);
-        if (resultado.size() > bytes.size())
-            throw Libro_Danado(QStringLiteral("la cadena de sectores no acaba"));
         return tamano < 0 || resultado.size() < tamano;
     });
     return Comprobar_Largo(resultado, tamano);

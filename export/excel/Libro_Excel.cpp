@@ -27,6 +27,21 @@ void Comprobar_Lugar(int fila, int columna, int filas, int columnas)
 
 } // namespace
 
+Rango Rango::Unido(const Rango& otro) const
+{
+    if (Vacio()) return otro;
+    if (otro.Vacio()) return *this;
+    return {std::min(fila, otro.fila), std::min(columna, otro.columna),
+            std::max(fila_hasta, otro.fila_hasta), std::max(columna_hasta, otro.columna_hasta)};
+}
+
+void Hoja_Excel::Ampliar_Uso(const Rango& rango)
+{
+    uso_ampliado = uso_ampliado.Unido({std::max(rango.fila, 0), std::max(rango.columna, 0),
+                                       std::min(rango.fila_hasta, MAX_FILAS - 1),
+                                       std::min(rango.columna_hasta, MAX_COLUMNAS - 1)});
+}
+
 Celda& Hoja_Excel::En(int fila, int columna)
 {
     Comprobar_Lugar(fila, columna, MAX_FILAS, MAX_COLUMNAS);
@@ -141,7 +156,7 @@ Rango Hoja_Excel::Abarcar(int fila, int columna, bool (*cuenta)(const Celda&)) c
 
 Rango Hoja_Excel::Rango_Usado() const
 {
-    return Abarcar(MAX_FILAS, MAX_COLUMNAS, [](const Celda&) { return true; });
+    return Abarcar(MAX_FILAS, MAX_COLUMNAS, [](const Celda&) { return true; }).Unido(uso_ampliado);
 }
 
 Rango Hoja_Excel::Rango_Con_Valores() const

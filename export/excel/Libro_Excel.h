@@ -35,6 +35,8 @@ struct Rango {
     int fila = 0, columna = 0, fila_hasta = -1, columna_hasta = -1;
 
     bool Vacio() const { return fila_hasta < fila || columna_hasta < columna; }
+    /// Smallest range that holds both.
+    Rango Unido(const Rango& otro) const;
     bool operator==(const Rango&) const = default;
 };
 
@@ -72,7 +74,11 @@ public:
     /// The cells of a row by ascending column; none for a row beyond the last.
     const std::vector<Celda_Situada>& Fila(int fila) const;
 
-    /// Smallest range that holds every cell set.
+    /// Counts a range as used though no cell of it is set, as whole rows with looks of their own
+    /// are. What of it lies beyond the sheet is left out.
+    void Ampliar_Uso(const Rango& rango);
+
+    /// Smallest range that holds every cell set and what else counts as used.
     Rango Rango_Usado() const;
     /// Smallest range from the first row and column on that holds every cell with a value.
     Rango Rango_Con_Valores() const;
@@ -85,6 +91,7 @@ private:
 
     std::vector<std::vector<Celda_Situada>> filas;
     std::map<int, double> anchos;
+    Rango uso_ampliado;
 };
 
 /// A workbook in memory.

@@ -1,5 +1,5 @@
-#include "core/Error_Ejecucion.h"
 #include "core/Ficheros.h"
+#include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
 
 #include <QSaveFile>
@@ -14,16 +14,6 @@ private Q_SLOTS:
     void el_disco_lleno_es_el_61();
     void lo_anterior_queda_si_falla();
 };
-
-static int Numero_De_Fallo(const std::function<void()>& accion)
-{
-    try {
-        accion();
-    } catch (const Error_Ejecucion& e) {
-        return e.numero;
-    }
-    return 0;
-}
 
 void TestFicheros::lo_escrito_se_lee()
 {
@@ -66,8 +56,8 @@ void TestFicheros::un_fallo_da_su_numero()
     QFETCH(int, al_escribir);
     const QTemporaryDir carpeta;
     const QString donde = ruta.contains("%1") ? ruta.arg(carpeta.path()) : ruta;
-    QCOMPARE(Numero_De_Fallo([&] { Ficheros::Leer(donde); }), al_leer);
-    QCOMPARE(Numero_De_Fallo([&] { Ficheros::Escribir(donde, "x"); }), al_escribir);
+    QCOMPARE(Numero_De_Error([&] { Ficheros::Leer(donde); }), al_leer);
+    QCOMPARE(Numero_De_Error([&] { Ficheros::Escribir(donde, "x"); }), al_escribir);
 }
 
 void TestFicheros::el_disco_lleno_es_el_61()
@@ -84,7 +74,7 @@ void TestFicheros::lo_anterior_queda_si_falla()
     const QString ruta = carpeta.filePath("a.txt");
     Ficheros::Escribir(ruta, "antes");
     QFile::setPermissions(carpeta.path(), QFile::ReadOwner | QFile::ExeOwner);
-    const int numero = Numero_De_Fallo([&] { Ficheros::Escribir(ruta, "despues"); });
+    const int numero = Numero_De_Error([&] { Ficheros::Escribir(ruta, "despues"); });
     QFile::setPermissions(carpeta.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     // The superuser is above permissions: then the new text stands there whole.
     QVERIFY(numero == 70 || numero == 0);

@@ -23,7 +23,8 @@ inline QStringList Volcar_Libro(const Libro_Excel& libro, const QString& nombre_
             lineas << QStringList{"ancho", nombre, QString::number(columna),
                                   QString::number(qRound(ancho * 256))}
                           .join('\t');
-        for (int fila = 0; fila <= hoja.Rango_Usado().fila_hasta; ++fila)
+        const int ultima = hoja.Rango_Usado().fila_hasta;
+        for (int fila = 0; fila <= ultima; ++fila)
             for (const Celda_Situada& c : hoja.Fila(fila)) {
                 QString tipo = "V", valor;
                 if (c.tipo == Celda::Tipo::Texto) {

@@ -28,19 +28,20 @@ def escapar(texto):
 
 
 def main():
-    libro = xlrd.open_workbook(sys.argv[1], formatting_info=True, logfile=sys.stderr)
+    libro = xlrd.open_workbook(sys.argv[1], formatting_info=True, ragged_rows=True,
+                                logfile=sys.stderr)
     salida = open(sys.stdout.fileno(), "w", encoding="utf-8", errors="surrogatepass", newline="\n")
     for hoja in libro.sheets():
         for columna, info in sorted(hoja.colinfo_map.items()):
             print("ancho", hoja.name, columna, info.width, sep="\t", file=salida)
         for f in range(hoja.nrows):
-            for c in range(hoja.ncols):
+            for c in range(hoja.row_len(f)):
                 celda = hoja.cell(f, c)
                 if celda.ctype == xlrd.XL_CELL_EMPTY:
                     continue
                 tipo, texto = valor(celda)
                 xf = libro.xf_list[celda.xf_index]
-                negrita = libro.font_list[xf.font_index].bold
+                negrita = libro.font_list[xf.font_index].weight >= 600
                 como_texto = libro.format_map[xf.format_key].format_str == "@"
                 aspecto = ("n" if negrita else "") + ("t" if como_texto else "")
                 print(hoja.name, f, c, tipo, escapar(texto), aspecto, sep="\t", file=salida)
