@@ -11,15 +11,11 @@
 Compactacion::Compactacion(const QString& fichero) : conexion(Conexion::De(fichero))
 {
     if (conexion->Nivel() > 0 || conexion->Leyendo()) throw Error_Ejecucion(3045);
+    conexion->Soltar();
     try {
-        // Leaving the write-ahead log is granted to an only user alone; the exclusive mode then
-        // keeps the file from everybody else, and the log's files are gone.
-        conexion->Ejecutar("PRAGMA locking_mode=EXCLUSIVE");
-        conexion->Ejecutar("PRAGMA journal_mode=DELETE");
-        conexion->Ejecutar("BEGIN EXCLUSIVE");
-        conexion->Ejecutar("COMMIT");
+        conexion->Retomar_Sola();
     } catch (...) {
-        Liberar();
+        conexion->Retomar();
         throw;
     }
 }

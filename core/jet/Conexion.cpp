@@ -16,6 +16,7 @@ namespace {
 constexpr std::size_t SENTENCIAS_GUARDADAS = 64;
 // Another program may be storing a session; longer than this it is taken to hold the file.
 constexpr int ESPERA_BLOQUEO_MS = 2500;
+constexpr int INTENTOS_ABRIR = 3;
 
 QHash<QString, std::weak_ptr<Conexion>>& Abiertas()
 {
@@ -79,7 +80,10 @@ std::shared_ptr<Conexion> Conexion::De(const QString& fichero)
     const QFileInfo info(fichero);
     if (!info.exists() || info.isDir()) throw Con_Detalle(3024, fichero);
     const QString nombre = Nombre_Unico(fichero);
-    if (auto abierta = Abiertas().value(nombre).lock()) return abierta;
+    if (auto abierta = Abiertas().value(nombre).lock()) {
+        if (!abierta->base) abierta->Retomar();
+        return abierta;
+    }
     std::shared_ptr<Conexion> nueva(new Conexion(nombre));
     nueva->Abrir(false);
     Abiertas()[nombre] = nueva;
@@ -113,23 +117,39 @@ Conexion::~Conexion()
 
 void Conexion::Abrir(bool crear)
 {
-    const int modo = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (crear ? SQLITE_OPEN_CREATE : 0);
-    const int r = sqlite3_open_v2(fichero.toUtf8().constData(), &base, modo, nullptr);
+    // A program that compacts may put another file in this one's place while it is being opened.
+    for (int intento = 0; intento < INTENTOS_ABRIR; ++intento) {
+        Abrir_Fichero(crear);
+        int movido = 0;
+        sqlite3_file_control(base, "main", SQLITE_FCNTL_HAS_MOVED, &movido);
+        if (!movido) return Configurar();
+        Soltar();
+    }
+    throw Con_Detalle(3045, fichero);
+}
+
+void Conexion::Abrir_Manejador(int modo)
+{
+    const int r = sqlite3_open_v2(fichero.toUtf8().constData(), &base,
+                                  SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | modo, nullptr);
     if (r != SQLITE_OK) throw Error(r);
     sqlite3_extended_result_codes(base, 1);
-    sqlite3_busy_timeout(base, ESPERA_BLOQUEO_MS);
     Registrar_Funciones(base);
-    if (crear) {
-        Ejecutar("BEGIN EXCLUSIVE");
-        for (const QString& sql : Esquema::Sentencias())
-            Ejecutar(sql.toUtf8().constData());
-        Ejecutar(
-            ("PRAGMA application_id=" + QByteArray::number(Esquema::MARCA_FICHERO)).constData());
-        Ejecutar("COMMIT");
-    } else {
-        Comprobar();
+}
+
+void Conexion::Abrir_Fichero(bool crear)
+{
+    Abrir_Manejador(crear ? SQLITE_OPEN_CREATE : 0);
+    sqlite3_busy_timeout(base, ESPERA_BLOQUEO_MS);
+    if (!crear) {
+        Comprobar_Largo();
+        return Comprobar();
     }
-    Configurar();
+    Ejecutar("BEGIN EXCLUSIVE");
+    for (const QString& sql : Esquema::Sentencias())
+        Ejecutar(sql.toUtf8().constData());
+    Ejecutar(("PRAGMA application_id=" + QByteArray::number(Esquema::MARCA_FICHERO)).constData());
+    Ejecutar("COMMIT");
 }
 
 void Conexion::Configurar()
@@ -143,6 +163,15 @@ void Conexion::Configurar()
     // A damaged page is reported, not followed.
     Ejecutar("PRAGMA cell_size_check=ON");
     Ejecutar("PRAGMA cache_size=-16000");
+}
+
+// SQLite fills up a last page that is cut short; the file has lost its end all the same. With a log
+// beside it the page may be on its way.
+void Conexion::Comprobar_Largo()
+{
+    if (QFileInfo(fichero + QStringLiteral("-wal")).size() > 0) return;
+    const qint64 pagina = Preguntar("PRAGMA page_size").toLongLong();
+    if (pagina <= 0 || QFileInfo(fichero).size() % pagina != 0) throw Con_Detalle(3343, fichero);
 }
 
 // A database of this program holds every table with every column; anything else is a foreign file.
@@ -207,8 +236,15 @@ Error_Ejecucion Conexion::Error(int codigo) const
 
 void Conexion::Ejecutar(const char* sql)
 {
+    if (!base) throw Error_Ejecucion(3420);
     const int r = sqlite3_exec(base, sql, nullptr, nullptr, nullptr);
     if (r != SQLITE_OK) throw Error(r);
+}
+
+QString Conexion::Preguntar(const char* sql)
+{
+    Sentencia s(shared_from_this(), sql, Compilar(sql));
+    return s.Paso() ? s.Texto(0) : QString();
 }
 
 sqlite3_stmt* Conexion::Compilar(const QByteArray& sql)
@@ -296,6 +332,7 @@ void Conexion::Deshacer()
 {
     if (nivel == 0) throw Error_Ejecucion(3034);
     --nivel;
+    version = 0; // the rows are those of before
     if (sqlite3_get_autocommit(base)) {
         nivel = 0;
         return;
@@ -311,6 +348,7 @@ void Conexion::Deshacer()
 
 bool Conexion::Leyendo() const
 {
+    if (!base) return false;
     for (sqlite3_stmt* st = sqlite3_next_stmt(base, nullptr); st; st = sqlite3_next_stmt(base, st))
         if (sqlite3_stmt_busy(st)) return true;
     return false;
@@ -339,8 +377,25 @@ void Conexion::Retomar()
         s->st = Compilar(s->sql);
 }
 
+void Conexion::Retomar_Sola()
+{
+    try {
+        Abrir_Manejador(0);
+        // Exclusive from the first page read: a page that another program has changed can't be
+        // taken for the file's. Nobody is waited for.
+        Ejecutar("PRAGMA locking_mode=EXCLUSIVE");
+        Ejecutar("BEGIN EXCLUSIVE");
+        Ejecutar("COMMIT");
+        if (Preguntar("PRAGMA journal_mode=DELETE") != u"delete") throw Error(SQLITE_BUSY);
+    } catch (...) {
+        Soltar();
+        throw;
+    }
+}
+
 void Conexion::Sincronizar()
 {
+    if (!base) throw Error_Ejecucion(3420);
     sqlite3_file* diario = nullptr;
     if (sqlite3_file_control(base, "main", SQLITE_FCNTL_JOURNAL_POINTER, &diario) != SQLITE_OK ||
         !diario || !diario->pMethods)

@@ -28,8 +28,8 @@ public:
     Conexion& operator=(const Conexion&) = delete;
 
     const QString& Fichero() const { return fichero; }
-    /// Grows whenever a row was written through this connection or any other; never the same for two
-    /// connections of the process.
+    /// Grows whenever a row was written through this connection or any other; never the same for
+    /// two connections of the process.
     quint64 Version();
     sqlite3* Manejador() const { return base; }
 
@@ -50,6 +50,9 @@ public:
     /// preparing them anew.
     void Soltar();
     void Retomar();
+    /// Takes the file up for this connection alone, without a log beside it.
+    /// @throws Error_Ejecucion 3045 when another program has it open
+    void Retomar_Sola();
 
     /// Waits until what was committed lies on the disk.
     void Sincronizar();
@@ -61,8 +64,12 @@ private:
     friend class Sentencia;
     explicit Conexion(const QString& fichero);
     void Abrir(bool crear);
+    void Abrir_Fichero(bool crear);
+    void Abrir_Manejador(int modo);
     void Configurar();
+    void Comprobar_Largo();
     void Comprobar() const;
+    QString Preguntar(const char* sql);
     void Devolver(const QByteArray& sql, sqlite3_stmt* st);
     sqlite3_stmt* Compilar(const QByteArray& sql);
 

@@ -47,11 +47,11 @@ public:
 protected:
     struct Columna {
         QString nombre; // alone, or with its table when it stands twice
-        QString origen; // column of the base table; empty for an expression
+        QString origen; // column of the base table; empty for one that can't be written
     };
 
-    /// Takes the columns of a prepared query, from the n-th.
-    void Leer_Columnas(const Sentencia& s, int primera = 0);
+    /// Takes the columns of a prepared query, from the n-th; those of `tabla` can be written.
+    void Leer_Columnas(const Sentencia& s, const QString& tabla, int primera = 0);
     /// Values of the current row. @throws Error_Ejecucion 3021 without one, 3167 when it is gone
     virtual const std::vector<QVariant>& Fila() const = 0;
     /// Row number in the base table of the current row. @throws Error_Ejecucion 3251 when the set

@@ -86,7 +86,7 @@ public:
     De_Filas(std::shared_ptr<Conexion> c, Traduccion t)
         : De_Lista(std::move(c)), consulta(std::move(t))
     {
-        Leer_Columnas(conexion->Preparar(consulta.una_fila));
+        Leer_Columnas(conexion->Preparar(consulta.una_fila), consulta.tabla);
         Leer_Filas();
     }
 
@@ -196,7 +196,7 @@ private:
         filas.Vaciar();
         Sentencia s = conexion->Preparar(consulta.sql);
         s.Ligar(consulta.valores, {});
-        Leer_Columnas(s);
+        Leer_Columnas(s, QString());
         while (s.Paso())
             filas.Anadir(s);
     }

@@ -15,7 +15,7 @@ void Datos::Seek(const QVariantList&)
     throw Error_Ejecucion(3251);
 }
 
-void Datos::Leer_Columnas(const Sentencia& s, int primera)
+void Datos::Leer_Columnas(const Sentencia& s, const QString& tabla, int primera)
 {
     columnas.clear();
     lugares.clear();
@@ -28,7 +28,8 @@ void Datos::Leer_Columnas(const Sentencia& s, int primera)
         const QString nombre = s.Nombre(i);
         const QString con_tabla = s.Tabla_Origen(i) + u'.' + nombre;
         const bool repetida = lugares.value(nombre.toLower()) < 0;
-        columnas.push_back({repetida ? con_tabla : nombre, s.Nombre_Origen(i)});
+        columnas.push_back({repetida ? con_tabla : nombre,
+                            s.Tabla_Origen(i) == tabla ? s.Nombre_Origen(i) : QString()});
         if (!lugares.contains(con_tabla.toLower())) lugares[con_tabla.toLower()] = i - primera;
     }
 }

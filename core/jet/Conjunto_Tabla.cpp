@@ -8,7 +8,7 @@ class De_Tabla final : public Conjunto_Registros::Datos {
 public:
     De_Tabla(std::shared_ptr<Conexion> c, const Esquema::Tabla& t) : Datos(std::move(c)), tabla(t)
     {
-        Leer_Columnas(Seleccion(QString(), QString()), 1);
+        Leer_Columnas(Seleccion(QString(), QString()), tabla.nombre, 1);
         Al_Principio();
     }
 

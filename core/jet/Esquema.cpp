@@ -62,11 +62,12 @@ QList<Tabla> Tablas_De_Referencia()
           Texto(u"PosDigit", ANCHO_CODIGO), Texto(u"Forsalida", ANCHO_NOMBRE),
           Texto(u"Especial", ANCHO_NOMBRE), Texto(u"Marcas", ANCHO_CODIGO),
           Texto(u"Caracter", ANCHO_CODIGO)},
-         {{"MaqCam", {"Maquina", "Campo"}, false}, {"MaqId", {"Maquina", "ID", "Orden"}, false}}},
+         {{"MaqCam", {"Maquina", "Campo"}, false},
+          {"MaqId", {"Maquina", "ID", "Orden"}, false, true}}},
         {"Ayudas",
          {Texto(u"Maquina", ANCHO_NOMBRE), Numero(u"OPE"), Texto(u"TipOpe", 1), Numero(u"Sec"),
           Texto(u"Texto", ANCHO_LARGO), Texto(u"Foto", ANCHO_LARGO)},
-         {{"MaqOpe", {"Maquina", "OPE", "TipOpe", "Sec"}, false}}},
+         {{"MaqOpe", {"Maquina", "OPE", "TipOpe", "Sec"}, false, true}}},
         {"TAB2",
          {Texto(u"TIPO", ANCHO_CODIGO), Numero(u"INDICE"), Texto(u"DESCRIPCION", ANCHO_LARGO)},
          {Clave({"TIPO", "INDICE"})}},
@@ -121,7 +122,7 @@ QList<Tabla> Tablas_De_Trabajo()
 bool En_Indice(const Tabla& tabla, const QString& columna)
 {
     for (const Indice& i : tabla.indices)
-        if (i.columnas.contains(columna, Qt::CaseInsensitive)) return true;
+        if (!i.interno && i.columnas.contains(columna, Qt::CaseInsensitive)) return true;
     return false;
 }
 
@@ -170,7 +171,7 @@ const Esquema::Columna* Esquema::Tabla::Buscar_Columna(const QString& buscada) c
 const Esquema::Indice* Esquema::Tabla::Buscar_Indice(const QString& buscado) const
 {
     for (const Indice& i : indices)
-        if (i.nombre.compare(buscado, Qt::CaseInsensitive) == 0) return &i;
+        if (!i.interno && i.nombre.compare(buscado, Qt::CaseInsensitive) == 0) return &i;
     return nullptr;
 }
 

@@ -23,11 +23,13 @@ struct Columna {
     int ancho = 0; ///< characters, for `Texto`
 };
 
-/// A named index, for `Index` and `Seek`; its columns are never null.
+/// A named index, for `Index` and `Seek`; its columns are never null, so that rows compare as a
+/// whole.
 struct Indice {
     QString nombre;
     QStringList columnas; ///< in the order in which `Seek` takes its keys
     bool unico = true;
+    bool interno = false; ///< serves queries alone: unknown to `Index`, and null is allowed
 };
 
 struct Tabla {
