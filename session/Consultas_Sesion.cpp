@@ -2,7 +2,6 @@
 
 #include "core/ModEstTotal.h"
 #include "core/Sesiones.h"
-#include "core/Sucesos.h"
 
 bool Tipo_Ficheros_Puntos = false;
 
@@ -164,6 +163,5 @@ bool Borrar_Sesion(const std::optional<Sesion_Elegida>& sesion)
         Informe_Error("Se produjo un error al eliminar la sesión", Error_En_Curso());
         return false;
     }
-    Q_EMIT Sucesos::Unico().sesiones_cambiadas();
     return true;
 }
