@@ -271,6 +271,16 @@ def ico_bajar(d):
         flecha(d, 58, TURQUESA, 20)
 
 
+def ico_avanzar(d):
+    with d.lugar(4, 16, 0.42):
+        flecha(d, 58, TURQUESA, 20)
+
+
+def ico_retrasar(d):
+    with d.lugar(28, 16, 0.42, espejo=True):
+        flecha(d, 58, TURQUESA, 20)
+
+
 def ico_rayo(d):
     with d.lugar(16, 16, 0.62):
         rayo(d)
@@ -309,7 +319,8 @@ ICONOS = {
     "formatos": ico_formatos, "codigos": ico_codigos, "salir": ico_salir, "lista_descarga": ico_descarga,
     "lista_carga": ico_carga, "carpeta": ico_carpeta, "ayuda": ico_ayuda, "subir": ico_subir,
     "bajar": ico_bajar, "rayo": ico_rayo, "arbol_raiz": ico_raiz, "arbol_punto": ico_punto,
-    "arbol_coordenada": ico_coordenada, "arbol_desborda": ico_desborda, "miraldos": ico_programa,
+    "arbol_coordenada": ico_coordenada, "arbol_desborda": ico_desborda, "avanzar": ico_avanzar,
+    "retrasar": ico_retrasar,
 }
 
 
@@ -395,6 +406,7 @@ def main():
         icono(dibujo, 64).png(bmp / f"{nombre}@2x.png")
     for que in ("pc", "aparato"):
         foto_destino(que).png(bmp / f"{que}.png")
+    icono(ico_programa, 128).png(bmp / "miraldos.png")
     grande = imagen(icono(ico_programa, 256))
     grande.save(bmp / "miraldos.ico", sizes=[(n, n) for n in (16, 24, 32, 48, 64, 128, 256)],
                 append_images=[imagen(icono(ico_programa, n)) for n in (16, 24, 32, 48, 64, 128)])
