@@ -33,13 +33,12 @@ struct Camino {
     Punto fin{};
 };
 
-/// Point and azimuth at `s` metres behind the start of `e`.
-inline Punto En(const Elemento& e, double s)
+/// Point and azimuth at `s` metres behind the start of `e`; `pasos` of the integration, even.
+inline Punto En(const Elemento& e, double s, int pasos = 400)
 {
     const auto azimut = [&](double t) {
         return e.azimut + e.k1 * t + (e.k2 - e.k1) * t * t / (2 * e.longitud);
     };
-    const int pasos = 400;
     const double h = s / pasos;
     double x = 0, y = 0;
     for (int i = 0; i <= pasos; ++i) {
