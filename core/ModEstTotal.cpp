@@ -22,9 +22,14 @@ QStringList datosexport = QStringList(QList<QString>(MAX_IDS));
 
 QString En_Instalacion(const QString& relativa)
 {
+    // A folder spelt otherwise is the same folder, also where the file system tells capitals apart.
+    static const QStringList carpetas{"MDB", "DAT", "LOG", "bmp", "bmphlp", "hlp", "ficheros"};
     QString camino = relativa;
     camino.replace(u'\\', u'/');
     if (!camino.startsWith(u'/')) camino.prepend(u'/');
+    const QString primera = camino.section(u'/', 1, 1);
+    for (const QString& c : carpetas)
+        if (c.compare(primera, Qt::CaseInsensitive) == 0) camino.replace(1, c.size(), c);
     return Ruta_Aplicacion + camino;
 }
 

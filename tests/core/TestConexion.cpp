@@ -2,7 +2,7 @@
 #include "core/jet/Esquema.h"
 #include "core/ModEstTotal.h"
 #include "tests/apoyo/Base_De_Prueba.h"
-#include "tests/apoyo/Errores.h"
+#include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
 
 #include <QRandomGenerator>

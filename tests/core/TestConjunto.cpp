@@ -1,5 +1,5 @@
 #include "tests/apoyo/Base_De_Prueba.h"
-#include "tests/apoyo/Errores.h"
+#include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
 
 // Moves, searches and edits of the three kinds of recordset.

@@ -1,7 +1,7 @@
 #include "core/Error_Ejecucion.h"
 #include "core/jet/Esquema.h"
 #include "tests/apoyo/Base_De_Prueba.h"
-#include "tests/apoyo/Errores.h"
+#include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
 
 // The SQL of the program, on data that tells right from wrong.
