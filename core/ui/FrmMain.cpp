@@ -7,6 +7,7 @@
 #include "core/ui/Dialogos.h"
 #include "core/ui/FrmKRT.h"
 #include "core/ui/Frmutils.h"
+#include "core/ui/Piezas.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -56,11 +57,6 @@ QString Boton_De_Toolbar(int indice)
 constexpr int BOTON_CODIGOS = 5;
 
 } // namespace
-
-QString Texto_No_Disponible(const QString& que)
-{
-    return que.trimmed() + QStringLiteral(" todavía no está disponible en esta versión");
-}
 
 FrmMain::FrmMain() : area(new Area_Ventanas), panel(new QLabel)
 {
@@ -162,13 +158,12 @@ void FrmMain::Hacer_Toolbar()
     barra->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     barra->setContextMenuPolicy(Qt::PreventContextMenu);
     addToolBar(barra);
-    Boton(1, "tb_transferencias.png", "Transferencias)",
-          "Carga/Desarga de Datos a/desde la máquina");
-    Boton(2, "tb_configuracion.png", "Configuración", "Configuración");
-    Boton(3, "tb_descargas.png", "Descargas", "Descargas");
-    Boton(4, "tb_formatos.png", "Formatos", "Formatos");
-    Boton(BOTON_CODIGOS, "tb_codigos.png", "Códigos", "Códigos");
-    Boton(6, "tb_salir.png", "Salir", "Salir");
+    Boton(1, "transferencias.png", "Transferencias)", "Carga/Desarga de Datos a/desde la máquina");
+    Boton(2, "configuracion.png", "Configuración", "Configuración");
+    Boton(3, "descargas.png", "Descargas", "Descargas");
+    Boton(4, "formatos.png", "Formatos", "Formatos");
+    Boton(BOTON_CODIGOS, "codigos.png", "Códigos", "Códigos");
+    Boton(6, "salir.png", "Salir", "Salir");
 }
 
 void FrmMain::Acciones_Propias()
@@ -208,7 +203,7 @@ void FrmMain::Elegida(const QString& entrada, const QString& titulo)
     if (hecho)
         hecho();
     else
-        Interfaz_Actual().Mensaje(Texto_No_Disponible(titulo), Icono::Informacion);
+        Interfaz_Actual().Mensaje(Piezas::Texto_No_Disponible(titulo), Icono::Informacion);
 }
 
 void FrmMain::Mosaico()

@@ -54,6 +54,3 @@ private:
     QStringList orden;
     QHash<QString, std::function<void()>> hechos;
 };
-
-/// What the program says of an entry whose dialog is not built yet.
-QString Texto_No_Disponible(const QString& que);

@@ -119,4 +119,9 @@ int Indice_De(const QComboBox& combo, const QString& texto)
     return combo.findText(texto, Qt::MatchExactly | Qt::MatchCaseSensitive);
 }
 
+QString Texto_No_Disponible(const QString& que)
+{
+    return que.trimmed() + QStringLiteral(" todavía no está disponible en esta versión");
+}
+
 } // namespace Piezas

@@ -41,4 +41,7 @@ void Orden(std::initializer_list<QWidget*> piezas);
 /// The index of a combo's first item with that text; -1 when there is none.
 int Indice_De(const QComboBox& combo, const QString& texto);
 
+/// What the program says of an entry whose dialog is not built yet.
+QString Texto_No_Disponible(const QString& que);
+
 } // namespace Piezas

@@ -1,0 +1,92 @@
+#include "session/ui/FrmDatos.h"
+
+#include "core/Ayuda.h"
+#include "core/ModEstTotal.h"
+#include "core/ui/Dialogos.h"
+#include "core/ui/Modelo_Conjunto.h"
+#include "core/ui/Piezas.h"
+#include "session/ModVDatos.h"
+#include "session/ui/FrmEditar.h"
+#include "session/ui/Rejilla.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTableView>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+FrmDatos::FrmDatos()
+    : Ventana(QStringLiteral("FrmDatos")), Data1(new Modelo_Conjunto(this)),
+      DBGrid1(new QTableView), MSF(Hacer_Rejilla("MSF"))
+{
+    Data1->setObjectName(QStringLiteral("Data1"));
+    DBGrid1->setObjectName(QStringLiteral("DBGrid1"));
+    Data1->Poner_Columnas({{"Punto", "Punto"}, {"Campo", "Descr"}, {"DATOS", "datos"}});
+    Atar_Rejilla(DBGrid1, Data1);
+    DBGrid1->setColumnWidth(0, 120);
+    DBGrid1->setColumnWidth(1, 180);
+    DBGrid1->horizontalHeader()->setStretchLastSection(true);
+    auto* const mitades = new QSplitter(Qt::Vertical);
+    mitades->addWidget(DBGrid1);
+    mitades->addWidget(MSF);
+    mitades->setStretchFactor(0, 3);
+    mitades->setStretchFactor(1, 1);
+    mitades->setChildrenCollapsible(false);
+    QPushButton* const BtnOperaciones = Piezas::Boton("BtnOperaciones", "&Ver con formato");
+    QPushButton* const BtnCan = Piezas::Boton("BtnCan", "&Cerrar");
+    QPushButton* const btnAyuda = Piezas::Boton("btnAyuda", "&Ayuda");
+    auto* const botones = new QHBoxLayout;
+    botones->addWidget(BtnOperaciones);
+    botones->addStretch();
+    botones->addWidget(BtnCan);
+    botones->addWidget(btnAyuda);
+    auto* const caja = new QVBoxLayout(this);
+    caja->addWidget(mitades, 1);
+    caja->addLayout(botones);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    resize(780, 560);
+    Poner_Botones(BtnOperaciones, BtnCan);
+    connect(Data1, &Modelo_Conjunto::reposicion, this, &FrmDatos::Data1_Reposition);
+    connect(BtnOperaciones, &QPushButton::clicked, this, &FrmDatos::BtnOperaciones_Click);
+    connect(BtnCan, &QPushButton::clicked, this, &Ventana::Ocultar);
+    connect(btnAyuda, &QPushButton::clicked, this, [] { Mostrar_Ayuda_Web("vdatos"); });
+}
+
+void FrmDatos::Ver(const Sesion_Elegida& sesion, const Vista_Datos& vista)
+{
+    sesion_vista = sesion;
+    setWindowTitle(vista.titulo);
+    DBGrid1->setColumnHidden(0, !vista.columna_punto);
+    DBGrid1->setColumnHidden(1, !vista.columna_descr);
+    Data1->Abrir(Base::Abrir(Fichero_MDB), vista.sql);
+    Mostrar_Modal();
+}
+
+void FrmDatos::Data1_Reposition()
+{
+    Poner_Lineas(*MSF, "Campo", "Valor",
+                 Datos_Generales(*Base_Datos, sesion_vista, Data1->Texto("DatosG")));
+}
+
+void FrmDatos::BtnOperaciones_Click()
+{
+    if (Data1->Fila_Actual() < 0) {
+        Interfaz_Actual().Pitar();
+        return;
+    }
+    const auto vista = Ver_Registro(sesion_vista.maquina, sesion_vista.ope, Data1->Texto("Descr"),
+                                    Data1->Texto("Datos"), Data1->Texto("Punto"));
+    if (vista)
+        Dialogos::Unico<FrmEditar>().Ver(*vista, [this](int paso) {
+            if (Mover(paso)) BtnOperaciones_Click();
+        });
+}
+
+bool FrmDatos::Mover(int paso)
+{
+    const bool movido = Mover_Registro(Data1->Conjunto(), paso);
+    Data1->Tomar_Fila();
+    return movido;
+}

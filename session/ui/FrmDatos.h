@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/ui/Ventana.h"
+#include "session/Consultas_Sesion.h"
+
+class Modelo_Conjunto;
+class QTableView;
+class QTableWidget;
+
+/// The raw lines of a session, and below them the general data in force for the
+/// current one.
+class FrmDatos : public Ventana {
+    Q_OBJECT
+public:
+    FrmDatos();
+
+    /// Shows a session modally.
+    void Ver(const Sesion_Elegida& sesion, const Vista_Datos& vista);
+    /// Opens the current line in `FrmEditar`, or fills it anew where it is open.
+    void BtnOperaciones_Click();
+    /// Moves to the next (1) or previous (-1) line; at the end it says so and
+    /// stays.
+    /// @return true when it moved
+    bool Mover(int paso);
+
+private:
+    void Data1_Reposition();
+
+    Sesion_Elegida sesion_vista;
+    Modelo_Conjunto* Data1;
+    QTableView* DBGrid1;
+    QTableWidget* MSF;
+};

@@ -1,0 +1,28 @@
+#include "transfer/ui/Dialogos_Transfer.h"
+
+#include "core/ui/Dialogos.h"
+#include "core/ui/FrmAyuda.h"
+#include "transfer/Peticiones_Transfer.h"
+#include "transfer/ui/FrmFic.h"
+#include "transfer/ui/FrmIni.h"
+#include "transfer/ui/FrmRecuerde.h"
+#include "transfer/ui/FrmSplash.h"
+
+void Conectar_Dialogos_Transfer()
+{
+    Peticiones_Transfer& pide = Peticiones_De_Transfer();
+    pide.Ocultar_FrmIni = [] {
+        if (FrmIni* const frm = Dialogos::Cargado<FrmIni>()) frm->Ocultar();
+    };
+    pide.Mostrar_Recordatorio = [] { Dialogos::Unico<FrmRecuerde>().Mostrar_Modal(); };
+    pide.Pedir_Nombre_Sesion = Pedir_Nombre_Sesion;
+    pide.Mostrar_Pasos = [](const QString& tipo_ope, const QString& ope) {
+        Dialogos::Unico<FrmAyuda>().Cargar(tipo_ope, ope);
+    };
+    pide.Dialogo_Descarga = [](bool cargar) -> Descarga* {
+        if (cargar) return &Dialogos::Unico<FrmSplash>().Conversacion();
+        FrmSplash* const frm = Dialogos::Cargado<FrmSplash>();
+        return frm ? &frm->Conversacion() : nullptr;
+    };
+    pide.Mostrar_Descarga = [] { Dialogos::Unico<FrmSplash>().Mostrar(); };
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/ui/Ventana.h"
+#include "transfer/Descarga.h"
+
+#include <functional>
+
+class QLabel;
+
+/// Download dialog of all families: shows what its conversation does.
+class FrmSplash : public Ventana {
+    Q_OBJECT
+public:
+    FrmSplash();
+
+    Descarga& Conversacion() { return *descarga; }
+
+    /// Makes the port of a dialog that is loaded; another than the machine's for
+    /// tests.
+    static std::function<std::unique_ptr<Puerto_Serie>()> Hacer_Puerto;
+
+protected:
+    void Colocar() override;
+    void Al_Descargar() override;
+
+private:
+    QWidget* Hacer_Dibujo();
+    void Conectar();
+
+    Descarga* descarga;
+    QLabel *Label1, *Rayo;
+    QPushButton* BtnIniciar;
+};
