@@ -38,7 +38,7 @@ Fichero_Texto::Fichero_Texto(const QString& ruta) : fichero(ruta)
 Fichero_Texto::~Fichero_Texto()
 {
     // What an error elsewhere leaves behind: as far as it got.
-    fichero.write(pendiente);
+    if (fichero.isOpen()) fichero.write(pendiente);
 }
 
 void Fichero_Texto::Linea(QStringView texto)
