@@ -75,7 +75,8 @@ private:
     void Cambiar();
 
     std::vector<Columna> columnas;
-    QHash<QString, int> lugares; // lower case; -1 for a name that stands twice
+    // By lower case, and as asked for; -1 for a name that stands twice.
+    mutable QHash<QString, int> lugares;
     Edicion edicion = Edicion::Ninguna;
     std::vector<QVariant> nueva;
     std::vector<bool> puesta;

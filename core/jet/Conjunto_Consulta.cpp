@@ -86,7 +86,8 @@ public:
     De_Filas(std::shared_ptr<Conexion> c, Traduccion t)
         : De_Lista(std::move(c)), consulta(std::move(t))
     {
-        Leer_Columnas(conexion->Preparar(consulta.una_fila), consulta.tabla);
+        lectora = conexion->Preparar(consulta.una_fila);
+        Leer_Columnas(lectora, consulta.tabla);
         Leer_Filas();
     }
 
@@ -118,12 +119,13 @@ protected:
 
     void Cargar(qint64 miembro, std::vector<QVariant>& fila) const override
     {
-        Sentencia s = conexion->Preparar(consulta.una_fila);
-        s.Ligar_Entero(1, filas[std::size_t(miembro)]);
-        if (!s.Paso()) throw Error_Ejecucion(3167);
+        lectora.Ligar_Entero(1, filas[std::size_t(miembro)]);
         fila.clear();
-        for (int i = 0; i < s.Columnas(); ++i)
-            fila.push_back(s.Valor(i));
+        if (lectora.Paso())
+            for (int i = 0; i < lectora.Columnas(); ++i)
+                fila.push_back(lectora.Valor(i));
+        lectora.Reiniciar();
+        if (fila.empty()) throw Error_Ejecucion(3167);
     }
 
     qint64 Numero_De_Fila() const override
@@ -157,6 +159,7 @@ private:
 
     Traduccion consulta;
     std::vector<qint64> filas;
+    mutable Sentencia lectora; // the row of a number, kept prepared while the set lives
 };
 
 // Rows that aren't a table's, or must not change: their values are kept as they were.

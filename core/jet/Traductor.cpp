@@ -1,112 +1,12 @@
 #include "core/jet/Traductor.h"
 
 #include "core/jet/Esquema.h"
+#include "core/jet/Fichas_Sql.h"
 
-#include <limits>
+#include <algorithm>
+#include <initializer_list>
 
 namespace {
-
-enum class Clase { Palabra, Nombre, Numero, Texto, Simbolo, Hueco };
-
-struct Ficha {
-    Clase clase;
-    int ini, fin; // bytes of the source
-    int nivel;    // open brackets around it
-};
-
-bool Es_Letra(unsigned char c)
-{
-    return std::isalpha(c) || c == '_' || c == '$' || c > 127;
-}
-
-bool Es_Cifra(unsigned char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-class Lector {
-public:
-    explicit Lector(const QByteArray& texto) : s(texto) {}
-
-    std::vector<Ficha> Leer()
-    {
-        std::vector<Ficha> fichas;
-        int nivel = 0;
-        while (Saltar_Blancos()) {
-            const int ini = i;
-            const char c = s[i];
-            Clase clase = Clase::Simbolo;
-            if (c == ')') --nivel;
-            const int de = nivel;
-            if (c == '\'' || c == '"') {
-                clase = Clase::Texto;
-                Hasta_Comilla(c);
-            } else if (c == '[') {
-                clase = Clase::Nombre;
-                Hasta_Corchete();
-            } else if (Es_Cifra(c) || (c == '.' && i + 1 < s.size() && Es_Cifra(s[i + 1]))) {
-                clase = Clase::Numero;
-                Numero();
-            } else if (Es_Letra(c)) {
-                clase = Clase::Palabra;
-                while (i < s.size() && (Es_Letra(s[i]) || Es_Cifra(s[i])))
-                    ++i;
-            } else {
-                if (c == '?') clase = Clase::Hueco;
-                if (c == '(') ++nivel;
-                ++i;
-            }
-            fichas.push_back({clase, ini, i, de});
-        }
-        return fichas;
-    }
-
-private:
-    bool Saltar_Blancos()
-    {
-        while (i < s.size() && std::isspace(static_cast<unsigned char>(s[i])))
-            ++i;
-        return i < s.size();
-    }
-
-    void Hasta_Comilla(char comilla)
-    {
-        for (++i; i < s.size(); ++i)
-            if (s[i] == comilla) {
-                if (i + 1 < s.size() && s[i + 1] == comilla) {
-                    ++i;
-                    continue;
-                }
-                ++i;
-                return;
-            }
-    }
-
-    void Hasta_Corchete()
-    {
-        while (i < s.size() && s[i] != ']')
-            ++i;
-        if (i < s.size()) ++i;
-    }
-
-    void Numero()
-    {
-        while (i < s.size() && (Es_Cifra(s[i]) || s[i] == '.'))
-            ++i;
-        if (i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
-            int k = i + 1;
-            if (k < s.size() && (s[k] == '+' || s[k] == '-')) ++k;
-            if (k < s.size() && Es_Cifra(s[k])) {
-                while (k < s.size() && Es_Cifra(s[k]))
-                    ++k;
-                i = k;
-            }
-        }
-    }
-
-    const QByteArray& s;
-    int i = 0;
-};
 
 // One of the tables that a SELECT reads, as its columns are spoken of.
 struct Origen {
@@ -116,7 +16,7 @@ struct Origen {
 
 class Traductor {
 public:
-    explicit Traductor(const QString& sql) : fuente(sql.toUtf8()), fichas(Lector(fuente).Leer()) {}
+    explicit Traductor(const QString& sql) : fuente(sql.toUtf8()), fichas(Leer_Fichas(fuente)) {}
 
     Traduccion Hacer()
     {
@@ -138,65 +38,60 @@ public:
 private:
     int n() const { return int(fichas.size()); }
 
-    bool Es(int k, const char* palabra) const
-    {
-        if (k < 0 || k >= n()) return false;
-        const Ficha& f = fichas[std::size_t(k)];
-        return qsizetype(qstrlen(palabra)) == f.fin - f.ini &&
-               qstrnicmp(fuente.constData() + f.ini, palabra, size_t(f.fin - f.ini)) == 0;
-    }
+    const Ficha_Sql& En(int k) const { return fichas[std::size_t(k)]; }
+    bool Fuera(int k) const { return En(k).nivel == 0; }
+    bool Es(int k, Pieza pieza) const { return k >= 0 && k < n() && En(k).pieza == pieza; }
 
-    bool Es_Alguna(int k, std::initializer_list<const char*> palabras) const
+    bool Es_Alguna(int k, std::initializer_list<Pieza> piezas) const
     {
-        for (const char* p : palabras)
-            if (Es(k, p)) return true;
-        return false;
+        return k >= 0 && k < n() &&
+               std::find(piezas.begin(), piezas.end(), En(k).pieza) != piezas.end();
     }
 
     bool Es_Nombre(int k) const
     {
-        return k < n() && (fichas[std::size_t(k)].clase == Clase::Palabra ||
-                           fichas[std::size_t(k)].clase == Clase::Nombre);
+        return k < n() &&
+               (En(k).clase == Clase_Ficha::Palabra || En(k).clase == Clase_Ficha::Nombre);
     }
 
     QByteArray Texto(int k) const
     {
-        const Ficha& f = fichas[std::size_t(k)];
+        const Ficha_Sql& f = En(k);
         return fuente.mid(f.ini, f.fin - f.ini);
     }
 
     // Finds the clauses of the outermost SELECT.
     void Partir()
     {
-        es_select = Es(0, "SELECT");
+        es_select = Es(0, Pieza::Select);
         if (!es_select) return;
         lista = 1;
-        if (Es_Alguna(1, {"DISTINCT", "ALL"})) {
-            distinta = Es(1, "DISTINCT");
+        if (Es_Alguna(1, {Pieza::Distinct, Pieza::All})) {
+            distinta = Es(1, Pieza::Distinct);
             lista = 2;
         }
         fin = n();
-        if (fin > 0 && Es(fin - 1, ";")) --fin;
+        if (fin > 0 && Es(fin - 1, Pieza::Punto_Y_Coma)) --fin;
         for (int k = lista; k < fin; ++k) {
-            const bool fuera = fichas[std::size_t(k)].nivel == 0;
-            if (desde < 0 && Es_Alguna(k, {"COUNT", "SUM", "AVG", "MIN", "MAX", "TOTAL"}) &&
-                Es(k + 1, "(") && !Dentro_De_Subconsulta(k))
+            const bool fuera = Fuera(k);
+            if (desde < 0 && Es(k, Pieza::Resumir) && Es(k + 1, Pieza::Abre) &&
+                !Dentro_De_Subconsulta(k))
                 agrupada = true;
             if (!fuera) continue;
-            if (desde < 0 && Es(k, "FROM")) desde = k;
-            if (Es(k, "WHERE")) donde = k;
-            if (Es_Alguna(k, {"GROUP", "HAVING", "UNION", "EXCEPT", "INTERSECT"})) agrupada = true;
-            if (Es(k, "ORDER") && Es(k + 1, "BY")) orden = k;
-            if (Es(k, "LIMIT")) limite = k;
+            if (desde < 0 && Es(k, Pieza::From)) desde = k;
+            if (Es(k, Pieza::Where)) donde = k;
+            if (Es_Alguna(k, {Pieza::Group, Pieza::Having, Pieza::Combinar})) agrupada = true;
+            if (Es(k, Pieza::Order) && Es(k + 1, Pieza::By)) orden = k;
+            if (Es(k, Pieza::Limit)) limite = k;
         }
         if (desde < 0) es_select = false;
     }
 
     bool Dentro_De_Subconsulta(int k) const
     {
-        const int nivel = fichas[std::size_t(k)].nivel;
+        const int nivel = En(k).nivel;
         for (int j = k - 1; j >= lista; --j)
-            if (fichas[std::size_t(j)].nivel <= nivel && nivel > 0 && Es(j, "SELECT")) return true;
+            if (En(j).nivel <= nivel && nivel > 0 && Es(j, Pieza::Select)) return true;
         return false;
     }
 
@@ -218,15 +113,14 @@ private:
             const Esquema::Tabla* tabla = Esquema::Buscar_Tabla(Sin_Corchetes(Texto(k)));
             if (!tabla) return false;
             QByteArray alias = Texto(k++);
-            if (Es(k, "AS")) ++k;
+            if (Es(k, Pieza::As)) ++k;
             if (k < hasta && Es_Nombre(k) && !Es_De_Union(k)) alias = Texto(k++);
             origenes.push_back({tabla->nombre, alias});
-            if (Es(k, "ON"))
-                while (k < hasta &&
-                       !(fichas[std::size_t(k)].nivel == 0 && (Es(k, ",") || Es_De_Cruce(k))))
+            if (Es(k, Pieza::On))
+                while (k < hasta && !(Fuera(k) && (Es(k, Pieza::Coma) || Es_De_Cruce(k))))
                     ++k;
             if (k >= hasta) break;
-            if (Es(k, ",")) {
+            if (Es(k, Pieza::Coma)) {
                 ++k;
                 continue;
             }
@@ -239,11 +133,12 @@ private:
 
     bool Es_De_Cruce(int k) const
     {
-        if (Es_Alguna(k, {"LEFT", "RIGHT"}) && Es(k + 1, "(")) return false;
-        return Es_Alguna(k, {"LEFT", "RIGHT", "INNER", "OUTER", "CROSS", "FULL", "JOIN"});
+        if (Es_Alguna(k, {Pieza::Left, Pieza::Right}) && Es(k + 1, Pieza::Abre)) return false;
+        return Es_Alguna(k, {Pieza::Left, Pieza::Right, Pieza::Inner, Pieza::Outer, Pieza::Cross,
+                             Pieza::Full, Pieza::Join});
     }
 
-    bool Es_De_Union(int k) const { return Es(k, "ON") || Es_De_Cruce(k); }
+    bool Es_De_Union(int k) const { return Es(k, Pieza::On) || Es_De_Cruce(k); }
 
     static QString Sin_Corchetes(const QByteArray& nombre)
     {
@@ -264,14 +159,16 @@ private:
     bool Hay_Asterisco() const
     {
         for (int k = lista; k < desde; ++k)
-            if (Es(k, "*") && (k == lista || Es_Alguna(k - 1, {".", ","}))) return true;
+            if (Es(k, Pieza::Asterisco) &&
+                (k == lista || Es_Alguna(k - 1, {Pieza::Punto, Pieza::Coma})))
+                return true;
         return false;
     }
 
     bool Hay_Hueco(int a, int b) const
     {
         for (int k = a; k < b; ++k)
-            if (fichas[std::size_t(k)].clase == Clase::Hueco) return true;
+            if (En(k).clase == Clase_Ficha::Hueco) return true;
         return false;
     }
 
@@ -292,7 +189,7 @@ private:
         QByteArray grupo;
         for (int k = lista; k < desde;) {
             int hasta = k;
-            while (hasta < desde && !(fichas[std::size_t(hasta)].nivel == 0 && Es(hasta, ",")))
+            while (hasta < desde && !(Fuera(hasta) && Es(hasta, Pieza::Coma)))
                 ++hasta;
             const int ultima = Sin_Alias(k, hasta);
             const bool constante = ultima == k + 1 && !Es_Nombre(k);
@@ -313,10 +210,10 @@ private:
     // End of a listed expression without its name: "x AS y", "x y".
     int Sin_Alias(int a, int b) const
     {
-        if (b - a >= 3 && Es(b - 2, "AS")) return b - 2;
+        if (b - a >= 3 && Es(b - 2, Pieza::As)) return b - 2;
         if (b - a >= 2 && Es_Nombre(b - 1)) {
-            const Ficha& antes = fichas[std::size_t(b - 2)];
-            if (antes.clase != Clase::Simbolo || Es(b - 2, ")")) return b - 1;
+            const Ficha_Sql& antes = En(b - 2);
+            if (antes.clase != Clase_Ficha::Simbolo || Es(b - 2, Pieza::Cierra)) return b - 1;
         }
         return b;
     }
@@ -341,8 +238,8 @@ private:
     QByteArray Original(int a, int b) const
     {
         if (a >= b) return {};
-        const int ini = fichas[std::size_t(a)].ini;
-        return fuente.mid(ini, fichas[std::size_t(b - 1)].fin - ini);
+        const int ini = En(a).ini;
+        return fuente.mid(ini, En(b - 1).fin - ini);
     }
 
     static void Juntar(Sentencia_Sql& s, const Sentencia_Sql& otra)
@@ -359,16 +256,16 @@ private:
         bool elevar = false;
         std::vector<bool> pila;
         for (int k = a; k < b; ++k) {
-            const Ficha& f = fichas[std::size_t(k)];
-            if (!s.sql.isEmpty() && f.ini > fichas[std::size_t(k) - 1].fin) s.sql += ' ';
-            if (Es(k, "(")) pila.push_back(elevar);
-            if (Es(k, ")") && !pila.empty()) {
+            const Ficha_Sql& f = En(k);
+            if (!s.sql.isEmpty() && f.ini > En(k - 1).fin) s.sql += ' ';
+            if (Es(k, Pieza::Abre)) pila.push_back(elevar);
+            if (Es(k, Pieza::Cierra) && !pila.empty()) {
                 elevar = pila.back();
                 pila.pop_back();
             }
-            if (Es_Alguna(k, {"WHERE", "VALUES", "SET", "ON"}))
+            if (Es_Alguna(k, {Pieza::Where, Pieza::Values, Pieza::Set, Pieza::On}))
                 elevar = !(es_select && k >= lista && k < desde);
-            else if (Es_Alguna(k, {"SELECT", "ORDER", "GROUP", "HAVING"}))
+            else if (Es_Alguna(k, {Pieza::Select, Pieza::Order, Pieza::Group, Pieza::Having}))
                 elevar = false;
             Emitir_Ficha(s, k, elevar);
         }
@@ -377,26 +274,27 @@ private:
 
     void Emitir_Ficha(Sentencia_Sql& s, int k, bool elevar) const
     {
-        const Ficha& f = fichas[std::size_t(k)];
+        const Ficha_Sql& f = En(k);
         switch (f.clase) {
-        case Clase::Hueco:
+        case Clase_Ficha::Hueco:
             s.sql += '?';
             s.valores.push_back({});
             return;
-        case Clase::Texto:
+        case Clase_Ficha::Texto:
             if (Cerrado(k)) return Emitir_Texto(s, Contenido(k), elevar);
             break;
-        case Clase::Numero:
+        case Clase_Ficha::Numero:
             if (elevar && Emitir_Numero(s, Texto(k))) return;
             break;
-        case Clase::Palabra:
-            if (Es_Alguna(k, {"LEFT", "RIGHT", "ISNULL"}) && Es(k + 1, "(")) {
+        case Clase_Ficha::Palabra:
+            if (Es_Alguna(k, {Pieza::Left, Pieza::Right, Pieza::Isnull}) &&
+                Es(k + 1, Pieza::Abre)) {
                 s.sql += '"' + Texto(k) + '"';
                 return;
             }
             break;
-        case Clase::Nombre:
-        case Clase::Simbolo:
+        case Clase_Ficha::Nombre:
+        case Clase_Ficha::Simbolo:
             break;
         }
         s.sql.append(fuente.constData() + f.ini, f.fin - f.ini);
@@ -404,7 +302,7 @@ private:
 
     bool Cerrado(int k) const
     {
-        const Ficha& f = fichas[std::size_t(k)];
+        const Ficha_Sql& f = En(k);
         return f.fin - f.ini >= 2 && fuente[f.fin - 1] == fuente[f.ini];
     }
 
@@ -446,7 +344,7 @@ private:
     }
 
     QByteArray fuente;
-    std::vector<Ficha> fichas;
+    std::vector<Ficha_Sql> fichas;
     bool es_select = false, distinta = false, agrupada = false;
     int lista = 0, desde = -1, donde = -1, orden = -1, limite = -1, fin = 0;
     std::vector<Origen> origenes;
