@@ -29,7 +29,7 @@ QByteArray simulador::Linea::Sacar(qint64 ahora)
         inicio = ahora;
         salidos = 0;
     }
-    const QByteArray bytes = cola.left(Permitidos(ahora));
+    QByteArray bytes = cola.left(Permitidos(ahora));
     if (bytes.isEmpty()) return {};
     cola.remove(0, bytes.size());
     salidos += bytes.size();

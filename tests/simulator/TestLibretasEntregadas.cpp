@@ -28,6 +28,13 @@ private:
     Juego juego;
 };
 
+static void Columnas()
+{
+    QTest::addColumn<QString>("fichero");
+    QTest::addColumn<QString>("familia");
+    QTest::addColumn<int>("ope");
+}
+
 struct Xyz {
     double x = 0, y = 0, z = 0;
 };
@@ -129,9 +136,7 @@ int TestLibretasEntregadas::Ancho(const QString& familia, int ope, const QString
 
 void TestLibretasEntregadas::los_registros_de_columnas_son_conocidos_data()
 {
-    QTest::addColumn<QString>("fichero");
-    QTest::addColumn<QString>("familia");
-    QTest::addColumn<int>("ope");
+    Columnas();
     QTest::newRow("krt300") << "campo_krt300.txt"
                             << "KRT300" << 0;
     QTest::newRow("krt300 coordenadas") << "campo_krt300_coordenadas.txt"
@@ -163,9 +168,7 @@ void TestLibretasEntregadas::los_registros_de_columnas_son_conocidos()
 
 void TestLibretasEntregadas::las_lineas_de_fichas_son_conocidas_data()
 {
-    QTest::addColumn<QString>("fichero");
-    QTest::addColumn<QString>("familia");
-    QTest::addColumn<int>("ope");
+    Columnas();
     QTest::newRow("krt800") << "campo_krt800.txt"
                             << "KRT800" << 0;
     QTest::newRow("krt800 trabajo") << "campo_krt800.txt"

@@ -74,7 +74,7 @@ QString Motivo_Registro(const Juego& juego, qsizetype i)
         return QStringLiteral("familia desconocida \"%1\"").arg(familia);
     if (!Ofrece(juego, familia, t.Numero(i, "OPE"), QStringLiteral("D")))
         return QStringLiteral("%1 no descarga la operación %2").arg(familia, t.Celda(i, "OPE"));
-    if (const QString m = Motivo_Identificador(familia, t.Numero(i, "OPE"), id); !m.isEmpty())
+    if (QString m = Motivo_Identificador(familia, t.Numero(i, "OPE"), id); !m.isEmpty())
         return m;
     if (Campos_De(juego, familia, id).isEmpty())
         return QStringLiteral("el registro \"%1\" no tiene campos").arg(id);

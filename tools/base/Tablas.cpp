@@ -77,7 +77,7 @@ QString Motivo_Fila(const Definicion_Tabla& definicion, const Fila& fila)
             .arg(fila.celdas.size())
             .arg(definicion.columnas.size());
     for (qsizetype i = 0; i < fila.celdas.size(); ++i)
-        if (const QString m = Motivo_Celda(definicion, definicion.columnas[i], fila.celdas[i]);
+        if (QString m = Motivo_Celda(definicion, definicion.columnas[i], fila.celdas[i]);
             !m.isEmpty())
             return m;
     return {};
