@@ -56,7 +56,17 @@ static void Abrir_Escritura(QSaveFile& fichero, const QString& ruta)
     if (!donde.absoluteDir().exists()) throw Error_Con_Nombre(76, ruta);
     fichero.setFileName(ruta);
     // A file marked read-only is told as a failed write: nothing has been written yet.
-    if (!fichero.open(QIODevice::WriteOnly)) throw Error_Con_Nombre(70, ruta);
+    // Without a buffer: its flush takes a half-written block for written, and a full disk would leave
+    // a file without its end.
+    if (!fichero.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        throw Error_Con_Nombre(70, ruta);
+}
+
+static void Anadir(QSaveFile& fichero, const QByteArray& bytes)
+{
+    if (fichero.write(bytes) == bytes.size()) return;
+    if (fichero.error() == QFileDevice::NoError) throw Error_Con_Nombre(61, fichero.fileName());
+    throw Ficheros::Error_De(fichero);
 }
 
 QStringList Ficheros::Leer_Lineas(const QString& ruta)
@@ -72,7 +82,8 @@ void Ficheros::Escribir(const QString& ruta, const QByteArray& bytes)
 {
     QSaveFile fichero;
     Abrir_Escritura(fichero, ruta);
-    if (fichero.write(bytes) != bytes.size() || !fichero.commit()) throw Error_De(fichero);
+    Anadir(fichero, bytes);
+    if (!fichero.commit()) throw Error_De(fichero);
 }
 
 void Ficheros::Copiar(const QString& origen, const QString& destino)
@@ -88,7 +99,7 @@ void Ficheros::Copiar(const QString& origen, const QString& destino)
     while (!de.atEnd()) {
         const QByteArray tramo = de.read(TRAMO);
         if (tramo.isEmpty()) throw Error_De(de);
-        if (a.write(tramo) != tramo.size()) throw Error_De(a);
+        Anadir(a, tramo);
     }
     if (!a.commit()) throw Error_De(a);
 }
