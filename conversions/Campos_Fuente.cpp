@@ -62,11 +62,13 @@ bool Normalizar(QByteArrayView campo, Marca marca, QVarLengthArray<char, 64>& s)
 
 QByteArrayView Recortar(QByteArrayView t)
 {
-    while (!t.isEmpty() && Es_Blanco(t.front()))
-        t = t.sliced(1);
-    while (!t.isEmpty() && Es_Blanco(t.back()))
-        t.chop(1);
-    return t;
+    const char* inicio = t.begin();
+    const char* fin = t.end();
+    while (inicio < fin && Es_Blanco(*inicio))
+        ++inicio;
+    while (inicio < fin && Es_Blanco(fin[-1]))
+        --fin;
+    return {inicio, fin - inicio};
 }
 
 Lista Por_Blancos(QByteArrayView linea)
@@ -88,21 +90,81 @@ Lista Por_Blancos(QByteArrayView linea)
 Lista Por_Separador(QByteArrayView linea, char separador)
 {
     Lista campos;
-    for (;;) {
-        const qsizetype corte = linea.indexOf(separador);
-        if (corte < 0) break;
-        campos.append(Recortar(linea.first(corte)));
-        linea = linea.sliced(corte + 1);
+    const char* inicio = linea.begin();
+    for (const char* p = inicio; p < linea.end(); ++p) {
+        if (*p != separador) continue;
+        campos.append(Recortar(QByteArrayView(inicio, p - inicio)));
+        inicio = p + 1;
     }
-    campos.append(Recortar(linea));
+    campos.append(Recortar(QByteArrayView(inicio, linea.end() - inicio)));
     return campos;
+}
+
+namespace {
+
+constexpr int CIFRAS_EXACTAS = 15;
+constexpr double POTENCIAS[CIFRAS_EXACTAS + 1] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                  1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+/// Reads plain decimals of at most 15 digits, which nearly all numbers are: mantissa and power of
+/// ten are exact in a double, so their quotient is the nearest one to the text.
+/// @param p  moved behind what was read
+/// @return false when no such number stands at `p`
+bool Leer_Llano(const char*& p, const char* fin, Marca marca, double& valor)
+{
+    const char* q = p;
+    const bool negativo = q < fin && *q == '-';
+    if (q < fin && (*q == '-' || *q == '+')) ++q;
+    quint64 mantisa = 0;
+    const char* const primera = q;
+    for (unsigned c; q < fin && (c = unsigned(*q) - '0') <= 9; ++q)
+        mantisa = mantisa * 10 + c;
+    qsizetype cifras = q - primera, decimales = 0;
+    if (q < fin && (*q == '.' || (*q == ',' && marca == Marca::Punto_O_Coma))) {
+        const char* const tras_marca = ++q;
+        for (unsigned c; q < fin && (c = unsigned(*q) - '0') <= 9; ++q)
+            mantisa = mantisa * 10 + c;
+        decimales = q - tras_marca;
+        cifras += decimales;
+    }
+    if (cifras == 0 || cifras > CIFRAS_EXACTAS) return false;
+    const double absoluto = double(mantisa) / POTENCIAS[decimales];
+    valor = negativo ? -absoluto : absoluto;
+    p = q;
+    return true;
+}
+
+} // namespace
+
+std::optional<QByteArrayView> Numeros_Llanos(QByteArrayView linea, char separador, Marca marca,
+                                             std::span<double> valores)
+{
+    const char* p = linea.begin();
+    const char* const fin = linea.end();
+    for (size_t i = 0;; ++i) {
+        while (p < fin && Es_Blanco(*p))
+            ++p;
+        if (i == valores.size()) return QByteArrayView(p, fin - p);
+        if (!Leer_Llano(p, fin, marca, valores[i])) return {};
+        const char* const tras_numero = p;
+        while (p < fin && Es_Blanco(*p))
+            ++p;
+        if (p == fin) {
+            if (i + 1 < valores.size()) return {};
+        } else if (separador == ' ' ? p == tras_numero : *p++ != separador) {
+            return {};
+        }
+    }
 }
 
 std::optional<double> Numero(QByteArrayView campo, Marca marca)
 {
-    QVarLengthArray<char, 64> s;
-    if (!Normalizar(Recortar(campo), marca, s)) return {};
+    campo = Recortar(campo);
     double valor = 0;
+    const char* p = campo.begin();
+    if (Leer_Llano(p, campo.end(), marca, valor) && p == campo.end()) return valor;
+    QVarLengthArray<char, 64> s;
+    if (!Normalizar(campo, marca, s)) return {};
     const auto r = std::from_chars(s.data(), s.data() + s.size(), valor);
     if (r.ec != std::errc() || std::abs(valor) >= NUMERO_MAXIMO) return {};
     return valor;

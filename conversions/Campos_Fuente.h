@@ -5,6 +5,7 @@
 #include <QByteArrayView>
 #include <QString>
 #include <QVarLengthArray>
+#include <span>
 
 /// Fields and numbers of a source line. Nothing here knows a locale.
 namespace Campos_Fuente {
@@ -30,6 +31,15 @@ enum class Marca {
 /// @return nothing when the field is no number, or is 1e15 and above in absolute value: no quantity
 ///         of a road has that size, and what is computed from it stays finite
 std::optional<double> Numero(QByteArrayView campo, Marca marca = Marca::Punto_O_Coma);
+
+/// Reads the first fields of a line at one go when all are plain decimals (at most 15 digits, no
+/// exponent), which nearly every line of a big file is.
+/// @param separador  between the fields; a blank: runs of blanks and tabs
+/// @param valores  as many numbers as are wanted; filled when all could be read
+/// @return what stands behind them in the line, without the blanks in front; nothing when a field
+///         is anything else, or missing: `Numero` then tells what it is
+std::optional<QByteArrayView> Numeros_Llanos(QByteArrayView linea, char separador, Marca marca,
+                                             std::span<double> valores);
 
 /// Reads a station: a number, or "k+mmm.mmm" (1+250.000 is 1250; a sign in front holds for all).
 std::optional<double> Numero_PK(QByteArrayView campo, Marca marca = Marca::Punto_O_Coma);

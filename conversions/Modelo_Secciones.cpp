@@ -13,7 +13,10 @@ size_t Secciones::Abrir(double pk)
          i != por_pk.end() && i->first <= pk + MISMA + HOLGURA; ++i)
         hallada = std::min(hallada, i->second);
     if (hallada == lista.size()) {
+        // Sections of a file are much alike.
+        const size_t como_la_anterior = lista.empty() ? 0 : lista.back().puntos.size();
         lista.push_back({pk, {}});
+        lista.back().puntos.reserve(como_la_anterior);
         por_pk.emplace(pk, hallada);
     }
     return hallada;
@@ -27,7 +30,7 @@ void Secciones::Ordenar()
     for (Seccion& s : lista)
         if (!std::is_sorted(s.puntos.begin(), s.puntos.end(), antes))
             std::stable_sort(s.puntos.begin(), s.puntos.end(), antes);
-    std::erase_if(lista, [](const Seccion& s) { return s.puntos.empty(); });
+    if (std::erase_if(lista, [](const Seccion& s) { return s.puntos.empty(); }) == 0) return;
     por_pk.clear();
     for (size_t i = 0; i < lista.size(); ++i)
         por_pk.emplace(lista[i].pk, i);

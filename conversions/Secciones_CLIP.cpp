@@ -39,21 +39,27 @@ private:
             forma = *nueva;
             return;
         }
-        const Lista campos = Por_Separador(linea, ',');
         if (forma == Forma::Filas)
-            Leer_Fila(campos);
+            Leer_Fila(linea);
         else if (contada.Espera_Filas())
-            Leer_Fila_De_Bloque(campos);
+            Leer_Fila_De_Bloque(linea);
         else
-            Leer_Cabecera(campos);
+            Leer_Cabecera(Por_Separador(linea, ','));
     }
 
-    void Leer_Fila(const Lista& campos)
+    void Leer_Fila(QByteArrayView linea)
     {
+        double n[3];
+        if (Numeros_Llanos(linea, ',', Marca::Punto, n)) {
+            secciones.Anadir(secciones.Abrir(n[0]), {n[1], n[2]});
+            return;
+        }
+        const Lista campos = Por_Separador(linea, ',');
         Exigir(campos, 3);
         const double pk = Secciones_Comun::Leer_PK(fuente, campos[0], Marca::Punto);
-        secciones.Anadir(secciones.Abrir(pk),
-                         Secciones_Comun::Leer_Punto(fuente, campos[1], campos[2], Marca::Punto));
+        const Punto_Seccion punto =
+            Secciones_Comun::Leer_Punto(fuente, campos[1], campos[2], Marca::Punto);
+        secciones.Anadir(secciones.Abrir(pk), punto);
     }
 
     void Leer_Cabecera(const Lista& campos)
@@ -64,12 +70,18 @@ private:
         abierta = secciones.Abrir(pk);
     }
 
-    void Leer_Fila_De_Bloque(const Lista& campos)
+    void Leer_Fila_De_Bloque(QByteArrayView linea)
     {
+        contada.Fila();
+        double n[2];
+        if (Numeros_Llanos(linea, ',', Marca::Punto, n)) {
+            secciones.Anadir(abierta, {n[0], n[1]});
+            return;
+        }
+        const Lista campos = Por_Separador(linea, ',');
         Exigir(campos, 2);
         secciones.Anadir(abierta,
                          Secciones_Comun::Leer_Punto(fuente, campos[0], campos[1], Marca::Punto));
-        contada.Fila();
     }
 
     void Exigir(const Lista& campos, qsizetype cuantos) const

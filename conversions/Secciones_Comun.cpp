@@ -4,14 +4,20 @@
 
 namespace Secciones_Comun {
 
+Punto_Seccion Exigir_Punto(const Texto_Fuente& fuente, std::optional<double> desplazamiento,
+                           std::optional<double> cota)
+{
+    if (!desplazamiento)
+        fuente.Fallar(QStringLiteral("El desplazamiento del punto no es un número"));
+    if (!cota) fuente.Fallar(QStringLiteral("La cota del punto no es un número"));
+    return {*desplazamiento, *cota};
+}
+
 Punto_Seccion Leer_Punto(const Texto_Fuente& fuente, QByteArrayView desplazamiento,
                          QByteArrayView cota, Campos_Fuente::Marca marca)
 {
-    const auto d = Campos_Fuente::Numero(desplazamiento, marca);
-    if (!d) fuente.Fallar(QStringLiteral("El desplazamiento del punto no es un número"));
-    const auto z = Campos_Fuente::Numero(cota, marca);
-    if (!z) fuente.Fallar(QStringLiteral("La cota del punto no es un número"));
-    return {*d, *z};
+    return Exigir_Punto(fuente, Campos_Fuente::Numero(desplazamiento, marca),
+                        Campos_Fuente::Numero(cota, marca));
 }
 
 double Leer_PK(const Texto_Fuente& fuente, QByteArrayView campo, Campos_Fuente::Marca marca)

@@ -7,7 +7,12 @@
 /// What the section readers share.
 namespace Secciones_Comun {
 
-/// Point from two fields of the current line. @throws Fallo_Conversion naming the line
+/// Point from two numbers of the current line, missing when they couldn't be read.
+/// @throws Fallo_Conversion naming the line when one is missing
+Punto_Seccion Exigir_Punto(const Texto_Fuente& fuente, std::optional<double> desplazamiento,
+                           std::optional<double> cota);
+
+/// The same from two fields.
 Punto_Seccion Leer_Punto(const Texto_Fuente& fuente, QByteArrayView desplazamiento,
                          QByteArrayView cota, Campos_Fuente::Marca marca);
 

@@ -11,6 +11,8 @@ bool Es_Letra_O_Cifra(char c)
            static_cast<unsigned char>(c) >= 128;
 }
 
+constexpr qsizetype PK_MINIMO = 3; // "PK0"
+
 // Number behind "PK", "P.K." or "P K" where one of them begins at `desde`, ":" or "=" between.
 std::optional<double> PK_En(QByteArrayView linea, qsizetype desde)
 {
@@ -40,10 +42,8 @@ std::optional<double> PK_En(QByteArrayView linea, qsizetype desde)
 
 std::optional<double> PK_De(QByteArrayView linea)
 {
-    // Rows hold no "P" at all, unless in their code.
     for (qsizetype i = 0; i < linea.size(); ++i) {
-        if ((linea[i] != 'P' && linea[i] != 'p') || (i > 0 && Es_Letra_O_Cifra(linea[i - 1])))
-            continue;
+        if ((linea[i] | 0x20) != 'p' || (i > 0 && Es_Letra_O_Cifra(linea[i - 1]))) continue;
         if (const auto pk = PK_En(linea, i)) return pk;
     }
     return {};
@@ -64,23 +64,34 @@ public:
 private:
     void Leer_Linea(QByteArrayView linea)
     {
-        if (const auto pk = PK_De(linea)) {
-            contada.Exigir_Completa();
-            abierta = secciones.Abrir(*pk);
-            hasta_la_siguiente = true;
-            return;
+        double n[2];
+        const auto resto = Numeros_Llanos(linea, ' ', Marca::Punto_O_Coma, n);
+        // Nearly every line is a row whose code has no room for the word and its number.
+        if (!resto || resto->size() >= PK_MINIMO) {
+            if (const auto pk = PK_De(linea)) {
+                contada.Exigir_Completa();
+                abierta = secciones.Abrir(*pk);
+                hasta_la_siguiente = true;
+                return;
+            }
         }
+        const bool hay_seccion = hasta_la_siguiente || contada.Espera_Filas();
+        if (hay_seccion && resto) return Anadir({n[0], n[1]});
         if (Es_Comentario(linea)) return;
         const Lista campos = Por_Blancos(linea);
         if (campos.size() < 2) fuente.Fallar(QStringLiteral("Faltan campos en la línea"));
-        if (!hasta_la_siguiente && !contada.Espera_Filas()) {
+        if (!hay_seccion) {
             const double pk = Secciones_Comun::Leer_PK(fuente, campos[0], Marca::Punto_O_Coma);
             contada.Abrir(fuente, pk, campos[1]);
             abierta = secciones.Abrir(pk);
             return;
         }
-        secciones.Anadir(abierta, Secciones_Comun::Leer_Punto(fuente, campos[0], campos[1],
-                                                              Marca::Punto_O_Coma));
+        Anadir(Secciones_Comun::Leer_Punto(fuente, campos[0], campos[1], Marca::Punto_O_Coma));
+    }
+
+    void Anadir(Punto_Seccion punto)
+    {
+        secciones.Anadir(abierta, punto);
         if (contada.Espera_Filas()) contada.Fila();
     }
 
