@@ -56,8 +56,8 @@ static void Abrir_Escritura(QSaveFile& fichero, const QString& ruta)
     if (!donde.absoluteDir().exists()) throw Error_Con_Nombre(76, ruta);
     fichero.setFileName(ruta);
     // A file marked read-only is told as a failed write: nothing has been written yet.
-    // Without a buffer: its flush takes a half-written block for written, and a full disk would leave
-    // a file without its end.
+    // Without a buffer: its flush takes a half-written block for written, and a full disk would
+    // leave a file without its end.
     if (!fichero.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw Error_Con_Nombre(70, ruta);
 }

@@ -25,8 +25,8 @@ void Anadir_Linea(const QString& ruta, const QString& texto)
     if (QFileInfo(ruta).isDir()) throw Error_Ejecucion(75);
     QFile fichero(ruta);
     const QByteArray linea = Ansi::A_Bytes(texto) + "\r\n";
-    if (!fichero.open(QIODevice::WriteOnly | QIODevice::Append) ||
-        fichero.write(linea) != linea.size() || !fichero.flush())
+    if (!fichero.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered) ||
+        fichero.write(linea) != linea.size())
         throw Ficheros::Error_De(fichero);
 }
 

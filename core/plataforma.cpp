@@ -4,8 +4,9 @@
 #include <io.h>
 #include <windows.h>
 #else
-#include <QFile>
+#include <cstdio>
 #include <fcntl.h>
+#include <QFile>
 #include <unistd.h>
 #endif
 
@@ -16,6 +17,17 @@ bool plataforma::Sincronizar(QFileDevice& fichero)
     return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(fichero.handle()))) != 0;
 #else
     return fdatasync(fichero.handle()) == 0;
+#endif
+}
+
+bool plataforma::Reemplazar(const QString& nuevo, const QString& viejo)
+{
+#ifdef Q_OS_WIN
+    return MoveFileExW(reinterpret_cast<LPCWSTR>(nuevo.utf16()),
+                       reinterpret_cast<LPCWSTR>(viejo.utf16()),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+#else
+    return rename(QFile::encodeName(nuevo).constData(), QFile::encodeName(viejo).constData()) == 0;
 #endif
 }
 

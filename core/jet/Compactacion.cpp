@@ -3,7 +3,6 @@
 #include "core/jet/Conexion.h"
 #include "core/plataforma.h"
 
-#include <filesystem>
 #include <QFile>
 #include <QFileInfo>
 #include <sqlite3.h>
@@ -59,12 +58,9 @@ void Compactacion::Sustituir(const QString& compactada)
 #ifdef Q_OS_WIN
     c->Soltar(); // an open file can't be replaced there
 #endif
-    std::error_code fallo;
-    std::filesystem::rename(compactada.toStdU16String(), fichero.toStdU16String(), fallo);
-    if (!fallo) plataforma::Sincronizar_Carpeta(QFileInfo(fichero).absolutePath());
+    const bool puesta = plataforma::Reemplazar(compactada, fichero);
+    if (puesta) plataforma::Sincronizar_Carpeta(QFileInfo(fichero).absolutePath());
     c->Soltar();
     c->Retomar();
-    if (fallo)
-        throw Error_Ejecucion(75, Descripcion_Error(75) + QStringLiteral(": ") +
-                                      QString::fromStdString(fallo.message()));
+    if (!puesta) throw Error_Ejecucion(75, Descripcion_Error(75) + QStringLiteral(": ") + fichero);
 }

@@ -1,6 +1,7 @@
 #include "core/jet/Conexion.h"
 #include "core/jet/Esquema.h"
 #include "core/ModEstTotal.h"
+#include "core/plataforma.h"
 #include "tests/apoyo/Base_De_Prueba.h"
 #include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void las_sentencias_prestadas_se_preparan_de_nuevo();
     void un_recorrido_pasa_una_vez();
     void la_version_crece_con_cada_escritura();
+    void una_carpeta_con_blancos_y_acentos();
 };
 
 void TestConexion::lo_que_falta_es_3024()
@@ -431,6 +433,22 @@ void TestConexion::la_version_crece_con_cada_escritura()
     const quint64 borrada = Base_Datos->Version();
     Base_Datos->Rollback();
     QVERIFY(Base_Datos->Version() > borrada);
+}
+
+void TestConexion::una_carpeta_con_blancos_y_acentos()
+{
+    const Base_De_Prueba p;
+    const QString carpeta = p.Ruta(QString::fromUtf8("Año nuevo (Ж) 100%?"));
+    QVERIFY(QDir().mkpath(carpeta));
+    auto base = Base::Crear(carpeta + "/EstTotal.mdb");
+    base->Execute("INSERT INTO KRT (Nombre) VALUES ('a')");
+    base.reset();
+    Base::Compactar(carpeta + "/EstTotal.mdb", carpeta + "/otra.mdb");
+    QCOMPARE(Base::Abrir(carpeta + "/otra.mdb")->OpenRecordset("KRT").RecordCount(), 1);
+    QCOMPARE(QDir(carpeta).entryList(QDir::Files), (QStringList{"EstTotal.mdb", "otra.mdb"}));
+    QVERIFY(plataforma::Reemplazar(carpeta + "/otra.mdb", carpeta + "/EstTotal.mdb"));
+    QCOMPARE(Base::Abrir(carpeta + "/EstTotal.mdb")->OpenRecordset("KRT").RecordCount(), 1);
+    QVERIFY(!plataforma::Reemplazar(carpeta + "/otra.mdb", carpeta + "/EstTotal.mdb"));
 }
 
 PRUEBA(TestConexion)

@@ -88,7 +88,8 @@ void TestCortes::un_proceso_matado_no_pierde_lo_confirmado()
         int estado = 0;
         waitpid(hijo, &estado, 0);
         QVERIFY2(WIFSIGNALED(estado), "the work ended by itself");
-        while (read(tubo[0], &leido, sizeof leido) == sizeof leido) confirmados = leido;
+        while (read(tubo[0], &leido, sizeof leido) == sizeof leido)
+            confirmados = leido;
         close(tubo[0]);
 
         Base_Datos = Base::Abrir(Fichero_MDB);
@@ -104,7 +105,8 @@ void TestCortes::un_proceso_matado_no_pierde_lo_confirmado()
 void TestCortes::con_el_disco_lleno_no_se_compacta_y_la_base_queda()
 {
     const Base_De_Prueba p;
-    for (int lote = 0; lote < 40; ++lote) Guardar_Lote(lote);
+    for (int lote = 0; lote < 40; ++lote)
+        Guardar_Lote(lote);
     p.Escribir("MDB/esttotal.bak", "la vieja");
     for (const rlim_t limite : {rlim_t(1000), rlim_t(60000), rlim_t(250000)}) {
         {
@@ -130,7 +132,8 @@ void TestCortes::con_el_disco_lleno_no_se_guarda_a_medias()
     {
         const Disco_Lleno lleno(rlim_t(diario) + 5000);
         numero = Numero_De_Error([] {
-            for (int lote = 1; lote < 100; ++lote) Guardar_Lote(lote);
+            for (int lote = 1; lote < 100; ++lote)
+                Guardar_Lote(lote);
         });
     }
     QVERIFY2(numero == 3026 || numero == 3043, qPrintable(QString::number(numero)));

@@ -4,6 +4,8 @@
 #include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
 
+#include <QRandomGenerator>
+
 // The SQL of the program, on data that tells right from wrong.
 class TestJet : public QObject {
     Q_OBJECT
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void los_errores_tienen_su_numero();
     void los_valores_de_los_huecos_se_cuentan();
     void un_texto_con_byte_cero_va_y_vuelve();
+    void un_texto_estropeado_da_un_error_y_no_cae();
 
 private:
     void Campo(const QString& maquina, const QString& id, const QString& campo, int orden,
@@ -480,6 +483,44 @@ void TestJet::un_texto_con_byte_cero_va_y_vuelve()
     QCOMPARE(p->Columna("SELECT Datos FROM Registros WHERE Punto = '" + texto + "'"),
              QStringList{"x"});
     QCOMPARE(p->Columna("SELECT Datos FROM Registros WHERE Punto = 'a'"), QStringList{});
+}
+
+void TestJet::un_texto_estropeado_da_un_error_y_no_cae()
+{
+    const QStringList textos{
+        "SELECT DISTINCT Campo,Marcas FROM Campos WHERE id IN ('A' ,'' ) and Maquina = 'PX7' ",
+        "SELECT KRT2.OPE, OPE.DESOPE FROM KRT2 LEFT JOIN OPE ON KRT2.OPE = OPE.OPE WHERE Nombre = "
+        "'a'",
+        "SELECT F.Campo,F.Sec from Campos C,Formatos2 F Where trim(C.Campo)=trim(left(F.Campo,40)) "
+        "Group by f.Campo Order by left(right(F.campo,2),1),F.Sec",
+        "SELECT CODIGO,(SELECT TAB2.DESCRIPCION FROM TAB2 WHERE TIPO = 'E') as D FROM Lib800_2 AS "
+        "l5 "
+        "WHERE Codlibreria = \"x\" ORDER BY SECUENCIA LIMIT 3",
+        "UPDATE Registros SET ID = 1.5e3 Where [Id]=-0"};
+    QRandomGenerator azar(40);
+    int bien = 0, mal = 0;
+    for (int vez = 0; vez < 4000; ++vez) {
+        QString sql = textos[azar.bounded(int(textos.size()))];
+        for (int n = azar.bounded(4); n > 0; --n) {
+            const auto lugar = azar.bounded(int(sql.size()));
+            const auto largo = azar.bounded(12);
+            if (azar.bounded(2))
+                sql.remove(lugar, largo);
+            else
+                sql.insert(lugar, sql.mid(azar.bounded(int(sql.size())), largo));
+        }
+        try {
+            if (sql.startsWith(u"SELECT"))
+                Base_Datos->OpenRecordset(sql);
+            else
+                Base_Datos->Execute(sql);
+            ++bien;
+        } catch (const Error_Ejecucion& e) {
+            QVERIFY2(e.numero != 51 && !e.descripcion.isEmpty(), qPrintable(sql));
+            ++mal;
+        }
+    }
+    QVERIFY(bien > 500 && mal > 500);
 }
 
 PRUEBA(TestJet)
