@@ -56,6 +56,8 @@ private Q_SLOTS:
     void la_lista_se_hace_siempre();
     void puntos_detras_de_un_levantamiento();
     void una_superficie_enorme_en_un_texto();
+    void las_superficies_no_estorban_data();
+    void las_superficies_no_estorban();
     void peligros_data();
     void peligros();
     void textos_partidos_por_comentarios();
@@ -460,6 +462,51 @@ void TestLandXML::una_superficie_enorme_en_un_texto()
         QCOMPARE(lineas[i], "0.000," + QByteArray::number(i) + ".000,2.500\r");
 }
 
+void TestLandXML::las_superficies_no_estorban_data()
+{
+    QTest::addColumn<QByteArray>("superficies");
+    QTest::newRow("ninguna") << QByteArray();
+    QTest::newRow("vacia") << QByteArray("<Surfaces/>");
+    QTest::newRow("vacia con atributos") << QByteArray("<Surfaces a='>' b=\"/\" />");
+    QTest::newRow("sin nada") << QByteArray("<Surfaces></Surfaces>");
+    QTest::newRow("con ejes dentro") << "<Surfaces>" + Alineacion("X", "<CoordGeom/>") +
+                                            "<Units><Metric linearUnit=\"inch\"/>"
+                                            "</Units></Surfaces>";
+    QTest::newRow("con otra dentro")
+        << QByteArray("<Surfaces><Surfaces x=\"1\"><P>1 2</P></Surfaces><b/></Surfaces>");
+    QTest::newRow("con comentarios y textos")
+        << QByteArray("<Surfaces><!-- </Surfaces> --><?a </Surfaces> ?><![CDATA[</Surfaces>]]>"
+                      "<a b='</Surfaces>'/></Surfaces>");
+    QTest::newRow("con prefijo") << QByteArray("<n:Surfaces xmlns:n=\"u\"><n:a/></n:Surfaces>");
+    QTest::newRow("etiqueta partida") << QByteArray("<Surfaces\n a='1'\n><b\n/></Surfaces\n>");
+    QTest::newRow("que no lo es") << QByteArray(
+        "<SurfacesX><a/></SurfacesX><xSurfaces></xSurfaces>");
+}
+
+/// Whatever stands in them, the axis comes out, and its lines keep their numbers. Blanks in front
+/// put every byte of them once at the edge of a block.
+void TestLandXML::las_superficies_no_estorban()
+{
+    QFETCH(QByteArray, superficies);
+    const qsizetype bloque = 65536;
+    for (qsizetype i = 0; i < superficies.size() + 2; ++i) {
+        QByteArray xml =
+            "<LandXML>\n\n" + QByteArray(bloque - 11 - i, ' ') + superficies + "\n<Alignments>" +
+            Alineacion("E", QByteArray(EJE).replace("</CoordGeom>", "\n<Chain/></CoordGeom>")) +
+            "</Alignments></LandXML>";
+        const qint64 linea = xml.left(xml.indexOf("<Chain/>")).count('\n') + 1;
+        QBuffer buffer(&xml);
+        buffer.open(QIODevice::ReadOnly);
+        Informe_Lectura informe;
+        const Eje eje = Leer_Eje_LandXML(buffer, 0, informe);
+        QCOMPARE(eje.elementos.size(), size_t(1));
+        QCOMPARE(eje.nombre, u"E");
+        QCOMPARE(eje.elementos[0].longitud, 100.0);
+        // Two line ends in its end tag are more than a file has.
+        if (!superficies.contains("</Surfaces\n")) QCOMPARE(informe.Omisiones()[0].linea, linea);
+    }
+}
+
 void TestLandXML::peligros_data()
 {
     QTest::addColumn<QByteArray>("xml");
@@ -496,6 +543,13 @@ void TestLandXML::peligros_data()
         << "comentario";
     QTest::newRow("vacio") << QByteArray() << "incompleto";
     QTest::newRow("cortado") << bueno.chopped(3) << "incompleto";
+    QTest::newRow("cortado en las superficies")
+        << QByteArray("<LandXML><Surfaces><Surface>1 2 3") << "incompleto";
+    QTest::newRow("DTD en las superficies")
+        << QByteArray("<LandXML><Surfaces><!DOCTYPE a></Surfaces></LandXML>")
+        << "DTD";
+    QTest::newRow("anidado en las superficies")
+        << "<LandXML><Surfaces>" + QByteArray("<a>").repeated(1000) << "anidados";
     QTest::newRow("mal cerrado") << QByteArray(bueno).replace("</Line>", "</Lime>")
                                  << "bien formado";
     QTest::newRow("dos raices") << bueno + bueno << "bien formado";
