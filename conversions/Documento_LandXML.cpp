@@ -29,7 +29,7 @@ void Documento_LandXML::Fallar()
 }
 
 void Documento_LandXML::Recorrer(const std::function<void()>& alineacion,
-                                 const std::function<void()>& punto)
+                                 const std::function<void(const QString&)>& punto)
 {
     if (!xml.readNextStartElement()) Fallar();
     if (!Se_Llama(u"LandXML"))
@@ -38,8 +38,10 @@ void Documento_LandXML::Recorrer(const std::function<void()>& alineacion,
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) continue;
         const QStringView nombre = xml.name();
-        if (nombre == u"CgPoint") {
-            if (punto) punto();
+        if (nombre == u"Surfaces") {
+            xml.skipCurrentElement();
+        } else if (nombre == u"CgPoint") {
+            if (punto) punto(Atributo("name"));
         } else if (nombre == u"Metric" || nombre == u"Imperial") {
             Leer_Unidad();
         } else if (nombre == u"Alignment") {

@@ -31,7 +31,8 @@ const QList<Orden>& Ordenes()
         {"rescates", "rescates", Orden_Rescates},
         {"rescatar", "rescatar FICHERO --modelo NOMBRE --ope N --nombre NOMBRE", Orden_Rescatar},
         {"tabla",
-         "tabla ENTRADA SALIDA [--separador tabulacion|coma|espacio] [--version \"Excel 8.0\"] "
+         "tabla ENTRADA SALIDA [--separador tabulacion|coma|espacio] "
+         "[--version \"Excel 3.0\"|\"Excel 4.0\"|\"Excel 5.0\"|\"Excel 8.0\"] "
          "[--tabla NOMBRE] [--numeros]",
          Orden_Tabla},
     };

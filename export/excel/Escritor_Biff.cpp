@@ -182,10 +182,24 @@ std::vector<qsizetype> Escribir_Globales(Salida_Biff& salida, const Forma_Excel&
     return huecos;
 }
 
+qsizetype Contar_Textos(const Libro_Excel& libro)
+{
+    qsizetype textos = 0;
+    for (int i = 0; i < libro.Numero_Hojas(); ++i) {
+        const int ultima = libro.Hoja(i).Rango_Usado().fila_hasta;
+        for (int fila = 0; fila <= ultima; ++fila)
+            for (const Celda_Situada& celda : libro.Hoja(i).Fila(fila))
+                textos += celda.tipo == Celda::Tipo::Texto;
+    }
+    return textos;
+}
+
 QByteArray Escribir_Flujo_Libro(const Libro_Excel& libro, const Forma_Excel& forma)
 {
     Tabla_Cadenas cadenas;
+    if (forma.unicode) cadenas.Prever(Contar_Textos(libro));
     std::vector<Hoja_Hecha> hojas;
+    hojas.reserve(std::size_t(libro.Numero_Hojas()));
     for (int i = 0; i < libro.Numero_Hojas(); ++i)
         hojas.push_back(Hacer_Hoja(libro.Hoja(i), forma, cadenas, i == 0));
 

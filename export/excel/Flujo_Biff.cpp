@@ -56,10 +56,10 @@ bool Cuerpo_Biff::Pasar_De_Parte()
     return otra;
 }
 
-// As many of the next bytes as stand together.
+// As many of the next bytes as stand together, at least one.
 QByteArrayView Cuerpo_Biff::Tomar(qsizetype cuantos)
 {
-    if (cuantos > quedan) throw Acaba_Antes();
+    if (quedan == 0) throw Acaba_Antes();
     Pasar_De_Parte();
     const qsizetype juntos = std::min(cuantos, partes[parte].size() - en_parte);
     const QByteArrayView trozo = partes[parte].sliced(en_parte, juntos);

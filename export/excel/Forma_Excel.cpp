@@ -4,11 +4,13 @@
 
 namespace {
 
+constexpr int HOJAS_DE_UN_LIBRO = 4096; ///< whose numbers fit in one record
+
 constexpr Forma_Excel FORMAS[] = {
-    {Version_Excel::Excel_3, u"Excel 3.0", 16384, 256, 255, false, false},
-    {Version_Excel::Excel_4, u"Excel 4.0", 16384, 256, 255, false, false},
-    {Version_Excel::Excel_5, u"Excel 5.0", 16384, 256, 255, false, true},
-    {Version_Excel::Excel_8, u"Excel 8.0", 65536, 256, 32767, true, true},
+    {Version_Excel::Excel_3, u"Excel 3.0", 1, 16384, 256, 255, false, false},
+    {Version_Excel::Excel_4, u"Excel 4.0", 1, 16384, 256, 255, false, false},
+    {Version_Excel::Excel_5, u"Excel 5.0", HOJAS_DE_UN_LIBRO, 16384, 256, 255, false, true},
+    {Version_Excel::Excel_8, u"Excel 8.0", HOJAS_DE_UN_LIBRO, 65536, 256, 32767, true, true},
 };
 
 } // namespace

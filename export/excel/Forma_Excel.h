@@ -11,6 +11,7 @@ enum class Version_Excel { Excel_3, Excel_4, Excel_5, Excel_8 };
 struct Forma_Excel {
     Version_Excel version;
     const char16_t* nombre; ///< its connect string: "Excel 8.0"
+    int hojas;              ///< most sheets
     int filas;              ///< most rows a sheet
     int columnas;           ///< most columns a sheet
     int caracteres;         ///< most characters a cell

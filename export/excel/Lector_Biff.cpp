@@ -14,6 +14,11 @@ Error_Ejecucion Forma_Desconocida()
     return Error_Ejecucion(3274, QStringLiteral("El fichero no es un libro de Excel 3.0 a 2003"));
 }
 
+bool Es_Bof(quint16 id)
+{
+    return id == BOF_BIFF3 || id == BOF_BIFF4 || id == BOF_BIFF58;
+}
+
 /// A sheet as the globals announce it.
 struct Hoja_Anunciada {
     QString nombre;
@@ -26,8 +31,9 @@ public:
 
     Libro_Excel Leer()
     {
+        const auto cabeza = Leer_Trazado<Cabeza>(bytes);
+        if (!cabeza || !Es_Bof(cabeza->id)) throw Forma_Desconocida();
         Flujo_Biff flujo(bytes, 0);
-        if (bytes.size() < qsizetype(sizeof(Cabeza))) throw Forma_Desconocida();
         const Registro_Biff bof = flujo.Siguiente();
         const auto version = Version_De_Bof(bof);
         if (!version) throw Forma_Desconocida();
@@ -125,7 +131,7 @@ void Lector_Biff::Leer_Hojas()
     qsizetype leido = 0;
     for (const Hoja_Anunciada& anuncio : anunciadas) {
         Flujo_Biff flujo(bytes, anuncio.lugar);
-        if (Version_De_Bof(flujo.Siguiente()) != comun.version)
+        if (!Es_Bof(flujo.Siguiente().id))
             throw Libro_Danado(QStringLiteral("falta la hoja \"%1\"").arg(anuncio.nombre));
         Leer_Hoja(flujo, anuncio.nombre);
         leido += flujo.Posicion() - anuncio.lugar;
@@ -141,17 +147,12 @@ void Lector_Biff::Leer_Hoja(Flujo_Biff& flujo, const QString& nombre)
     // A chart in the sheet has a part of the stream to itself, with a BOF and an EOF of its own.
     for (int dentro = 0;;) {
         const Registro_Biff registro = flujo.Siguiente();
-        switch (registro.id) {
-        case BOF_BIFF3:
-        case BOF_BIFF4:
-        case BOF_BIFF58:
+        if (Es_Bof(registro.id)) {
             ++dentro;
-            break;
-        case END_OF_FILE:
+        } else if (registro.id == END_OF_FILE) {
             if (dentro-- == 0) return;
-            break;
-        default:
-            if (dentro == 0 && !(suelta && Tomar_Comun(registro))) lector.Tomar(registro, flujo);
+        } else if (dentro == 0 && !(suelta && Tomar_Comun(registro))) {
+            lector.Tomar(registro, flujo);
         }
     }
 }

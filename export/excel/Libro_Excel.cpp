@@ -228,10 +228,11 @@ static void Comprobar_Celdas(const Hoja_Excel& hoja, const Forma_Excel& forma)
 void Libro_Excel::Comprobar(const Forma_Excel& forma) const
 {
     if (hojas.empty()) throw Error_Con_Detalle(3251, QStringLiteral("el libro no tiene hojas"));
-    if (!forma.compuesto && hojas.size() > 1)
-        throw Error_Con_Detalle(
-            3251,
-            QStringLiteral("la forma %1 admite una sola hoja").arg(QStringView(forma.nombre)));
+    if (Numero_Hojas() > forma.hojas)
+        throw Error_Con_Detalle(3251, QStringLiteral("la forma %1 admite %2 hojas, y hay %3")
+                                          .arg(QStringView(forma.nombre))
+                                          .arg(forma.hojas)
+                                          .arg(Numero_Hojas()));
     for (auto hoja = hojas.begin(); hoja != hojas.end(); ++hoja) {
         // A name that the page cannot hold would get question marks, which no name may have.
         if (!Nombre_Hoja_Valido(hoja->nombre) ||

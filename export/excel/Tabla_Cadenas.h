@@ -2,6 +2,7 @@
 
 #include "export/excel/Salida_Biff.h"
 
+#include <algorithm>
 #include <QHash>
 #include <QString>
 
@@ -11,6 +12,9 @@
 /// cells name it by its place.
 class Tabla_Cadenas {
 public:
+    /// Makes room for so many texts at once, within reason.
+    void Prever(qsizetype cuantos) { lugares.reserve(std::min(cuantos, MAX_PREVISTOS)); }
+
     /// @return the place of `texto`, from 0; a use of the text is counted
     quint32 Lugar(const QString& texto);
 
@@ -20,6 +24,8 @@ public:
     void Escribir(Salida_Biff& salida) const;
 
 private:
+    static constexpr qsizetype MAX_PREVISTOS = 1 << 18;
+
     QHash<QString, quint32> lugares;
     std::vector<QString> textos;
     quint32 usos = 0;

@@ -1,27 +1,8 @@
-#include "app/cli/Ordenes.h"
 #include "core/Ficheros.h"
+#include "tests/app/Correr.h"
 #include "tests/apoyo/Prueba.h"
 
-#include <QBuffer>
-
 namespace {
-
-struct Salida {
-    int estado;
-    QString texto, mensajes;
-};
-
-Salida Correr(const QStringList& palabras)
-{
-    QBuffer s, e;
-    s.open(QIODevice::WriteOnly);
-    e.open(QIODevice::WriteOnly);
-    Contexto c;
-    c.salida = &s;
-    c.errores = &e;
-    const int estado = Ejecutar_Orden(c, palabras);
-    return {estado, QString::fromUtf8(s.data()), QString::fromUtf8(e.data())};
-}
 
 QString Muestra(const char* nombre)
 {
