@@ -29,7 +29,7 @@ void Documento_LandXML::Fallar()
 }
 
 void Documento_LandXML::Recorrer(const std::function<void()>& alineacion,
-                                 const std::function<void(const QString&)>& punto)
+                                 const std::function<void()>& punto)
 {
     if (!xml.readNextStartElement()) Fallar();
     if (!Se_Llama(u"LandXML"))
@@ -38,10 +38,8 @@ void Documento_LandXML::Recorrer(const std::function<void()>& alineacion,
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) continue;
         const QStringView nombre = xml.name();
-        if (nombre == u"Surfaces") {
-            xml.skipCurrentElement();
-        } else if (nombre == u"CgPoint") {
-            if (punto) punto(Atributo("name"));
+        if (nombre == u"CgPoint") {
+            if (punto) punto();
         } else if (nombre == u"Metric" || nombre == u"Imperial") {
             Leer_Unidad();
         } else if (nombre == u"Alignment") {

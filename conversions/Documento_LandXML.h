@@ -19,10 +19,9 @@ public:
     /// Reads the document from end to end: a file that is cut off or not well formed is no source,
     /// even behind the alignment that was asked for.
     /// @param alineacion  called at each Alignment; what it leaves unread of it is passed over
-    /// @param punto       called at each CgPoint with its name; may be empty
+    /// @param punto       called at each CgPoint; may be empty
     /// @throws Fallo_Conversion with the reason
-    void Recorrer(const std::function<void()>& alineacion,
-                  const std::function<void(const QString& nombre)>& punto = {});
+    void Recorrer(const std::function<void()>& alineacion, const std::function<void()>& punto = {});
 
     /// Metres in the file's linear unit; known for sure when `Recorrer` has ended, since the unit
     /// may stand behind what it measures. @throws Fallo_Conversion for a unit that isn't known: a

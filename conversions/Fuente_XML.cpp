@@ -169,13 +169,24 @@ void Fuente_XML::Rehusar(const QString& por_que)
     acabado = true;
 }
 
+/// Puts out a stretch of the file; of what is left out, its line ends.
+void Fuente_XML::Dar(const char* desde, const char* hasta)
+{
+    if (hondura_superficies == 0) {
+        salida.append(desde, hasta - desde);
+    } else if (const auto lineas = std::count(desde, hasta, '\n')) {
+        salida.append(qsizetype(lineas), '\n');
+        salida.append(CORTE);
+    }
+}
+
 /// Follows the markup over a block and puts it out.
 void Fuente_XML::Vigilar(const QByteArray& bloque)
 {
     const char* p = bloque.constData();
     const char* const fin = p + bloque.size();
-    const char* copiado = p;
-    while (p < fin && !acabado)
+    const char* copiado = p; // all before it has been put out
+    while (p < fin && !acabado) {
         switch (estado) {
         case Estado::Texto:
             p = Pasar_Texto(p, fin, copiado);
@@ -183,8 +194,12 @@ void Fuente_XML::Vigilar(const QByteArray& bloque)
         case Estado::Apertura:
             p = Pasar_Apertura(p);
             break;
+        case Estado::Nombre:
+            p = Pasar_Nombre(p, fin);
+            break;
         case Estado::Etiqueta:
             p = Pasar_Etiqueta(p, fin);
+            if (estado == Estado::Texto) Acabar_Etiqueta(p, copiado);
             break;
         case Estado::Comentario:
         case Estado::CData:
@@ -192,19 +207,20 @@ void Fuente_XML::Vigilar(const QByteArray& bloque)
             p = Pasar_Marca(p, fin);
             break;
         }
-    salida.append(copiado, p - copiado);
+    }
+    Dar(copiado, p);
 }
 
 const char* Fuente_XML::Pasar_Texto(const char* p, const char* fin, const char*& copiado)
 {
     const auto* const menor = static_cast<const char*>(std::memchr(p, '<', size_t(fin - p)));
     const char* const hasta = menor ? menor : fin;
-    if (largo + (hasta - p) > TEXTO_SEGUIDO) {
+    if (hondura_superficies == 0 && largo + (hasta - p) > TEXTO_SEGUIDO) {
         const char* const desde = p + std::max(qsizetype(0), TEXTO_SEGUIDO - largo);
         const char* const blanco =
             std::find_if(desde, hasta, [](char c) { return c == ' ' || c == '\n'; });
         if (blanco < hasta) {
-            salida.append(copiado, blanco + 1 - copiado);
+            Dar(copiado, blanco + 1);
             salida.append(CORTE);
             copiado = blanco + 1;
             largo = 0;
@@ -214,7 +230,7 @@ const char* Fuente_XML::Pasar_Texto(const char* p, const char* fin, const char*&
     largo += hasta - p;
     if (!menor) return fin;
     estado = Estado::Apertura;
-    apertura.clear();
+    apertura.resize(0);
     return menor + 1;
 }
 
@@ -222,16 +238,18 @@ const char* Fuente_XML::Pasar_Texto(const char* p, const char* fin, const char*&
 const char* Fuente_XML::Pasar_Apertura(const char* p)
 {
     constexpr QByteArrayView COMENTARIO = "!--", CDATA = "![CDATA[";
-    apertura.append(*p);
     largo = 0;
     previo = segundo_previo = 0;
+    if (apertura.isEmpty() && *p != '!' && *p != '?') {
+        cierre = *p == '/';
+        estado = cierre ? Estado::Etiqueta : Estado::Nombre;
+        comilla = 0;
+        nombre.resize(0);
+        return cierre ? p + 1 : p;
+    }
+    apertura.append(*p);
     if (apertura == "?") {
         estado = Estado::Instruccion;
-    } else if (apertura[0] != '!') {
-        estado = Estado::Etiqueta;
-        cierre = *p == '/';
-        comilla = 0;
-        return cierre ? p + 1 : p;
     } else if (apertura == COMENTARIO) {
         estado = Estado::Comentario;
     } else if (apertura == CDATA) {
@@ -243,33 +261,65 @@ const char* Fuente_XML::Pasar_Apertura(const char* p)
     return p + 1;
 }
 
+/// Takes the name of a start tag.
+const char* Fuente_XML::Pasar_Nombre(const char* p, const char* fin)
+{
+    const char* q = p;
+    while (q < fin && *q != '>' && *q != '/' && *q != ' ' && *q != '\t' && *q != '\r' && *q != '\n')
+        ++q;
+    nombre.append(p, q - p);
+    largo += q - p;
+    if (largo > ETIQUETA_MAXIMA) Rehusar(QStringLiteral("Hay una etiqueta demasiado larga"));
+    if (q < fin) estado = Estado::Etiqueta;
+    return q;
+}
+
 const char* Fuente_XML::Pasar_Etiqueta(const char* p, const char* fin)
 {
     const char* q = p;
-    for (; q < fin; ++q) {
+    while (q < fin && (comilla || *q != '>')) {
         if (comilla) {
-            if (*q == comilla) comilla = 0;
-        } else if (*q == '"' || *q == '\'') {
-            comilla = *q;
-        } else if (*q == '>') {
-            break;
+            const auto* const otra =
+                static_cast<const char*>(std::memchr(q, comilla, size_t(fin - q)));
+            if (otra) comilla = 0;
+            q = otra ? otra + 1 : fin;
+        } else {
+            if (*q == '"' || *q == '\'') comilla = *q;
+            ++q;
         }
     }
     largo += q - p;
-    if (largo > ETIQUETA_MAXIMA) {
-        Rehusar(QStringLiteral("Hay una etiqueta demasiado larga"));
-        return q;
-    }
+    if (largo > ETIQUETA_MAXIMA) Rehusar(QStringLiteral("Hay una etiqueta demasiado larga"));
     if (q > p) previo = q[-1];
     if (q == fin) return q;
-    if (cierre) {
-        --hondura;
-    } else if (previo != '/' && ++hondura > HONDURA_MAXIMA) {
-        Rehusar(QStringLiteral("Los elementos están anidados a demasiada profundidad"));
-    }
     estado = Estado::Texto;
     largo = 0;
     return q + 1;
+}
+
+/// Counts the nesting at the end of a tag, and leaves out or takes up again at `Surfaces`.
+/// @param detras  the character behind the tag
+void Fuente_XML::Acabar_Etiqueta(const char* detras, const char*& copiado)
+{
+    if (cierre) {
+        if (hondura == hondura_superficies && hondura > 0) {
+            // Lines within the end tag itself are few; they count as left out.
+            Dar(copiado, detras);
+            copiado = detras;
+            hondura_superficies = 0;
+            salida.append("</" + nombre_superficies + '>');
+        }
+        --hondura;
+    } else if (previo != '/') {
+        if (++hondura > HONDURA_MAXIMA)
+            Rehusar(QStringLiteral("Los elementos están anidados a demasiada profundidad"));
+        if (hondura_superficies == 0 && nombre.sliced(nombre.lastIndexOf(':') + 1) == "Surfaces") {
+            Dar(copiado, detras);
+            copiado = detras;
+            hondura_superficies = hondura;
+            nombre_superficies = nombre;
+        }
+    }
 }
 
 const char* Fuente_XML::Pasar_Marca(const char* p, const char* fin)

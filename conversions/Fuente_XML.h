@@ -14,6 +14,10 @@
 /// - A document type declaration is refused: LandXML has none, and entities are how a small file
 ///   grows without end or reaches for another. So is a tag of more than `ETIQUETA_MAXIMA` bytes, a
 ///   comment of more than `MARCA_MAXIMA` and a nesting deeper than `HONDURA_MAXIMA`.
+/// - What stands within an element `Surfaces` is left out: triangles by the hundred megabytes, of
+/// which
+///   no alignment needs a byte. Its markup is still followed, and its lines are kept, so that the
+///   reader counts them.
 /// - Stream readers gather a text until its end. A point list of hundreds of megabytes is cut by
 ///   empty comments at blanks, so that it passes in pieces; the text of an element is the pieces
 ///   joined, as ever.
@@ -39,7 +43,7 @@ protected:
     qint64 writeData(const char*, qint64) override { return -1; }
 
 private:
-    enum class Estado { Texto, Apertura, Etiqueta, Comentario, CData, Instruccion };
+    enum class Estado { Texto, Apertura, Nombre, Etiqueta, Comentario, CData, Instruccion };
     enum class Pagina { Utf8, Tabla, Descodificador };
 
     bool Cargar();
@@ -48,7 +52,10 @@ private:
     void Vigilar(const QByteArray& bloque);
     const char* Pasar_Texto(const char* p, const char* fin, const char*& copiado);
     const char* Pasar_Apertura(const char* p);
+    const char* Pasar_Nombre(const char* p, const char* fin);
     const char* Pasar_Etiqueta(const char* p, const char* fin);
+    void Acabar_Etiqueta(const char* detras, const char*& copiado);
+    void Dar(const char* desde, const char* hasta);
     const char* Pasar_Marca(const char* p, const char* fin);
     void Rehusar(const QString& por_que);
 
@@ -68,5 +75,8 @@ private:
     char comilla = 0;    ///< quote that is open in a tag
     char previo = 0, segundo_previo = 0;
     bool cierre = false; ///< the tag is an end tag
+    QByteArray nombre;   ///< of the start tag
     int hondura = 0;
+    QByteArray nombre_superficies;
+    int hondura_superficies = 0; ///< of the `Surfaces` that is being left out; 0 for none
 };

@@ -39,14 +39,16 @@ public:
     bool incompletos = false;
     QSet<QString> buscados; ///< when it isn't empty, only these are kept
 
-    void Anotar(const QString& nombre, Documento_LandXML& d)
+    /// Notes the current element.
+    void Anotar(Documento_LandXML& d)
     {
-        if (nombre.isEmpty() || (!buscados.isEmpty() && !buscados.contains(nombre))) return;
-        if (puntos.contains(nombre)) return;
         if (buscados.isEmpty() && puntos.size() >= MAXIMO) {
             incompletos = true;
             return;
         }
+        const QString nombre = d.Atributo("name");
+        if (nombre.isEmpty() || (!buscados.isEmpty() && !buscados.contains(nombre))) return;
+        if (puntos.contains(nombre)) return;
         const auto n = Lista_De_Numeros(d.Texto());
         if (n && n->size() >= 2) puntos.insert(nombre, {(*n)[1], (*n)[0]});
     }
@@ -300,7 +302,7 @@ void Buscar_Puntos(QIODevice& dispositivo, Puntos_Cg& puntos)
 {
     if (!dispositivo.seek(0)) return;
     Documento_LandXML d(dispositivo);
-    d.Recorrer([] {}, [&](const QString& nombre) { puntos.Anotar(nombre, d); });
+    d.Recorrer([] {}, [&] { puntos.Anotar(d); });
 }
 
 } // namespace
@@ -331,7 +333,7 @@ Eje Leer_Eje_LandXML(QIODevice& dispositivo, int indice, Informe_Lectura& inform
             if (hay && este) elegido = std::move(eje);
             if (hay) ++contados;
         },
-        [&](const QString& nombre) { puntos.Anotar(nombre, d); });
+        [&] { puntos.Anotar(d); });
     if (!elegido)
         throw Fallo_Conversion{QStringLiteral("El fichero no tiene el eje %1").arg(indice), 0, {}};
     if (puntos.incompletos) {

@@ -6,6 +6,8 @@
 #else
 #include <cstdio>
 #include <fcntl.h>
+#include <poll.h>
+#include <sys/ioctl.h>
 #include <QFile>
 #include <unistd.h>
 #endif
@@ -41,5 +43,17 @@ bool plataforma::Sincronizar_Carpeta([[maybe_unused]] const QString& carpeta)
     const bool bien = fsync(d) == 0;
     close(d);
     return bien;
+#endif
+}
+
+bool plataforma::Puerto_Colgado([[maybe_unused]] qintptr descriptor)
+{
+#ifdef Q_OS_WIN
+    return false; // the port's own error tells it
+#else
+    pollfd estado{int(descriptor), POLLIN, 0};
+    if (poll(&estado, 1, 0) < 1 || !(estado.revents & (POLLHUP | POLLERR | POLLNVAL))) return false;
+    int pendientes = 0;
+    return ioctl(int(descriptor), FIONREAD, &pendientes) != 0 || pendientes == 0;
 #endif
 }

@@ -17,4 +17,8 @@ bool Reemplazar(const QString& nuevo, const QString& viejo);
 /// Makes names that were created, renamed or removed in `carpeta` outlive a power cut.
 bool Sincronizar_Carpeta(const QString& carpeta);
 
+/// @param descriptor  of an open serial device
+/// @return true when its other end has gone and nothing is left to read
+bool Puerto_Colgado(qintptr descriptor);
+
 } // namespace plataforma

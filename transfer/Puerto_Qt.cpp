@@ -1,12 +1,15 @@
 #include "transfer/Puerto_Qt.h"
 
 #include "core/Error_Ejecucion.h"
+#include "core/plataforma.h"
 #include "core/Trozos.h"
 #include "transfer/Puertos.h"
 
 #include <QFileInfo>
 
 namespace {
+
+constexpr int MS_VIGIA = 250;
 
 Error_Ejecucion Ajuste_Malo(const QString& que, const QString& valor)
 {
@@ -72,6 +75,8 @@ Puerto_Qt::Puerto_Qt(const QString& dispositivo, QObject* padre)
 {
     connect(&puerto, &QSerialPort::readyRead, this, &Puerto_Qt::Entregar);
     connect(&puerto, &QSerialPort::errorOccurred, this, &Puerto_Qt::Al_Fallar);
+    vigia.setInterval(MS_VIGIA);
+    connect(&vigia, &QTimer::timeout, this, &Puerto_Qt::Vigilar);
 }
 
 void Puerto_Qt::Abrir(int numero, const QString& ajustes)
@@ -90,10 +95,12 @@ void Puerto_Qt::Abrir(int numero, const QString& ajustes)
         puerto.close();
         throw motivo;
     }
+    vigia.start();
 }
 
 void Puerto_Qt::Cerrar()
 {
+    vigia.stop();
     if (!puerto.isOpen()) return;
     puerto.waitForBytesWritten(200); // the last acknowledgement must not die with the port
     puerto.close();
@@ -125,6 +132,22 @@ std::optional<char> Puerto_Qt::Leer()
 
 void Puerto_Qt::Al_Fallar(QSerialPort::SerialPortError error)
 {
-    if (error == QSerialPort::ResourceError && puerto.isOpen())
-        Q_EMIT perdido(QStringLiteral("Se ha perdido la conexión con el puerto; compruebe el cable"));
+    if (error == QSerialPort::ResourceError) Perder();
+}
+
+// Not every device that goes reports an error: some only read as empty for ever.
+void Puerto_Qt::Vigilar()
+{
+    if (!puerto.isOpen() || !plataforma::Puerto_Colgado(puerto.handle())) return;
+    Entregar();
+    Perder();
+}
+
+void Puerto_Qt::Perder()
+{
+    if (!vigia.isActive()) return;
+    vigia.stop();
+    // Closed from the loop: the device's own handler may be running.
+    QTimer::singleShot(0, this, [this] { puerto.close(); });
+    Q_EMIT perdido(QStringLiteral("Se ha perdido la conexión con el puerto; compruebe el cable"));
 }

@@ -3,6 +3,7 @@
 #include "transfer/Puerto_Serie.h"
 
 #include <QSerialPort>
+#include <QTimer>
 
 /// The machine's serial port.
 class Puerto_Qt : public Puerto_Serie {
@@ -21,9 +22,12 @@ public:
 
 private:
     void Al_Fallar(QSerialPort::SerialPortError error);
+    void Vigilar();
+    void Perder();
 
     QString dispositivo_fijo;
     QSerialPort puerto;
+    QTimer vigia;
 };
 
 /// Serial settings cut into their parts. @throws Error_Ejecucion 380 when one of them is unknown

@@ -32,7 +32,10 @@ FrmTxt::FrmTxt() : Ventana(QStringLiteral("FrmTxt"))
 void FrmTxt::Ver(const QString& nombre, bool fija)
 {
     setWindowTitle(QStringLiteral("Fichero : ") + nombre);
-    RTB->setFont(fija ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : font());
+    // Columns line up only in a fixed pitch; the writers that ask for it name their font.
+    QFont letra = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (fija) letra.setFamilies({QStringLiteral("Courier New"), letra.family()});
+    RTB->setFont(letra);
     RTB->clear();
     try {
         RTB->setPlainText(Ansi::A_Texto(Ficheros::Leer(nombre)));

@@ -3,6 +3,7 @@
 #include "conversions/Tabla_Funciones.h"
 #include "core/Ficheros.h"
 
+#include <functional>
 #include <optional>
 #include <QDir>
 #include <QFileInfo>
@@ -81,6 +82,31 @@ public:
             {"XML", "<?xml version=\"1.0\"?>\r\n<LandXML/>\r\n"},
             {"texto corrido", "En un lugar de la Mancha,\r\nde cuyo nombre\r\nno quiero\r\n"},
         };
+    }
+
+    /// The lines of an output joined by "/", to be compared at a glance.
+    static QByteArray En_Linea(const QByteArray& salida)
+    {
+        QByteArrayList lineas = salida.split('\n');
+        for (QByteArray& l : lineas)
+            l = l.trimmed();
+        lineas.removeLast();
+        return lineas.join('/');
+    }
+
+    /// Calls `probar` with `bueno` cut at each byte, and with each byte changed in seven ways.
+    static void Con_Danos(const QByteArray& bueno,
+                          const std::function<void(const QByteArray&)>& probar)
+    {
+        static const QByteArray CAMBIOS("\n-x9\x1A\xFF\0", 7);
+        for (qsizetype i = 0; i < bueno.size(); ++i) {
+            probar(bueno.left(i));
+            QByteArray roto = bueno;
+            for (const char c : CAMBIOS) {
+                roto[i] = c;
+                probar(roto);
+            }
+        }
     }
 
 private:

@@ -1,39 +1,9 @@
 #include "conversions/Fichero_Lista.h"
-#include "conversions/Lectores_LandXML.h"
 #include "tests/apoyo/Prueba.h"
 #include "tests/conversions/Banco_Conversion.h"
-#include "tests/conversions/Camino_Azar.h"
+#include "tests/conversions/Piezas_LandXML.h"
 
-#include <QBuffer>
-#include <QElapsedTimer>
-#include <QStringEncoder>
-#include <QXmlStreamReader>
-
-namespace {
-
-const QByteArray EJE = "<CoordGeom><Line><Start>0 0</Start><End>100 0</End></Line></CoordGeom>";
-
-QByteArray Fichero(const QByteArray& dentro, const QByteArray& unidades = {})
-{
-    return "<LandXML>" + unidades + "<Alignments>" + dentro + "</Alignments></LandXML>";
-}
-
-QByteArray Alineacion(const QByteArray& nombre, const QByteArray& dentro)
-{
-    return "<Alignment name=\"" + nombre + "\" length=\"1\" staStart=\"0\">" + dentro +
-           "</Alignment>";
-}
-
-QByteArray Lineas(const QByteArray& salida)
-{
-    QByteArrayList lineas = salida.split('\n');
-    for (QByteArray& l : lineas)
-        l = l.trimmed();
-    lineas.removeLast();
-    return lineas.join('/');
-}
-
-} // namespace
+using namespace Piezas_LandXML;
 
 class TestLandXML : public QObject {
     Q_OBJECT
@@ -41,8 +11,6 @@ private Q_SLOTS:
     void init() { Mover_Fichero_Lista(banco.Ruta("lista.eje")); }
     void cleanup() { Mover_Fichero_Lista({}); }
 
-    void codificaciones_data();
-    void codificaciones();
     void nombres_que_no_caben_en_la_pagina();
     void unidades_data();
     void unidades();
@@ -55,11 +23,6 @@ private Q_SLOTS:
     void listas();
     void la_lista_se_hace_siempre();
     void puntos_detras_de_un_levantamiento();
-    void una_superficie_enorme_en_un_texto();
-    void peligros_data();
-    void peligros();
-    void textos_partidos_por_comentarios();
-    void cortado_en_cada_byte();
 
 private:
     Banco_Conversion banco;
@@ -77,47 +40,6 @@ private:
     }
 };
 
-void TestLandXML::codificaciones_data()
-{
-    QTest::addColumn<QByteArray>("xml");
-    QTest::addColumn<QByteArray>("nombre");
-    const QString texto = QString::fromUtf8(Fichero(Alineacion("Eje Ñ €", EJE)));
-    const auto con = [&](const char* codificacion, const QByteArray& cuerpo) {
-        return "<?xml version=\"1.0\" encoding='" + QByteArray(codificacion) + "' ?>\r\n" + cuerpo;
-    };
-    const QByteArray ansi = "Eje \xD1 \x80", sin_euro = "Eje \xD1 \xA4";
-    QByteArray pagina = texto.toLatin1();
-    pagina.replace('?', char(0x80));
-    QTest::newRow("UTF-8 sin declarar") << texto.toUtf8() << ansi;
-    QTest::newRow("UTF-8") << con("UTF-8", texto.toUtf8()) << ansi;
-    QTest::newRow("UTF-8 con marca") << "\xEF\xBB\xBF" + con("utf-8", texto.toUtf8()) << ansi;
-    QTest::newRow("Windows-1252") << con("Windows-1252", pagina) << ansi;
-    QTest::newRow("cp1252") << con("CP1252", pagina) << ansi;
-    QTest::newRow("ISO-8859-1") << con("ISO-8859-1", QByteArray(pagina).replace(char(0x80), "\xA4"))
-                                << sin_euro;
-    QTest::newRow("ISO-8859-15") << con("ISO-8859-15",
-                                        QByteArray(pagina).replace(char(0x80), "\xA4"))
-                                 << ansi;
-    QTest::newRow("UTF-16 que es UTF-8") << con("UTF-16", texto.toUtf8()) << ansi;
-    for (const auto& [nombre, como] : {std::pair{"UTF-16 LE", QStringConverter::Utf16LE},
-                                       std::pair{"UTF-16 BE", QStringConverter::Utf16BE}})
-        for (const bool marca : {true, false}) {
-            QStringEncoder codificador(como, marca ? QStringConverter::Flag::WriteBom
-                                                   : QStringConverter::Flag::Default);
-            const QString declarado = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-16\"?>");
-            QTest::addRow("%s%s", nombre, marca ? " con marca" : "")
-                << QByteArray(codificador(declarado + texto)) << ansi;
-        }
-}
-
-void TestLandXML::codificaciones()
-{
-    QFETCH(QByteArray, xml);
-    QFETCH(QByteArray, nombre);
-    QCOMPARE(Lista("seleccionaEjeLandXML", xml), nombre + "\r\n");
-    QCOMPARE(Eje_De(xml).numero, 1);
-}
-
 void TestLandXML::nombres_que_no_caben_en_la_pagina()
 {
     const QByteArray perfil = "<Profile><ProfAlign name=\"R\"><PVI>0 1</PVI><PVI>9 2</PVI>"
@@ -125,7 +47,7 @@ void TestLandXML::nombres_que_no_caben_en_la_pagina()
     const QByteArray xml = Fichero(Alineacion("Ω&#10;&lt;1", perfil));
     QCOMPARE(Lista("seleccionaRasanteLandXML", xml), "? <1\r\n");
     const auto r = banco.Ejecutar("rlandxml2krt", {"? <1", banco.Ruta("a.xml"), "<salida>"});
-    QCOMPARE(Lineas(*r.salida), "0.000,1.000,0.000/9.000,2.000,0.000");
+    QCOMPARE(Banco_Conversion::En_Linea(*r.salida), "0.000,1.000,0.000/9.000,2.000,0.000");
 }
 
 void TestLandXML::unidades_data()
@@ -165,14 +87,16 @@ void TestLandXML::unidades()
     for (const QByteArray& xml : {Fichero(dentro, unidades),
                                   Fichero(dentro).replace("</LandXML>", unidades + "</LandXML>")}) {
         const auto eje = Eje_De(xml);
-        QCOMPARE(Lineas(*eje.salida), "INI " + n(7) + " 0.000 0.000/REC 100.0000 " + n(90) +
-                                          "/FIN " + n(97) + ' ' + n(90) + " 0.000 100.0000");
+        QCOMPARE(Banco_Conversion::En_Linea(*eje.salida),
+                 "INI " + n(7) + " 0.000 0.000/REC 100.0000 " + n(90) + "/FIN " + n(97) + ' ' +
+                     n(90) + " 0.000 100.0000");
         const QString fichero = banco.Ruta("a.xml");
         const auto rasante = banco.Ejecutar("rlandxml2krt", {"E", fichero, "<salida>"});
-        QCOMPARE(Lineas(*rasante.salida), n(0) + ',' + n(5) + ",0.000/" + n(50) + ',' + n(8) + ',' +
-                                              n(20) + '/' + n(90) + ',' + n(2) + ",0.000");
+        QCOMPARE(Banco_Conversion::En_Linea(*rasante.salida),
+                 n(0) + ',' + n(5) + ",0.000/" + n(50) + ',' + n(8) + ',' + n(20) + '/' + n(90) +
+                     ',' + n(2) + ",0.000");
         const auto perfil = banco.Ejecutar("tralandxml2krt", {"E", "T", fichero, "<salida>"});
-        QCOMPARE(Lineas(*perfil.salida),
+        QCOMPARE(Banco_Conversion::En_Linea(*perfil.salida),
                  n(30) + ',' + n(-4) + ',' + n(6) + '/' + n(30) + ',' + n(4) + ',' + n(7));
     }
 }
@@ -261,7 +185,7 @@ void TestLandXML::elementos()
         Alineacion("E", "<CoordGeom>" + elementos +
                             "<Line><Start>0 100</Start><End>0 150</End></Line></CoordGeom>")));
     QVERIFY2(r.salida, qPrintable(r.Motivo()));
-    const QByteArrayList lineas = Lineas(*r.salida).split('/');
+    const QByteArrayList lineas = Banco_Conversion::En_Linea(*r.salida).split('/');
     QCOMPARE(lineas[0], "INI 0.000 0.000 0.000");
     QCOMPARE(lineas[1], esperado);
     QCOMPARE(lineas[2], "REC 100.0000 50.000");
@@ -314,7 +238,8 @@ void TestLandXML::rasantes()
                                     vertices + "<PVI>100 5</PVI></ProfAlign></Profile>")));
     const auto r = banco.Ejecutar("rlandxml2krt", {"E", f, "<salida>"});
     QVERIFY2(r.salida, qPrintable(r.Motivo()));
-    QCOMPARE(Lineas(*r.salida), "0.000,5.000,0.000/" + medio + "/100.000,5.000,0.000");
+    QCOMPARE(Banco_Conversion::En_Linea(*r.salida),
+             "0.000,5.000,0.000/" + medio + "/100.000,5.000,0.000");
     QCOMPARE(r.numero, resultado);
     QCOMPARE(banco.Ejecutar("rlandxml2krt", {"E/R", f, "<salida>"}).numero, 0);
 }
@@ -367,7 +292,7 @@ void TestLandXML::perfiles()
     const auto r = banco.Ejecutar("tralandxml2krt", {"E", "T", f, "<salida>"});
     QCOMPARE(r.numero, esperado.isEmpty() ? 0 : 1);
     QCOMPARE(r.salida.has_value(), !esperado.isEmpty());
-    if (r.salida) QCOMPARE(Lineas(*r.salida), esperado);
+    if (r.salida) QCOMPARE(Banco_Conversion::En_Linea(*r.salida), esperado);
     QCOMPARE(r.Motivo().isEmpty(), r.numero != 0);
 }
 
@@ -433,133 +358,8 @@ void TestLandXML::puntos_detras_de_un_levantamiento()
                                            "<End pntRef=\"P59999\"/></Line></CoordGeom>");
     const auto r = Eje_De("<LandXML><Alignments>" + eje + "</Alignments>" + puntos + "</LandXML>");
     QVERIFY2(r.numero == 1, qPrintable(r.informe.Lineas().join(u'\n')));
-    QCOMPARE(Lineas(*r.salida), "INI 0.000 5.000 3.000/REC 0.0000 59996.000/"
-                                "FIN 59996.000 5.000 59999.000 0.0000");
-}
-
-/// A text of many megabytes passes in pieces, also when the axis' own points are beside it.
-void TestLandXML::una_superficie_enorme_en_un_texto()
-{
-    QByteArray lista;
-    for (int i = 0; i < 400000; ++i)
-        lista += QByteArray::number(i) + " 2.5\n";
-    const QByteArray fuera = "<Surfaces><Surface><SourceData><DataPoints><PntList3D>" + lista +
-                             "</PntList3D></DataPoints></SourceData></Surface></Surfaces>";
-    const QByteArray seccion =
-        "<CrossSects><CrossSect sta=\"0\"><CrossSectSurf name=\"T\"><PntList2D>" + lista +
-        "</PntList2D></CrossSectSurf></CrossSect></CrossSects>";
-    const QString f =
-        banco.Poner("a.xml", "<LandXML>" + fuera + "<Alignments>" + Alineacion("E", EJE + seccion) +
-                                 "</Alignments></LandXML>");
-    QCOMPARE(banco.Ejecutar("alandxml2krt", {"0", f, "<salida>"}).numero, 1);
-    const auto r = banco.Ejecutar("tralandxml2krt", {"E", "T", f, "<salida>"});
-    QCOMPARE(r.numero, 1);
-    const QByteArrayList lineas = r.salida->split('\n');
-    QCOMPARE(lineas.size(), 400001);
-    for (int i = 0; i < 400000; i += 997)
-        QCOMPARE(lineas[i], "0.000," + QByteArray::number(i) + ".000,2.500\r");
-}
-
-void TestLandXML::peligros_data()
-{
-    QTest::addColumn<QByteArray>("xml");
-    QTest::addColumn<QString>("motivo");
-    const QByteArray bueno = Fichero(Alineacion("E", EJE));
-    QByteArray bomba = "<!DOCTYPE LandXML [<!ENTITY a \"xxxxxxxxxx\">";
-    for (char c = 'b'; c <= 'm'; ++c)
-        bomba += QByteArray("<!ENTITY ") + c + " \"" +
-                 (QByteArray("&") + char(c - 1) + ';').repeated(10) + "\">";
-    QTest::newRow("bomba") << bomba + "]>" + Fichero(Alineacion("&m;", EJE)) << "DTD";
-    QTest::newRow("entidad de fuera")
-        << "<!DOCTYPE LandXML [<!ENTITY x SYSTEM \"file:///etc/hostname\">]>" +
-               Fichero(Alineacion("E", EJE + "<Feature>&x;</Feature>"))
-        << "DTD";
-    QTest::newRow("DTD de fuera") << "<!DOCTYPE LandXML SYSTEM \"http://127.0.0.1:1/x.dtd\">" +
-                                         bueno
-                                  << "DTD";
-    QTest::newRow("DTD en UTF-16") << QByteArray([&] {
-        QStringEncoder e(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
-        return QByteArray(e(QString::fromLatin1("<!DOCTYPE LandXML []>" + bueno)));
-    }()) << "DTD";
-    QTest::newRow("entidad sin declarar")
-        << QByteArray(bueno).replace("<End>", "<End>&nada; ") << "bien formado";
-    QTest::newRow("anidado sin fin") << "<LandXML>" + QByteArray("<a>").repeated(200000) +
-                                            QByteArray("</a>").repeated(200000) + "</LandXML>"
-                                     << "anidados";
-    QTest::newRow("etiqueta enorme")
-        << "<LandXML><a b=\"" + QByteArray(100000, 'x') + "\"/></LandXML>"
-        << "etiqueta";
-    QTest::newRow("nombre enorme") << "<LandXML><" + QByteArray(70000, 'n') + ":a/></LandXML>"
-                                   << "etiqueta";
-    QTest::newRow("comentario enorme")
-        << "<LandXML><!--" + QByteArray(5000000, '-').replace("--", "-x") + "--></LandXML>"
-        << "comentario";
-    QTest::newRow("vacio") << QByteArray() << "incompleto";
-    QTest::newRow("cortado") << bueno.chopped(3) << "incompleto";
-    QTest::newRow("mal cerrado") << QByteArray(bueno).replace("</Line>", "</Lime>")
-                                 << "bien formado";
-    QTest::newRow("dos raices") << bueno + bueno << "bien formado";
-    QTest::newRow("otra raiz") << QByteArray("<gpx><Alignments/></gpx>") << "no es LandXML";
-    QTest::newRow("binario") << QByteArray("\x7F"
-                                           "ELF\x02\x01\x01\0\0\0\0\0",
-                                           12)
-                             << "bien formado";
-    QTest::newRow("UTF-8 roto") << QByteArray(bueno).replace("name=\"E\"", "name=\"\xD1\"")
-                                << "bien formado";
-    QTest::newRow("codificacion desconocida")
-        << "<?xml version=\"1.0\" encoding=\"klingon\"?>" + bueno << "Codificación";
-    QTest::newRow("unidad desconocida")
-        << Fichero(Alineacion("E", EJE), "<Units><Metric linearUnit=\"vara\"/></Units>")
-        << "Unidad";
-    QTest::newRow("sin ejes") << Fichero("") << "no tiene el eje";
-    QTest::newRow("eje sin elementos")
-        << Fichero(Alineacion("E", "<CoordGeom/>")) << "ningún elemento";
-}
-
-void TestLandXML::peligros()
-{
-    QFETCH(QByteArray, xml);
-    QFETCH(QString, motivo);
-    QElapsedTimer reloj;
-    reloj.start();
-    const auto r = Eje_De(xml);
-    QCOMPARE(r.numero, 0);
-    QVERIFY(!r.salida);
-    QVERIFY2(r.Motivo().contains(motivo), qPrintable(r.informe.Lineas().join(u'\n')));
-    QVERIFY(reloj.elapsed() < 20000);
-}
-
-void TestLandXML::textos_partidos_por_comentarios()
-{
-    const QByteArray linea = "<Line><Start>1<!-- > - -->0<?p ?> 2<![CDATA[0]]></Start>"
-                             "<End a='>' b=\"/>\">1&#48; 6<!-- -- x-->0</End></Line>";
-    const QByteArray bien = QByteArray(linea).replace(" -- x", " x");
-    const auto r = Eje_De(Fichero(Alineacion("E", "<CoordGeom>" + bien + "</CoordGeom>")));
-    QCOMPARE(Lineas(*r.salida),
-             "INI 0.000 20.000 10.000/REC 100.0000 40.000/FIN 40.000 60.000 10.000 100.0000");
-    // Two dashes within a comment are no XML.
-    QCOMPARE(Eje_De(Fichero(Alineacion("E", "<CoordGeom>" + linea + "</CoordGeom>"))).numero, 0);
-}
-
-void TestLandXML::cortado_en_cada_byte()
-{
-    const QByteArray entero = Banco_Conversion::Bytes_Muestra("eje1.xml");
-    const qsizetype cuerpo = entero.lastIndexOf('>') + 1;
-    for (qsizetype n = 0; n <= entero.size(); ++n) {
-        QByteArray trozo = entero.left(n);
-        QBuffer buffer(&trozo);
-        buffer.open(QIODevice::ReadOnly);
-        Informe_Lectura informe;
-        bool leido = true;
-        try {
-            const Eje eje = Leer_Eje_LandXML(buffer, 0, informe);
-            QCOMPARE(eje.elementos.size(), size_t(7));
-        } catch (const Fallo_Conversion& f) {
-            leido = false;
-            QVERIFY(!f.motivo.isEmpty());
-        }
-        QCOMPARE(leido, n >= cuerpo);
-    }
+    QCOMPARE(Banco_Conversion::En_Linea(*r.salida), "INI 0.000 5.000 3.000/REC 0.0000 59996.000/"
+                                                    "FIN 59996.000 5.000 59999.000 0.0000");
 }
 
 PRUEBA(TestLandXML)

@@ -1,0 +1,198 @@
+#include "export/ui/FrmExportar.h"
+
+#include "core/Ayuda.h"
+#include "core/Interfaz.h"
+#include "core/ui/Piezas.h"
+
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr const char* OPCIONES_TEXTO[] = {"Texto Formateado", "Texto", "Ms-Excel", "DXF (Autocad)",
+                                          "Ms-Access"};
+// The bar counts in thousandths and moves a few times a second: rows come by the ten thousand.
+constexpr int TOPE_BARRA = 1000;
+constexpr qint64 MS_PASADA = 40;
+
+/// What the engine reports goes to the bar and the label.
+class Avance_Dialogo : public Avance_Exportar {
+public:
+    Avance_Dialogo(QProgressBar& b, QLabel& e) : barra(b), rotulo(e) { reloj.start(); }
+    void Etiqueta(const QString& texto) override { rotulo.setText(texto); }
+    void Maximo(qint64 nuevo) override { maximo = nuevo; }
+    void Valor(qint64 valor) override
+    {
+        if (valor > 0 && valor < maximo && reloj.elapsed() < MS_PASADA) return;
+        reloj.restart();
+        barra.setValue(maximo > 0 ? int(double(valor) / double(maximo) * TOPE_BARRA) : 0);
+        Interfaz_Actual().Repintar();
+    }
+
+private:
+    QProgressBar& barra;
+    QLabel& rotulo;
+    QElapsedTimer reloj;
+    qint64 maximo = 0;
+};
+
+void Llenar(QComboBox& combo, const QStringList& textos, int entrada)
+{
+    const QSignalBlocker callado(&combo);
+    combo.clear();
+    combo.addItems(textos);
+    combo.setCurrentIndex(entrada);
+}
+
+} // namespace
+
+FrmExportar::FrmExportar() : Ventana(QStringLiteral("FrmExportar"))
+{
+    setWindowTitle(QStringLiteral("Guardar/Exportar Archivo"));
+    Pb1 = new QProgressBar;
+    Pb1->setObjectName(QStringLiteral("Pb1"));
+    Pb1->setRange(0, TOPE_BARRA);
+    Pb1->setTextVisible(false);
+    LblMsg = Piezas::Rotulo({}, "LblMsg");
+    BtnExportar = Piezas::Boton("BtnExportar", "&Exportar");
+    QPushButton* const BtnSalir = Piezas::Boton("BtnSalir", "&Cerrar");
+    QPushButton* const btnAyuda = Piezas::Boton("btnAyuda", "&Ayuda");
+    auto* const botones = new QHBoxLayout;
+    botones->addStretch();
+    for (QPushButton* const boton : {BtnExportar, BtnSalir, btnAyuda})
+        botones->addWidget(boton);
+    auto* const caja = new QVBoxLayout(this);
+    caja->addWidget(Hacer_Opciones());
+    caja->addLayout(Hacer_Fichero());
+    caja->addWidget(LblMsg);
+    caja->addWidget(Pb1);
+    caja->addLayout(botones);
+    setMinimumWidth(520);
+    Poner_Botones(BtnExportar, BtnSalir);
+    connect(BtnExportar, &QPushButton::clicked, this, &FrmExportar::BtnExportar_Click);
+    connect(BtnSalir, &QPushButton::clicked, this, &Ventana::Descargar);
+    connect(btnAyuda, &QPushButton::clicked, this, [] { Mostrar_Ayuda_Web("expnuevo"); });
+}
+
+QGroupBox* FrmExportar::Hacer_Opciones()
+{
+    QGroupBox* const grupo = Piezas::Grupo("Tipo de Fichero", "Frame1");
+    auto* const opciones = new QVBoxLayout;
+    auto* const juego = new QButtonGroup(this);
+    for (int i = 0; i < Dialogo_Exportar::OPCIONES; ++i) {
+        auto* const opcion = new QRadioButton(OPCIONES_TEXTO[i]);
+        opcion->setObjectName(QStringLiteral("OptFor"));
+        opcion->setProperty("Index", i);
+        juego->addButton(opcion, i);
+        opciones->addWidget(opcion);
+        OptFor << opcion;
+    }
+    connect(juego, &QButtonGroup::idClicked, this, [this](int indice) {
+        modelo->Elegir_Opcion(indice);
+        Mostrar_Modelo();
+    });
+    Label4 = Piezas::Rotulo("Caracter de Separación :", "Label4");
+    Caracter = Piezas::Combo("Caracter");
+    Label3 = Piezas::Rotulo("Versión Excel :", "Label3");
+    VersionExcel = Piezas::Combo("VersionExcel");
+    auto* const lado = new QVBoxLayout;
+    for (QWidget* const pieza :
+         {static_cast<QWidget*>(Label4), static_cast<QWidget*>(Caracter),
+          static_cast<QWidget*>(Label3), static_cast<QWidget*>(VersionExcel)})
+        lado->addWidget(pieza);
+    lado->addStretch();
+    auto* const caja = new QHBoxLayout(grupo);
+    caja->addLayout(opciones, 1);
+    caja->addLayout(lado, 1);
+    connect(Caracter, &QComboBox::activated, this, [this](int i) { modelo->caracter = i; });
+    connect(VersionExcel, &QComboBox::activated, this,
+            [this](int i) { modelo->Elegir_Version(i); });
+    return grupo;
+}
+
+QLayout* FrmExportar::Hacer_Fichero()
+{
+    Text1 = Piezas::Caja("Text1");
+    Text1->setReadOnly(true);
+    BtnElegir =
+        Piezas::Boton_Dibujo("BtnElegir", "carpeta.png", "...", "Seleccione Fichero de Salida");
+    BtnElegir->setAccessibleName("Seleccione Fichero de Salida");
+    auto* const fila = new QHBoxLayout;
+    fila->addWidget(Piezas::Rotulo("Fichero Exportado :"));
+    fila->addWidget(Text1, 1);
+    fila->addWidget(BtnElegir);
+    connect(BtnElegir, &QPushButton::clicked, this, [this] {
+        modelo->Elegir_Fichero();
+        Mostrar_Modelo();
+        if (!modelo->fichero.isEmpty()) BtnExportar->setFocus();
+    });
+    return fila;
+}
+
+void FrmExportar::Mostrar_Con(const Trabajo_Exportar& trabajo)
+{
+    modelo = std::make_unique<Dialogo_Exportar>(trabajo);
+    Mostrar_Modelo();
+    LblMsg->clear();
+    Pb1->setValue(0);
+    BtnElegir->setFocus();
+    Mostrar_Modal();
+}
+
+void FrmExportar::Mostrar_Modelo()
+{
+    for (int i = 0; i < OptFor.size(); ++i) {
+        OptFor[i]->setEnabled(modelo->activa[std::size_t(i)]);
+        OptFor[i]->setChecked(i == modelo->opcion);
+    }
+    // The program's own dialog offers four kinds; the database is there where it can be written.
+    OptFor[Dialogo_Exportar::ACCESS]->setVisible(modelo->activa[Dialogo_Exportar::ACCESS]);
+    Llenar(*Caracter, modelo->caracteres, modelo->caracter);
+    Caracter->setProperty("Tag", modelo->tag_caracteres);
+    Llenar(*VersionExcel, modelo->versiones, modelo->version);
+    for (QWidget* const pieza : {static_cast<QWidget*>(Label4), static_cast<QWidget*>(Caracter)})
+        pieza->setVisible(modelo->caracter_visible);
+    for (QWidget* const pieza :
+         {static_cast<QWidget*>(Label3), static_cast<QWidget*>(VersionExcel)})
+        pieza->setVisible(modelo->version_visible);
+    Text1->setText(modelo->fichero);
+    BtnElegir->setEnabled(modelo->elegir_activo);
+}
+
+void FrmExportar::BtnExportar_Click()
+{
+    if (exportando) return;
+    const QScopedValueRollback<bool> marca(exportando, true);
+    Avance_Dialogo avance(*Pb1, *LblMsg);
+    modelo->Exportar(avance);
+}
+
+void FrmExportar::Colocar()
+{
+    adjustSize();
+    const QRect pantalla = screen()->availableGeometry();
+    move(pantalla.center() - rect().center());
+}
+
+void FrmExportar::closeEvent(QCloseEvent* evento)
+{
+    // The writer that is running still reports to these controls.
+    if (exportando)
+        evento->ignore();
+    else
+        Ventana::closeEvent(evento);
+}
