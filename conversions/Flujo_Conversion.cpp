@@ -1,9 +1,12 @@
 #include "conversions/Flujo_Conversion.h"
 
+#include "conversions/Fichero_Lista.h"
 #include "conversions/Peticiones_Conversion.h"
 #include "conversions/Tabla_Funciones.h"
+#include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <span>
 
@@ -67,6 +70,20 @@ Peticiones_Conversion& Peticiones_De_Conversion()
 {
     static Peticiones_Conversion unicas;
     return unicas;
+}
+
+QStringList Tomar_Lista()
+{
+    const QString fichero = Fichero_Lista();
+    QStringList lineas;
+    try {
+        lineas = Ficheros::Leer_Lineas(fichero);
+    } catch (const Error_Ejecucion&) {
+        // The dialog then has nothing to choose from, which is all that there is to say.
+        return {};
+    }
+    QFile::remove(fichero);
+    return lineas;
 }
 
 QString Extension_De(const QString& ruta)

@@ -17,6 +17,10 @@ void Convertir_A_LandXML(Clase_Conversion clase);
 /// A blank or tab separated point file to the KRT point file.
 void Convertir_Puntos();
 
+/// Takes what the list functions left in the list file: its lines, the file being removed. A file
+/// that can't be read gives no lines.
+QStringList Tomar_Lista();
+
 /// Text behind the last ".", upper case; the whole path, upper case, when it has none.
 QString Extension_De(const QString& ruta);
 

@@ -26,6 +26,15 @@ Interfaz* Poner_Interfaz(Interfaz* nueva)
     return anterior;
 }
 
+std::optional<Fichero_Elegido> Pedir_Fichero_Insistiendo(const Peticion_Fichero& peticion)
+{
+    while (!Interfaz_Actual().Terminada()) {
+        auto elegido = Interfaz_Actual().Pedir_Fichero(peticion);
+        if (elegido && !elegido->nombre.isEmpty()) return elegido;
+    }
+    return std::nullopt;
+}
+
 QString Texto_Informe(const QString& mensaje, const Error_Ejecucion& error, const QString& salto)
 {
     return mensaje + salto + u'(' + QString::number(error.numero) + QStringLiteral(") ") +

@@ -66,12 +66,18 @@ public:
     virtual void Ver_Texto(const QString& fichero, bool fija = false) = 0;
     /// Ends the run in the one defined way, from wherever it is.
     virtual void Terminar(int estado) = 0;
+    /// @return true once the run is being ended: nothing is asked any more
+    virtual bool Terminada() const { return false; }
 };
 
 /// The interface in use. @throws Error_Ejecucion 91 when none has been set
 Interfaz& Interfaz_Actual();
 /// Puts another interface in use (null: none). @return the one that was
 Interfaz* Poner_Interfaz(Interfaz* nueva);
+
+/// Shows the file dialog until a name comes, as the routines that send do.
+/// @return nothing only when the run is being ended meanwhile
+std::optional<Fichero_Elegido> Pedir_Fichero_Insistiendo(const Peticion_Fichero& peticion);
 
 class Error_Ejecucion;
 

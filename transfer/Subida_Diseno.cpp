@@ -7,6 +7,7 @@
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
 #include "session/Desplazamiento.h"
+#include "transfer/Despacho.h"
 
 #include <optional>
 #include <span>
@@ -145,13 +146,12 @@ const Clase_Diseno DE_RASANTES = {u"Formato Miraldos (*.ssv)|*.ssv",
 const Clase_Diseno DE_TRANSVERSALES = {u"Formato Miraldos (*.ssp)|*.ssp", u"",
                                        Convertir_Transversal};
 
-// A routine that sends asks until a name comes; a conversion ends at cancel.
-std::optional<Fichero_Elegido> Pedir(const Peticion_Fichero& peticion, bool insistir)
+// A conversion ends at cancel; only an empty name is asked for again.
+std::optional<Fichero_Elegido> Pedir(const Peticion_Fichero& peticion)
 {
     for (;;) {
         const auto elegido = Interfaz_Actual().Pedir_Fichero(peticion);
-        if (elegido && !elegido->nombre.isEmpty()) return elegido;
-        if (!elegido && !insistir) return std::nullopt;
+        if (!elegido || !elegido->nombre.isEmpty()) return elegido;
     }
 }
 
@@ -164,20 +164,19 @@ QString Pedir_Salida(const Clase_Diseno& clase, int guardar)
                                 .filtro = filtro,
                                 .carpeta = {},
                                 .extension = {},
-                                .guardar = true},
-                               false);
+                                .guardar = true});
     return elegido ? Con_Extension(*elegido, filtro) : QString();
 }
 
 void Subir_Diseno(const Clase_Diseno& clase, const QString& filtro, int guardar,
                   const Envio_Diseno& envio)
 {
-    const auto origen = Pedir(
-        {.titulo = Descripcion_Operacion(envio.operacion) + QStringLiteral(" Seleccione Fichero"),
-         .filtro = filtro,
-         .carpeta = {},
-         .extension = {}},
-        guardar != 1);
+    const Peticion_Fichero peticion{.titulo = Descripcion_Operacion(envio.operacion) +
+                                              QStringLiteral(" Seleccione Fichero"),
+                                    .filtro = filtro,
+                                    .carpeta = {},
+                                    .extension = {}};
+    const auto origen = guardar == 1 ? Pedir(peticion) : Pedir_Fichero_Insistiendo(peticion);
     if (!origen) return;
     const QString salida = Pedir_Salida(clase, guardar);
     if (salida.isEmpty()) return;
@@ -231,6 +230,26 @@ void Subir_Rasantes(const QString& filtro, int Guardar, const Envio_Diseno& envi
 void Subir_Transversales(const QString& filtro, int Guardar, const Envio_Diseno& envio)
 {
     Subir_Diseno(DE_TRANSVERSALES, filtro, Guardar, envio);
+}
+
+void Convertir_A_Estandar(Clase_Conversion clase)
+{
+    struct Ruta_Estandar {
+        int operacion;
+        void (*subir)(const QString& filtro, int Guardar, const Envio_Diseno& envio);
+    };
+    constexpr Ruta_Estandar RUTAS[] = {
+        {6, Subir_Alineaciones}, {8, Subir_Rasantes}, {7, Subir_Transversales}};
+    if (clase == Clase_Conversion::Puntos) {
+        Convertir_Puntos();
+        return;
+    }
+    const Ruta_Estandar& ruta = RUTAS[std::size_t(clase)];
+    // The files on offer are those of the instrument that takes designs, whatever the model in
+    // force.
+    const QString filtro =
+        Filtro_Extensiones(QStringLiteral("KRT800"), ruta.operacion, QStringLiteral("C"));
+    if (!Interfaz_Actual().Terminada()) ruta.subir(filtro, 1, {ruta.operacion, {}});
 }
 
 bool Leer_Fichero_Envio(const QString& fichero, QString& texto, const QString& separador,

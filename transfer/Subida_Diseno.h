@@ -1,5 +1,7 @@
 #pragma once
 
+#include "conversions/Flujo_Conversion.h"
+
 #include <functional>
 #include <QString>
 
@@ -22,6 +24,10 @@ struct Envio_Diseno {
 void Subir_Alineaciones(const QString& filtro, int Guardar, const Envio_Diseno& envio);
 void Subir_Rasantes(const QString& filtro, int Guardar, const Envio_Diseno& envio);
 void Subir_Transversales(const QString& filtro, int Guardar, const Envio_Diseno& envio);
+
+/// A file of another package, or of points, to the instrument's form under a name that the user
+/// gives; nothing is sent.
+void Convertir_A_Estandar(Clase_Conversion clase);
 
 /// Kind of file that `Leer_Fichero_Envio` reads.
 enum Tipo_Envio { ENVIO_PUNTOS = 4, ENVIO_CONVERTIDO = 6 };

@@ -7,18 +7,6 @@
 
 namespace {
 
-QString Pedir_Puntos()
-{
-    for (;;) {
-        const auto elegido = Interfaz_Actual().Pedir_Fichero(
-            {.titulo = QStringLiteral("Datos de coordenada"),
-             .filtro = QStringLiteral("ASCII (*.asc)|*.asc|Todos los archivos (*.*)|*.*"),
-             .carpeta = {},
-             .extension = QStringLiteral("asc")});
-        if (elegido && !elegido->nombre.isEmpty()) return elegido->nombre;
-    }
-}
-
 void Guardar_Copia(const QString& temporal)
 {
     const QString filtro = QStringLiteral("Formato Miraldos (*.x)|*.x");
@@ -38,10 +26,15 @@ void Guardar_Copia(const QString& temporal)
 
 void Subir_NV400(int)
 {
-    const QString origen = Pedir_Puntos();
+    const auto origen = Pedir_Fichero_Insistiendo(
+        {.titulo = QStringLiteral("Datos de coordenada"),
+         .filtro = QStringLiteral("ASCII (*.asc)|*.asc|Todos los archivos (*.*)|*.*"),
+         .carpeta = {},
+         .extension = QStringLiteral("asc")});
+    if (!origen) return;
     const QString temporal = En_Instalacion(QStringLiteral("miraldos.$$$"));
     Informe_Lectura informe;
-    const int resultado = Ejecutar_Funcion(u"puntos2nivel", {origen, temporal}, informe);
+    const int resultado = Ejecutar_Funcion(u"puntos2nivel", {origen->nombre, temporal}, informe);
     if (resultado == 1) {
         try {
             Guardar_Copia(temporal);

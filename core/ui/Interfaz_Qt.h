@@ -32,7 +32,7 @@ public:
     /// its own order, so no transaction and no journal is cut in the middle.
     void Terminar(int estado) override;
 
-    bool Terminada() const { return terminada; }
+    bool Terminada() const override { return terminada; }
     int Estado() const { return estado_final; }
 
 private:

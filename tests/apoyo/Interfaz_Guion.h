@@ -64,6 +64,7 @@ public:
     void Arrancar(const QString& programa, const QStringList& argumentos) override;
     void Ver_Texto(const QString& fichero, bool fija) override;
     void Terminar(int estado) override;
+    bool Terminada() const override { return !terminado.isEmpty(); }
 
 private:
     Interfaz* anterior;

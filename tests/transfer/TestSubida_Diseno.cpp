@@ -1,3 +1,4 @@
+#include "conversions/Fichero_Lista.h"
 #include "conversions/Peticiones_Conversion.h"
 #include "core/Ansi.h"
 #include "core/Ficheros.h"
@@ -24,6 +25,11 @@ QString Muestra(const QString& nombre)
 class TestSubida_Diseno : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void cleanup()
+    {
+        Mover_Fichero_Lista({});
+        Peticiones_De_Conversion() = {};
+    }
     void coordenadas_data();
     void coordenadas();
     void coordenada_con_letras();
@@ -33,6 +39,14 @@ private Q_SLOTS:
     void rasantes();
     void transversales_data();
     void transversales();
+    void landxml_data();
+    void landxml();
+    void landxml_sin_eleccion_calla();
+    void landxml_con_invalidos();
+    void a_estandar_data();
+    void a_estandar();
+    void a_estandar_sin_tipos_de_fichero();
+    void al_terminar_no_se_insiste();
     void la_extension_manda_en_la_forma();
     void dialogos_de_guardar();
     void dialogos_de_enviar();
@@ -64,8 +78,18 @@ private:
         return texto;
     }
 
+    // Answers the choice with line `indice` of the list file; below 0 with none.
+    void Elegir_Linea(int indice)
+    {
+        Mover_Fichero_Lista(base.Ruta("$$$$.EJE"));
+        Peticiones_De_Conversion().Elegir_De_Lista = [this, indice] {
+            lista = Tomar_Lista();
+            return Eleccion_LandXML{indice, lista.value(indice)};
+        };
+    }
+
     Base_De_Prueba base;
-    QStringList textos;
+    QStringList textos, lista;
 };
 
 void TestSubida_Diseno::coordenadas_data()
@@ -194,6 +218,130 @@ void TestSubida_Diseno::transversales()
     QCOMPARE(Enviado(Subir_Transversales, FILTRO_TRANSVERSALES, Muestra(muestra), 9),
              QString("(nada)"));
     QCOMPARE(textos[0], QString("La carga de Datos no se pudo realizar"));
+}
+
+void TestSubida_Diseno::landxml_data()
+{
+    QTest::addColumn<int>("clase");
+    QTest::addColumn<QString>("entrada");
+    QTest::addColumn<QString>("lista_esperada");
+    QTest::addColumn<int>("linea");
+    QTest::addColumn<QString>("esperado");
+    QTest::newRow("eje") << 0 << "eje1.xml"
+                         << "eje1_ejes.lst" << 0 << "eje1.xml.ssh";
+    QTest::newRow("rasante") << 1 << "eje1_v.xml"
+                             << "eje1_ras.lst" << 0 << "eje1_v_A.ssv";
+    QTest::newRow("terreno") << 2 << "eje1_t.xml"
+                             << "eje1_tra.lst" << 0 << "eje1_t_T.ssp";
+    QTest::newRow("proyecto") << 2 << "eje1_t.xml"
+                              << "eje1_tra.lst" << 1 << "eje1_t_P.ssp";
+}
+
+void TestSubida_Diseno::landxml()
+{
+    QFETCH(int, clase);
+    QFETCH(QString, entrada);
+    QFETCH(QString, lista_esperada);
+    QFETCH(int, linea);
+    QFETCH(QString, esperado);
+    Elegir_Linea(linea);
+    const Rutina rutinas[] = {Subir_Alineaciones, Subir_Rasantes, Subir_Transversales};
+    QCOMPARE(Enviado(rutinas[clase], FILTRO_TRANSVERSALES, Muestra(entrada), 8),
+             Ansi::A_Texto(Ficheros::Leer(Muestra(esperado))));
+    QVERIFY(textos.isEmpty());
+    QCOMPARE(lista, Ficheros::Leer_Lineas(Muestra(lista_esperada)));
+    QVERIFY(!QFile::exists(base.Ruta("$$$$.EJE")));
+    QVERIFY(Tomar_Lista().isEmpty());
+}
+
+void TestSubida_Diseno::landxml_sin_eleccion_calla()
+{
+    for (const Rutina rutina : {Subir_Alineaciones, Subir_Rasantes, Subir_Transversales}) {
+        Elegir_Linea(-1);
+        QCOMPARE(Enviado(rutina, FILTRO_TRANSVERSALES, Muestra("eje1.xml"), 8), QString("(nada)"));
+        QVERIFY(textos.isEmpty());
+        // A file that can't be read has an empty list.
+        Elegir_Linea(0);
+        base.Escribir("malo.xml", "<LandXML><Alignments>");
+        QCOMPARE(Enviado(rutina, FILTRO_TRANSVERSALES, base.Ruta("malo.xml"), 8),
+                 QString("(nada)"));
+        QVERIFY(textos.isEmpty() && lista.isEmpty());
+    }
+}
+
+void TestSubida_Diseno::landxml_con_invalidos()
+{
+    Elegir_Linea(0);
+    QCOMPARE(Enviado(Subir_Alineaciones, "A|*.a", Muestra("eje1_mal.xml")),
+             Ansi::A_Texto(Ficheros::Leer(Muestra("eje1_mal.xml.ssh"))));
+    QCOMPARE(textos[0], QString("Existen alineaciones no válidas"));
+    Elegir_Linea(Ficheros::Leer_Lineas(Muestra("eje1_ras.lst")).indexOf("EJE B/R2"));
+    QCOMPARE(Enviado(Subir_Rasantes, "A|*.a", Muestra("eje1_v.xml")),
+             Ansi::A_Texto(Ficheros::Leer(Muestra("eje1_v_B2.ssv"))));
+    QCOMPARE(textos[0], QString("Existen vértices de rasantes no válidos"));
+}
+
+void TestSubida_Diseno::a_estandar_data()
+{
+    QTest::addColumn<int>("clase");
+    QTest::addColumn<int>("operacion");
+    QTest::addColumn<QString>("entrada");
+    QTest::addColumn<QString>("esperado");
+    QTest::newRow("alineaciones") << 0 << 6 << "eje1.plt"
+                                  << "eje1.plt.ssh";
+    QTest::newRow("rasantes") << 1 << 8 << "eje1.ras"
+                              << "eje1.ras.ssv";
+    QTest::newRow("transversales") << 2 << 7 << "eje1.tra"
+                                   << "eje1.tra.ssp";
+    QTest::newRow("puntos") << 3 << 0 << "puntos.asc"
+                            << "puntos.krt";
+}
+
+void TestSubida_Diseno::a_estandar()
+{
+    QFETCH(int, clase);
+    QFETCH(int, operacion);
+    QFETCH(QString, entrada);
+    QFETCH(QString, esperado);
+    // The model in force has no designs: the files are those of the one that has.
+    Clave_Estacion = "NV400";
+    base.Fila("KRT2", {{"Nombre", "KRT800"},
+                       {"OPE", operacion},
+                       {"TipOpe", "C"},
+                       {"DESOPE", "Cosas"},
+                       {"Conv", "X,Y"}});
+    if (clase == 0) {
+        base.Fila("CONVERT", {{"Clave", "X"}, {"descripcion", "QSV (*.tra)"}, {"ext", "*.tra"}});
+        base.Fila("CONVERT", {{"Clave", "Y"}, {"descripcion", "Otros"}, {"ext", "*.*"}});
+    }
+    Interfaz_Guion guion;
+    Elegir(guion, Muestra(entrada));
+    Elegir(guion, base.Ruta(esperado));
+    Convertir_A_Estandar(Clase_Conversion(clase));
+    QCOMPARE(base.Leer(esperado), Ficheros::Leer(Muestra(esperado)));
+    if (clase == 3) return;
+    QCOMPARE(guion.peticiones[0].filtro, QString("QSV (*.tra)|*.tra|Otros|*.*"));
+    QCOMPARE(guion.peticiones[0].titulo, QString("Cosas Seleccione Fichero"));
+    QVERIFY(guion.avisos.isEmpty());
+}
+
+void TestSubida_Diseno::a_estandar_sin_tipos_de_fichero()
+{
+    base.Columna("DELETE FROM KRT2");
+    Interfaz_Guion guion;
+    Convertir_A_Estandar(Clase_Conversion::Rasantes);
+    QCOMPARE(guion.Textos(), QStringList{"No hay extensiones definidas para esta operación"});
+    QCOMPARE(guion.terminado, QList<int>{1});
+    QVERIFY(guion.peticiones.isEmpty());
+}
+
+void TestSubida_Diseno::al_terminar_no_se_insiste()
+{
+    Interfaz_Guion guion;
+    guion.Terminar(0);
+    bool enviado = false;
+    Subir_Rasantes("A|*.a", 0, {8, [&](const QString&) { enviado = true; }});
+    QVERIFY(!enviado && guion.peticiones.isEmpty());
 }
 
 void TestSubida_Diseno::la_extension_manda_en_la_forma()
