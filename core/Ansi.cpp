@@ -37,13 +37,21 @@ QString Ansi::A_Texto(QByteArrayView bytes)
 QByteArray Ansi::A_Bytes(QStringView texto)
 {
     QByteArray bytes;
-    bytes.reserve(texto.size());
+    Agregar_Bytes(bytes, texto);
+    return bytes;
+}
+
+void Ansi::Agregar_Bytes(QByteArray& bytes, QStringView texto)
+{
+    const qsizetype antes = bytes.size();
+    bytes.resize(antes + texto.size());
+    char* d = bytes.data() + antes;
     for (qsizetype i = 0; i < texto.size(); ++i) {
         const QChar c = texto[i];
         if (c.isHighSurrogate() && i + 1 < texto.size() && texto[i + 1].isLowSurrogate()) ++i;
-        bytes += static_cast<char>(Codigo(c));
+        *d++ = c.unicode() < 0x80 ? char(c.unicode()) : static_cast<char>(Codigo(c));
     }
-    return bytes;
+    bytes.truncate(d - bytes.constData());
 }
 
 int Ansi::Codigo(QChar c)

@@ -15,6 +15,9 @@ QString A_Texto(QByteArrayView bytes);
 ///         (a surrogate pair is one character and gives one "?")
 QByteArray A_Bytes(QStringView texto);
 
+/// The same, at the end of `bytes`.
+void Agregar_Bytes(QByteArray& bytes, QStringView texto);
+
 /// @return the character's code in the page, 0 to 255; 63 ("?") if the page cannot hold it
 int Codigo(QChar c);
 

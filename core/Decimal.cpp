@@ -187,18 +187,36 @@ bool Decimal::operator<(const Decimal& otro) const
     return negativo ? !menor && *this != otro : menor;
 }
 
-QString Decimal::Decimales(int n) const
+quint64 Decimal::Redondeados(int n) const
 {
-    if (n == 0) return {};
     const quint64 unidad = POTENCIA[std::size_t(CIFRAS - n)];
     quint64 cifras = fraccion / unidad;
     const quint64 resto = fraccion % unidad;
     if (resto * 2 > unidad || (resto * 2 == unidad && resto != 0 && cifras % 2 == 1)) ++cifras;
-    cifras %= POTENCIA[std::size_t(n)];
-    QString texto(n, u'0');
-    for (qsizetype i = n - 1; cifras != 0; --i, cifras /= 10)
-        texto[i] = QChar(u'0' + char16_t(cifras % 10));
-    return texto;
+    return cifras % POTENCIA[std::size_t(n)];
+}
+
+QString Decimal::Decimales(int n) const
+{
+    return n == 0 ? QString() : QString::number(Redondeados(n)).rightJustified(n, u'0');
+}
+
+QString Decimal::Texto_Fijo(int n) const
+{
+    // Written from its end: at most 18 digits on each side, the point and the sign.
+    std::array<char16_t, 2 * CIFRAS + 2> letras;
+    auto p = letras.end();
+    quint64 resto = Redondeados(n);
+    for (int i = 0; i < n; ++i, resto /= 10)
+        *--p = char16_t(u'0' + resto % 10);
+    *--p = u'.';
+    resto = entera;
+    do {
+        *--p = char16_t(u'0' + resto % 10);
+        resto /= 10;
+    } while (resto != 0);
+    if (negativo) *--p = u'-';
+    return QStringView(p, letras.end()).toString();
 }
 
 QString Decimal::Texto() const

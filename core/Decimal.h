@@ -44,10 +44,14 @@ public:
     /// The decimals alone, rounded to `n` digits (0 to 18) half to even and zero filled; a carry
     /// into the integer part is lost: 0.9996 to three digits is "000".
     QString Decimales(int n) const;
+    /// Sign, integer part, point and `n` decimals (1 to 18) as `Decimales` gives them: "-12.500".
+    /// What rounds to zero keeps its sign.
+    QString Texto_Fijo(int n) const;
     /// Shortest plain text, with a point: "-12.5", "7".
     QString Texto() const;
 
 private:
+    quint64 Redondeados(int n) const;
     static Decimal De_Partes(bool negativo, QStringView entera, QStringView fraccion);
 
     bool negativo = false;

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr std::size_t FILAS_POR_REPINTADO = 512;
 // A level field keeps its name in so many characters; behind them stands its mark.
 constexpr qsizetype ANCHO_NOMBRE_NIVEL = 40;
 
@@ -21,47 +20,64 @@ std::size_t Numero_De_Filas(const Filas_Exportar& filas)
 class Escritura {
 public:
     explicit Escritura(const Tarea_Exportar& t)
-        : tarea(t), sep(Trozo(1, t.opciones, SEP_LISTA)),
-          con_titulos(Trozo(2, t.opciones, SEP_LISTA) == u"S"), fichero(t.fichero)
+        : tarea(t), con_titulos(Trozo(2, t.opciones, SEP_LISTA) == u"S"),
+          sep(Trozo(1, t.opciones, SEP_LISTA)), fichero(t.fichero)
     {
     }
 
-    // A line is built with a separator in front of each part; the first goes.
-    void Linea(const QString& texto) { fichero.Linea(QStringView(texto).mid(1)); }
-    void Linea_Vacia() { fichero.Linea(u""); }
-    void Cerrar() { fichero.Cerrar(); }
-
-    // Text of a marked row, with the next of the kept lines.
-    QString Texto_Marcado(const QString& celda)
+    // One more cell of the line, parted from the one before, with blanks up to `ancho`.
+    void Poner(QStringView texto, qsizetype ancho = 0)
+    {
+        if (en_linea) fichero.Agregar(sep);
+        en_linea = true;
+        fichero.Agregar(texto);
+        if (texto.size() < ancho) fichero.Agregar_Blancos(ancho - texto.size());
+    }
+    // The text of a marked row in place of its first cell, with the next of the kept lines.
+    void Poner_Marcada(const QString& celda)
     {
         const bool cabecera = celda.front() == QChar(SEP_LISTA);
         const QString entrada = tarea.datos.lineas_especiales.value(siguiente_especial++);
-        return (cabecera ? "Cabecera:\r\n" : "Resumen:\r\n") +
-               Linea_Campos_Nivel(tarea.bd, entrada, cabecera ? "t" : "w");
+        Poner((cabecera ? "Cabecera:\r\n" : "Resumen:\r\n") +
+              Linea_Campos_Nivel(tarea.bd, entrada, cabecera ? "t" : "w") + "\r\n");
     }
+    // A line without any cell isn't written.
+    void Cerrar_Linea()
+    {
+        if (en_linea) fichero.Fin_De_Linea();
+        en_linea = false;
+    }
+    // Behind the titles stands an empty line; titles there are even without columns.
+    void Cerrar_Titulos()
+    {
+        fichero.Fin_De_Linea();
+        fichero.Fin_De_Linea();
+        en_linea = false;
+    }
+    void Cerrar() { fichero.Cerrar(); }
 
     template <typename De_Fila> void Para_Cada_Fila(De_Fila&& de_fila)
     {
         const std::size_t total = Numero_De_Filas(tarea.datos.filas);
         tarea.avance.Maximo(qint64(total));
-        QString linea;
         for (std::size_t r = 0; r < total; ++r) {
-            linea.resize(0);
-            de_fila(r, linea);
-            if (!linea.isEmpty()) Linea(linea);
-            if ((r + 1) % FILAS_POR_REPINTADO != 0) continue;
-            tarea.avance.Valor(qint64(r + 1));
+            de_fila(r);
+            Cerrar_Linea();
+            const qint64 hechas = qint64(r + 1);
+            if (hechas % PASOS_POR_REPINTADO != 0) continue;
+            tarea.avance.Valor(hechas);
             Interfaz_Actual().Repintar();
         }
         tarea.avance.Valor(qint64(total));
     }
 
     const Tarea_Exportar& tarea;
-    const QString sep;
     const bool con_titulos;
 
 private:
+    const QString sep;
     Fichero_Texto fichero;
+    bool en_linea = false;
     qsizetype siguiente_especial = 0;
 };
 
@@ -83,14 +99,6 @@ template <typename Cuerpo> bool Escribir(const QString& mensaje, Cuerpo&& cuerpo
     }
 }
 
-void Agregar_Rellena(QString& linea, const QString& sep, const QString& texto, qsizetype ancho)
-{
-    linea += sep;
-    linea += texto;
-    for (qsizetype n = texto.size(); n < ancho; ++n)
-        linea += u' ';
-}
-
 void Escribir_Formateado(Escritura& e)
 {
     const Filas_Exportar& filas = e.tarea.datos.filas;
@@ -98,24 +106,20 @@ void Escribir_Formateado(Escritura& e)
     std::vector<qsizetype> anchos;
     (nivel ? Anchos_Titulos : Anchos_Columna)(e.tarea.campos, filas, anchos, e.con_titulos);
     if (e.con_titulos) {
-        QString titulos;
         for (std::size_t c = 0; c < anchos.size(); ++c) {
             const QString& campo = e.tarea.campos[qsizetype(c)];
-            Agregar_Rellena(titulos, e.sep,
-                            nivel ? Basico::Trim(campo.left(ANCHO_NOMBRE_NIVEL)) : campo,
-                            anchos[c]);
+            e.Poner(nivel ? Basico::Trim(campo.left(ANCHO_NOMBRE_NIVEL)) : campo, anchos[c]);
         }
-        e.Linea(titulos);
-        e.Linea_Vacia();
+        e.Cerrar_Titulos();
     }
-    e.Para_Cada_Fila([&](std::size_t r, QString& linea) {
+    e.Para_Cada_Fila([&](std::size_t r) {
         std::size_t c = 0;
         if (Es_Fila_Marcada(filas[0][r])) {
-            linea += e.sep + e.Texto_Marcado(filas[0][r]) + "\r\n";
+            e.Poner_Marcada(filas[0][r]);
             c = 1;
         }
         for (; c < filas.size(); ++c)
-            Agregar_Rellena(linea, e.sep, filas[c][r], anchos[c]);
+            e.Poner(filas[c][r], anchos[c]);
     });
     e.Cerrar();
 }
@@ -124,22 +128,15 @@ void Escribir_Separado(Escritura& e)
 {
     const Filas_Exportar& filas = e.tarea.datos.filas;
     if (e.con_titulos) {
-        QString titulos;
         for (const QString& campo : e.tarea.campos)
-            titulos += e.sep + campo;
-        e.Linea(titulos);
-        e.Linea_Vacia();
+            e.Poner(campo);
+        e.Cerrar_Titulos();
     }
-    e.Para_Cada_Fila([&](std::size_t r, QString& linea) {
-        if (Es_Fila_Marcada(filas[0][r])) {
-            linea += e.sep + e.Texto_Marcado(filas[0][r]) + "\r\n";
-            return;
-        }
+    e.Para_Cada_Fila([&](std::size_t r) {
+        if (Es_Fila_Marcada(filas[0][r])) return e.Poner_Marcada(filas[0][r]);
         for (const auto& columna : filas) {
             const QString& celda = columna[r];
-            if (std::ranges::all_of(celda, [](QChar c) { return c == u' '; })) continue;
-            linea += e.sep;
-            linea += celda;
+            if (std::ranges::any_of(celda, [](QChar c) { return c != u' '; })) e.Poner(celda);
         }
     });
     e.Cerrar();

@@ -43,7 +43,22 @@ Fichero_Texto::~Fichero_Texto()
 
 void Fichero_Texto::Linea(QStringView texto)
 {
-    pendiente += Ansi::A_Bytes(texto);
+    Agregar(texto);
+    Fin_De_Linea();
+}
+
+void Fichero_Texto::Agregar(QStringView texto)
+{
+    Ansi::Agregar_Bytes(pendiente, texto);
+}
+
+void Fichero_Texto::Agregar_Blancos(qsizetype cuantos)
+{
+    pendiente.append(cuantos, ' ');
+}
+
+void Fichero_Texto::Fin_De_Linea()
+{
     pendiente += "\r\n";
     if (pendiente.size() >= TRAMO) Volcar();
 }

@@ -16,8 +16,12 @@ public:
     Fichero_Texto& operator=(const Fichero_Texto&) = delete;
     ~Fichero_Texto();
 
+    /// One line, or one piece after another up to `Fin_De_Linea`.
     /// @throws Error_Ejecucion 61 on a full disk, 57 when the device fails otherwise
     void Linea(QStringView texto);
+    void Agregar(QStringView texto);
+    void Agregar_Blancos(qsizetype cuantos);
+    void Fin_De_Linea();
     /// Hands the last bytes over; to be called before the file counts as written.
     /// @throws as `Linea`
     void Cerrar();

@@ -6,48 +6,53 @@
 #include "session/Decodificador.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 // The last run has no known end.
 constexpr qint64 ULTIMA_SECUENCIA = 999999;
-// Rows between two looks at the interface.
-constexpr std::size_t FILAS_POR_REPINTADO = 512;
+
+// A session on its way into rows.
+struct Sesion_A_Formatear {
+    Base& bd;
+    qint64 id;
+    const QString& maquina;
+    int ope;
+    const QStringList& campos;
+    Avance_Exportar& avance;
+};
 
 // Moves the bar now and then, and lets the interface repaint.
 class Marcador {
 public:
-    Marcador(Avance_Exportar& avance_, std::size_t total) : avance(avance_)
+    Marcador(Avance_Exportar& avance_, qint64 total) : avance(avance_) { avance.Maximo(total); }
+    void Paso()
     {
-        avance.Maximo(qint64(total));
-    }
-    void Fila_Hecha()
-    {
-        if (++hechas % FILAS_POR_REPINTADO != 0) return;
-        avance.Valor(qint64(hechas));
+        if (++hechos % PASOS_POR_REPINTADO != 0) return;
+        avance.Valor(hechos);
         Interfaz_Actual().Repintar();
     }
-    void Terminar() { avance.Valor(qint64(hechas)); }
+    void Terminar() { avance.Valor(hechos); }
 
 private:
     Avance_Exportar& avance;
-    std::size_t hechas = 0;
+    qint64 hechos = 0;
 };
 
 // One output row on its way: the cells by field, and the table that takes them.
 class Fila_En_Curso {
 public:
-    Fila_En_Curso(Filas_Exportar& filas_, qsizetype campos) : celdas(campos), filas(filas_) {}
-
-    void Vaciar()
+    Fila_En_Curso(Filas_Exportar& filas_, qsizetype campos) : celdas(campos), filas(filas_)
     {
-        for (QString& celda : celdas)
-            celda.clear();
+        filas.assign(std::size_t(campos), {});
     }
-    void Guardar(std::size_t fila)
+
+    // Adds the row to the table; the cells are empty again.
+    void Guardar()
     {
         for (qsizetype c = 0; c < celdas.size(); ++c)
-            filas[std::size_t(c)][fila] = std::move(celdas[c]);
+            filas[std::size_t(c)].push_back(std::exchange(celdas[c], QString()));
     }
 
     QStringList celdas; // `Campos_Fila`
@@ -56,85 +61,109 @@ private:
     Filas_Exportar& filas;
 };
 
-Filas_Exportar Tabla_Vacia(qsizetype columnas, std::size_t filas)
-{
-    return Filas_Exportar(std::size_t(columnas), std::vector<QString>(filas));
-}
-
-std::size_t Contar_Registros(Base& bd, qint64 id)
+qint64 Contar_Registros(Base& bd, qint64 id)
 {
     Recorrido cuenta = bd.Recorrer("SELECT COUNT(*) FROM Registros WHERE ID = ?", {id});
-    return cuenta.Siguiente() ? std::size_t(cuenta.Entero(0)) : 0;
+    return cuenta.Siguiente() ? cuenta.Entero(0) : 0;
 }
 
-// KRT300 and PX7. One pass through the lines serves all runs: their ranges follow one another
-// without overlapping, so each line falls into one run at most.
-void Formatear_Corridas(Base& bd, qint64 id, Decodificador& decodificador, Filas_Exportar& filas,
-                        qsizetype campos, Avance_Exportar& avance)
+// KRT300 and PX7, one query a run.
+void Formatear_Por_Corridas(const Sesion_A_Formatear& s, Filas_Exportar& filas)
 {
-    const std::vector<Corrida_Punto> corridas = Buscar_Corridas(bd, id);
-    filas = Tabla_Vacia(campos, corridas.size());
-    Marcador marcador(avance, corridas.size());
-    Fila_En_Curso fila(filas, campos);
+    const std::vector<Corrida_Punto> corridas = Buscar_Corridas(s.bd, s.id);
+    Marcador marcador(s.avance, qint64(corridas.size()));
+    Fila_En_Curso fila(filas, s.campos.size());
+    for (const Corrida_Punto& corrida : corridas) {
+        Extraer_Punto(s.bd, s.id, s.maquina, s.ope, corrida.punto, corrida.secuencia_desde,
+                      corrida.secuencia_hasta, s.campos, fila.celdas);
+        fila.Guardar();
+        marcador.Paso();
+    }
+    marcador.Terminar();
+}
+
+// The same in one pass through the lines: a run closes where the point changes. This holds while
+// the sequence grows from run to run, as every stored session's does.
+// @return false when it doesn't, or goes beyond the last run's end: `filas` is then of no use
+bool Formatear_De_Una_Pasada(const Sesion_A_Formatear& s, Filas_Exportar& filas)
+{
+    Decodificador decodificador(s.bd, s.maquina, s.ope, s.campos);
     const bool con_generales = decodificador.Hay_Generales();
+    Fila_En_Curso fila(filas, s.campos.size());
+    Marcador marcador(s.avance, Contar_Registros(s.bd, s.id));
+    QString punto, texto;
+    QByteArray bytes_punto;
+    std::size_t corridas = 0;
+    qint64 secuencia = 0;
 
-    Recorrido lineas = bd.Recorrer(
-        "SELECT Secuencia,Punto,Datos,DatosG FROM Registros WHERE ID = ? ORDER BY Secuencia", {id});
-    bool hay_linea = lineas.Siguiente();
-    for (std::size_t k = 0; k < corridas.size(); ++k) {
-        const Corrida_Punto& corrida = corridas[k];
-        const QByteArray punto = corrida.punto.toUtf8();
-        for (; hay_linea && lineas.Entero(0) <= corrida.secuencia_hasta;
-             hay_linea = lineas.Siguiente()) {
-            if (lineas.Bytes(1) != punto) continue;
-            decodificador.Linea(lineas.Texto(2), fila.celdas);
-            if (con_generales) decodificador.General(lineas.Texto(3), fila.celdas);
+    const auto cerrar = [&] {
+        decodificador.Poner_Punto(punto, fila.celdas);
+        fila.Guardar();
+    };
+    Recorrido lineas = s.bd.Recorrer(
+        "SELECT Secuencia,Punto,Datos,DatosG FROM Registros WHERE ID = ? ORDER BY Secuencia",
+        {s.id});
+    while (lineas.Siguiente()) {
+        const qint64 anterior = std::exchange(secuencia, lineas.Entero(0));
+        if (corridas == 0 || lineas.Bytes(1) != bytes_punto) {
+            if (corridas > 0 && secuencia == anterior) return false;
+            if (corridas++ == MAX_FILAS) throw Error_Ejecucion(9);
+            if (corridas > 1) cerrar();
+            lineas.Texto(1, punto);
+            bytes_punto = lineas.Bytes(1).toByteArray();
         }
-        decodificador.Poner_Punto(corrida.punto, fila.celdas);
-        fila.Guardar(k);
-        fila.Vaciar();
-        marcador.Fila_Hecha();
+        lineas.Texto(2, texto);
+        decodificador.Linea(texto, fila.celdas);
+        if (con_generales) {
+            lineas.Texto(3, texto);
+            decodificador.General(texto, fila.celdas);
+        }
+        marcador.Paso();
     }
+    if (corridas > 0) cerrar();
     marcador.Terminar();
+    return secuencia <= ULTIMA_SECUENCIA;
 }
 
-void Formatear_Registros_800(Base& bd, qint64 id, Decodificador& decodificador,
-                             Filas_Exportar& filas, qsizetype campos, Avance_Exportar& avance)
+void Formatear_KRT300(const Sesion_A_Formatear& s, Filas_Exportar& filas)
 {
-    const std::size_t total = Contar_Registros(bd, id);
-    filas = Tabla_Vacia(campos, total);
-    Marcador marcador(avance, total);
-    Fila_En_Curso fila(filas, campos);
+    if (!Formatear_De_Una_Pasada(s, filas)) Formatear_Por_Corridas(s, filas);
+}
+
+void Formatear_KRT800(const Sesion_A_Formatear& s, Filas_Exportar& filas)
+{
+    Decodificador decodificador(s.bd, s.maquina, s.ope, s.campos);
+    Fila_En_Curso fila(filas, s.campos.size());
+    Marcador marcador(s.avance, Contar_Registros(s.bd, s.id));
     Recorrido registros =
-        bd.Recorrer("SELECT Datos,DatosG FROM Registros WHERE ID = ? ORDER BY SECUENCIA", {id});
-    for (std::size_t r = 0; r < total && registros.Siguiente(); ++r) {
-        decodificador.Linea(registros.Texto(0), fila.celdas);
-        decodificador.General(registros.Texto(1), fila.celdas);
-        fila.Guardar(r);
-        fila.Vaciar();
-        marcador.Fila_Hecha();
+        s.bd.Recorrer("SELECT Datos,DatosG FROM Registros WHERE ID = ? ORDER BY SECUENCIA", {s.id});
+    QString texto;
+    while (registros.Siguiente()) {
+        registros.Texto(0, texto);
+        decodificador.Linea(texto, fila.celdas);
+        registros.Texto(1, texto);
+        decodificador.General(texto, fila.celdas);
+        fila.Guardar();
+        marcador.Paso();
     }
     marcador.Terminar();
 }
 
-void Formatear_Registros_Nivel(Base& bd, qint64 id, Decodificador& decodificador,
-                               Datos_Formateados& datos, qsizetype campos, Avance_Exportar& avance)
+void Formatear_Nivel(const Sesion_A_Formatear& s, Datos_Formateados& datos)
 {
-    const std::size_t total = Contar_Registros(bd, id);
-    datos.filas = Tabla_Vacia(campos, total);
-    Marcador marcador(avance, total);
-    Fila_En_Curso fila(datos.filas, campos);
-    Recorrido registros = bd.Recorrer("SELECT Datos FROM Registros WHERE ID = ?", {id});
-    for (std::size_t r = 0; r < total && registros.Siguiente(); ++r) {
+    Decodificador decodificador(s.bd, s.maquina, s.ope, s.campos);
+    Fila_En_Curso fila(datos.filas, s.campos.size());
+    Marcador marcador(s.avance, Contar_Registros(s.bd, s.id));
+    Recorrido registros = s.bd.Recorrer("SELECT Datos FROM Registros WHERE ID = ?", {s.id});
+    while (registros.Siguiente()) {
         const QString linea = registros.Texto(0);
         if (!linea.isEmpty() && QStringView(u"ghijk").contains(linea.front())) {
             decodificador.Linea(linea, fila.celdas);
-            if (campos > 0 && Es_Fila_Marcada(fila.celdas.front()))
+            if (!fila.celdas.isEmpty() && Es_Fila_Marcada(fila.celdas.front()))
                 datos.lineas_especiales << linea;
-            fila.Guardar(r);
-            fila.Vaciar();
         }
-        marcador.Fila_Hecha();
+        fila.Guardar();
+        marcador.Paso();
     }
     marcador.Terminar();
 }
@@ -170,14 +199,14 @@ Datos_Formateados Formatear_Datos(Base& bd, qint64 id, const QString& maquina, i
                                   const QStringList& campos, Avance_Exportar& avance)
 {
     Datos_Formateados datos;
-    datos.filas = Tabla_Vacia(campos.size(), 0);
-    Decodificador decodificador(bd, maquina, ope, campos);
+    datos.filas.resize(std::size_t(campos.size()));
+    const Sesion_A_Formatear sesion{bd, id, maquina, ope, campos, avance};
     if (maquina == u"KRT300" || maquina == u"PX7")
-        Formatear_Corridas(bd, id, decodificador, datos.filas, campos.size(), avance);
+        Formatear_KRT300(sesion, datos.filas);
     else if (maquina == u"KRT800")
-        Formatear_Registros_800(bd, id, decodificador, datos.filas, campos.size(), avance);
+        Formatear_KRT800(sesion, datos.filas);
     else if (maquina == u"NV400")
-        Formatear_Registros_Nivel(bd, id, decodificador, datos, campos.size(), avance);
+        Formatear_Nivel(sesion, datos);
     Ajustar_Filas(datos.filas);
     Igualar_Columnas(datos.filas);
     return datos;
@@ -194,8 +223,12 @@ void Igualar_Columnas(Filas_Exportar& filas)
         qsizetype ancho = 0;
         for (const QString& celda : columna)
             ancho = std::max(ancho, celda.size());
-        for (QString& celda : columna)
-            if (celda.size() < ancho) celda = celda.leftJustified(ancho);
+        for (QString& celda : columna) {
+            const qsizetype largo = celda.size();
+            if (largo == ancho) continue;
+            celda.resize(ancho);
+            std::fill(celda.begin() + largo, celda.end(), QChar(u' '));
+        }
     }
 }
 

@@ -24,6 +24,9 @@ public:
     virtual void Valor(qint64) {}
 };
 
+/// Lines or rows between two looks at the interface.
+inline constexpr qint64 PASOS_POR_REPINTADO = 1024;
+
 /// `Filas_Exportar`, the row table: first index the column, second the row; all cells of a column
 /// of one length.
 using Filas_Exportar = Tabla_Textos;

@@ -2,7 +2,6 @@
 
 #include "core/ModEstTotal.h"
 #include "core/ModLOG.h"
-#include "session/Desplazamiento.h"
 #include "session/Nivel.h"
 
 #include <algorithm>
@@ -96,8 +95,39 @@ QString Sin_Ceros(QStringView entera)
     return negativo ? u'-' + cifras : cifras;
 }
 
+// The offset that a mark adds; null for a mark that is no coordinate's.
+const QString* Desplazamiento_De(const QString& marca)
+{
+    const auto es = [&](QStringView cual) { return marca.compare(cual, Qt::CaseInsensitive) == 0; };
+    return es(u"CX") ? &Desp_X : es(u"CY") ? &Desp_Y : es(u"CZ") ? &Desp_Z : nullptr;
+}
+
+const QString& Formato_Coordenada()
+{
+    static const QString formato = QString::fromUtf16(FORMATO_COORDENADA);
+    return formato;
+}
+
+std::optional<Sumador> Sumador_De(const Fila_Campo& campo)
+{
+    const QString* const desplazamiento = Desplazamiento_De(campo.marcas);
+    if (!desplazamiento) return std::nullopt;
+    return Sumador(*desplazamiento, Formato_Coordenada(), campo.posdigit, Formato_Coordenada());
+}
+
+// A coordinate's first place is its sign's: what isn't "-" there counts as "+".
+QString Sumar_Coordenada(QStringView corte, const std::optional<Sumador>& sumador)
+{
+    const bool con_signo = corte.front() == u'-' || corte.front() == u'+';
+    if (con_signo && sumador) return sumador->Sumar(corte);
+    QString valor = corte.toString();
+    if (!con_signo) valor[0] = u'+';
+    return sumador ? sumador->Sumar(valor) : valor;
+}
+
 // Value of a field in fixed columns. @param linea  without blanks around
-QString Valor_De_Columnas(QStringView linea, int posicion, const Fila_Campo& campo)
+QString Valor_De_Columnas(QStringView linea, int posicion, const Fila_Campo& campo,
+                          const std::optional<Sumador>& sumador)
 {
     QStringView corte;
     if (campo.especial.contains(u"ED") && linea.contains(u'`'))
@@ -106,12 +136,11 @@ QString Valor_De_Columnas(QStringView linea, int posicion, const Fila_Campo& cam
         corte = Sin_Blancos(linea.mid(posicion - 1, std::max(0, campo.digitos)));
     if (corte.isEmpty()) return {};
 
-    QString valor = corte.toString();
+    QString valor;
     if (!campo.marcas.isEmpty()) {
-        // The first place of a coordinate is its sign's.
-        if (valor.front() != u'-') valor[0] = u'+';
-        valor = Aplicar_Marca(QStringLiteral("D"), campo.marcas, valor, campo.posdigit);
+        valor = Sumar_Coordenada(corte, sumador);
     } else {
+        valor = corte.toString();
         if (!Es_Texto(campo)) {
             if (!campo.caracter.isEmpty()) Exigir_Cifras(valor);
             valor = Aplicar_Digitos(campo.posdigit, valor, campo.caracter);
@@ -122,13 +151,12 @@ QString Valor_De_Columnas(QStringView linea, int posicion, const Fila_Campo& cam
 }
 
 // Value of a KRT800 token; nothing when the instrument sent no data.
-std::optional<QString> Valor_De_Token(QStringView token, const Fila_Campo& campo)
+std::optional<QString> Valor_De_Token(QStringView token, const Fila_Campo& campo,
+                                      const std::optional<Sumador>& sumador)
 {
     if (token.startsWith(u'*')) return std::nullopt;
-    QString valor = token.toString();
-    if (valor.isEmpty()) return valor;
-    if (!campo.marcas.isEmpty())
-        valor = Aplicar_Marca(QStringLiteral("D"), campo.marcas, valor, campo.posdigit);
+    if (token.isEmpty()) return QString();
+    const QString valor = sumador ? sumador->Sumar(token) : token.toString();
     return campo.especial.isEmpty() ? valor : Aplicar_Especial(valor, campo.especial);
 }
 
@@ -215,14 +243,10 @@ QString Aplicar_Especial(const QString& valor, const QString& lista)
 QString Aplicar_Marca(const QString& modo, const QString& marca, const QString& valor,
                       const QString& posdigit)
 {
-    static const QString formato = QString::fromUtf16(FORMATO_COORDENADA);
-    const auto es = [&](QStringView cual) { return marca.compare(cual, Qt::CaseInsensitive) == 0; };
-    const QString* const desplazamiento = es(u"CX")   ? &Desp_X
-                                          : es(u"CY") ? &Desp_Y
-                                          : es(u"CZ") ? &Desp_Z
-                                                      : nullptr;
+    const QString* const desplazamiento = Desplazamiento_De(marca);
     if (!desplazamiento) return valor;
-    return Sumar_Desplazamiento(modo, *desplazamiento, formato, valor, posdigit, formato);
+    return Sumar_Desplazamiento(modo, *desplazamiento, Formato_Coordenada(), valor, posdigit,
+                                Formato_Coordenada());
 }
 
 void Cortar_Campo(const QString& linea, int posicion, const Fila_Campo& campo,
@@ -231,8 +255,9 @@ void Cortar_Campo(const QString& linea, int posicion, const Fila_Campo& campo,
     const qsizetype lugar = nombres.indexOf(campo.campo);
     if (lugar < 0) return;
     valores[lugar].clear();
-    En_Silencio("Cortar_Campo",
-                [&] { valores[lugar] = Valor_De_Columnas(linea, posicion, campo); });
+    En_Silencio("Cortar_Campo", [&] {
+        valores[lugar] = Valor_De_Columnas(linea, posicion, campo, Sumador_De(campo));
+    });
 }
 
 void Cortar_Token_800(int ope, const QString& linea, int indice, const Fila_Campo& campo,
@@ -243,8 +268,9 @@ void Cortar_Token_800(int ope, const QString& linea, int indice, const Fila_Camp
     if (!resto || lugar < 0 || campo.marcas == u"NL") return;
     const QStringView token = Vista_Trozo(indice, *resto, Separador_800(ope));
     QString valor;
-    En_Silencio("Cortar_Token_800",
-                [&] { valor = Valor_De_Token(token, campo).value_or(valores[lugar]); });
+    En_Silencio("Cortar_Token_800", [&] {
+        valor = Valor_De_Token(token, campo, Sumador_De(campo)).value_or(valores[lugar]);
+    });
     valores[lugar] = valor;
 }
 
@@ -288,9 +314,13 @@ void Decodificar_General(Base& bd, const QString& datosg, const QString& maquina
                 [&] { Decodificador(bd, maquina, ope, nombres).General(datosg, valores); });
 }
 
-Decodificador::Decodificador(Base& base, const QString& familia, int operacion,
+Decodificador::Decodificador(Base& base, const QString& maquina_, int operacion,
                              const QStringList& pedidos)
-    : bd(base), maquina(familia), ope(operacion), nombres(pedidos),
+    : bd(base), maquina(maquina_), ope(operacion), nombres(pedidos),
+      familia(maquina == u"KRT300" || maquina == u"PX7" ? Familia::Columnas
+              : maquina == u"KRT800"                    ? Familia::KRT800
+              : maquina == u"NV400"                     ? Familia::NV400
+                                                        : Familia::Otra),
       nivel(Clave_Estacion == u"NV400")
 {
     for (qsizetype i = 0; i < nombres.size(); ++i)
@@ -299,20 +329,29 @@ Decodificador::Decodificador(Base& base, const QString& familia, int operacion,
 
 const Decodificador::Registro& Decodificador::Preparar(QStringView id)
 {
-    const auto hallado = registros.find(id);
-    if (hallado != registros.end()) return hallado->second;
+    // Most identifiers are one letter.
+    const std::size_t letra = id.size() == 1 ? id.front().unicode() : por_letra.size();
+    if (letra < por_letra.size() && por_letra[letra]) return *por_letra[letra];
+    auto hallado = registros.find(id);
+    if (hallado == registros.end())
+        hallado = registros.emplace(id.toString(), Leer_Registro(id.toString())).first;
+    if (letra < por_letra.size()) por_letra[letra] = &hallado->second;
+    return hallado->second;
+}
 
+Decodificador::Registro Decodificador::Leer_Registro(const QString& id) const
+{
     Registro registro;
-    registro.filas = Campos_De(bd, maquina, id.toString());
-    const bool columnas = maquina != u"KRT800";
-    int posicion = columnas ? 2 : 1;
+    registro.filas = Campos_De(bd, maquina, id);
+    const bool por_trozos = familia == Familia::KRT800;
+    int posicion = por_trozos ? 1 : 2;
     for (const Fila_Campo& campo : *registro.filas) {
         const qsizetype lugar = nombres.indexOf(campo.campo);
-        if (lugar >= 0 && (columnas || campo.marcas != u"NL"))
-            registro.pasos.push_back({lugar, posicion, &campo});
-        posicion += columnas ? campo.digitos : 1;
+        if (lugar >= 0 && !(por_trozos && campo.marcas == u"NL"))
+            registro.pasos.push_back({lugar, posicion, &campo, Sumador_De(campo)});
+        posicion += por_trozos ? 1 : campo.digitos;
     }
-    return registros.emplace(id.toString(), std::move(registro)).first->second;
+    return registro;
 }
 
 // A field that fails is emptied; the run log tells of the first one and spares the rest.
@@ -333,21 +372,22 @@ void Decodificador::Guardar(QString& valor, QStringView linea, Valor&& sacar)
 void Decodificador::Linea(QStringView linea, QStringList& valores)
 {
     const Registro& registro = Preparar(nivel ? QStringView(u"1") : Vista_Id(linea, maquina, ope));
-    if (maquina == u"KRT300" || maquina == u"PX7") {
+    if (familia == Familia::Columnas) {
         const QStringView recortada = Sin_Blancos(linea);
         for (const Paso& paso : registro.pasos)
-            Guardar(valores[paso.lugar], linea,
-                    [&] { return Valor_De_Columnas(recortada, paso.posicion, *paso.campo); });
-    } else if (maquina == u"KRT800") {
+            Guardar(valores[paso.lugar], linea, [&] {
+                return Valor_De_Columnas(recortada, paso.posicion, *paso.campo, paso.sumador);
+            });
+    } else if (familia == Familia::KRT800) {
         const auto resto = Sin_Palabra(linea, ope);
         if (!resto) return;
         for (const Paso& paso : registro.pasos) {
             QString& valor = valores[paso.lugar];
             const QStringView token = Vista_Trozo(paso.posicion, *resto, Separador_800(ope));
             Guardar(valor, linea,
-                    [&] { return Valor_De_Token(token, *paso.campo).value_or(valor); });
+                    [&] { return Valor_De_Token(token, *paso.campo, paso.sumador).value_or(valor); });
         }
-    } else if (maquina == u"NV400" && !registro.filas->empty()) {
+    } else if (familia == Familia::NV400 && !registro.filas->empty()) {
         Cortar_NV400(linea.toString(), nombres, valores);
     }
 }
@@ -358,7 +398,7 @@ void Decodificador::Preparar_Generales()
     for (qsizetype i = 0; i < nombres.size(); ++i) {
         auto campo = Buscar_Campo_G(bd, nombres[i], maquina, ope);
         // Only the fields marked so travel in the general data of a KRT800.
-        if (!campo || (maquina == u"KRT800" && campo->marcas != u"GE")) continue;
+        if (!campo || (familia == Familia::KRT800 && campo->marcas != u"GE")) continue;
         // A general value never gets an offset.
         campo->marcas.clear();
         generales->push_back({i, Posicion_Campo(bd, campo->id, campo->orden), std::move(*campo)});
@@ -376,16 +416,18 @@ void Decodificador::General(const QString& datosg, QStringList& valores)
     if (datosg.isEmpty() || !Hay_Generales()) return;
     for (const General_Pedido& pedido : *generales) {
         QString& valor = valores[pedido.lugar];
-        if (maquina == u"KRT800") {
+        if (familia == Familia::KRT800) {
             if (const auto token = Valor_General_800(datosg, pedido.campo))
-                Guardar(valor, datosg,
-                        [&] { return Valor_De_Token(*token, pedido.campo).value_or(valor); });
+                Guardar(valor, datosg, [&] {
+                    return Valor_De_Token(*token, pedido.campo, std::nullopt).value_or(valor);
+                });
             continue;
         }
         for (const QStringView pieza : QStringView(datosg).tokenize(QChar(SEP_LISTA))) {
             if (pieza.left(1) != pedido.campo.id) continue;
-            Guardar(valor, datosg,
-                    [&] { return Valor_De_Columnas(pieza.mid(1), pedido.posicion, pedido.campo); });
+            Guardar(valor, datosg, [&] {
+                return Valor_De_Columnas(pieza.mid(1), pedido.posicion, pedido.campo, std::nullopt);
+            });
             break;
         }
     }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "core/jet/Base.h"
+#include "session/Desplazamiento.h"
 
+#include <array>
 #include <map>
 #include <memory>
 #include <optional>
@@ -99,7 +101,10 @@ void Decodificar_General(Base& bd, const QString& datosg, const QString& maquina
 /// `Campos` say is worked out once a record kind. The routines above are this object used once.
 class Decodificador {
 public:
+    /// The family and the offsets in force are those of this moment.
     Decodificador(Base& bd, const QString& maquina, int ope, const QStringList& nombres);
+    Decodificador(const Decodificador&) = delete;
+    Decodificador& operator=(const Decodificador&) = delete;
 
     void Linea(QStringView linea, QStringList& valores);
     void General(const QString& datosg, QStringList& valores);
@@ -113,6 +118,7 @@ private:
         qsizetype lugar; // place in the values, from 0
         int posicion;    // column, or token number, from 1
         const Fila_Campo* campo;
+        std::optional<Sumador> sumador; // of a coordinate
     };
     struct Registro {
         Filas_Campo filas;
@@ -125,6 +131,7 @@ private:
     };
 
     const Registro& Preparar(QStringView id);
+    Registro Leer_Registro(const QString& id) const;
     void Preparar_Generales();
     template <typename Valor> void Guardar(QString& valor, QStringView linea, Valor&& sacar);
 
@@ -132,8 +139,10 @@ private:
     QString maquina;
     int ope;
     QStringList nombres;
+    enum class Familia { Columnas, KRT800, NV400, Otra } familia;
     bool nivel; // the model in force is the level: every line is of kind "1"
     std::map<QString, Registro, std::less<>> registros;
+    std::array<const Registro*, 256> por_letra{};
     std::optional<std::vector<General_Pedido>> generales;
     std::vector<qsizetype> puntos;
     bool anotado = false;

@@ -15,33 +15,6 @@ bool Separar_Signo(QStringView& t)
     return negativo;
 }
 
-// Coordinate of a KRT300 or PX7: a sign and digits that hold no point of their own.
-Decimal Valor_KRT300(const QString& valor, const QString& posdigit, const Anchos_Numero& anchos)
-{
-    QStringView t = QStringView(valor).trimmed();
-    const bool negativo = Separar_Signo(t);
-    t = t.right(anchos.enteros + anchos.decimales).trimmed();
-    const auto numero = t.contains(u'.')
-                            ? Decimal::Leer(t)
-                            : Decimal::De_Cifras(t, Anchos_Numero::Leer(posdigit).decimales);
-    if (!numero) throw Error_Ejecucion(13);
-    return negativo ? -*numero : *numero;
-}
-
-QString Texto_Suma(const Decimal& suma, int decimales)
-{
-    QString texto = suma.Negativo() ? QStringLiteral("-") : QString();
-    texto += QString::number(suma.Entera());
-    texto += u'.';
-    return texto += suma.Decimales(decimales);
-}
-
-QString Forma_De_Cable(const Decimal& suma, int decimales)
-{
-    return (suma.Negativo() ? u'-' : u'+') +
-           QString::number(suma.Entera()).rightJustified(6, u'0') + suma.Decimales(decimales);
-}
-
 QString Desplazamiento_Aceptado(const QString& texto, const QString& formato)
 {
     if (Clave_Estacion == u"KRT300") return Forma_Fija(texto, formato);
@@ -78,20 +51,46 @@ Decimal Valor_Desplazamiento(const QString& texto, const QString& formato)
     return negativo ? -numero : numero;
 }
 
+Sumador::Sumador(const QString& desp, const QString& formato_desp, const QString& posdigit,
+                 const QString& formato_suma)
+    : forma(Clave_Estacion == u"KRT300" || Clave_Estacion == u"PX7" ? Forma::KRT300
+            : Clave_Estacion == u"KRT800"                           ? Forma::KRT800
+                                                                    : Forma::Ninguna),
+      desplazamiento(Valor_Desplazamiento(desp, formato_desp)),
+      anchos(Anchos_Numero::Leer(formato_desp)),
+      decimales_campo(Anchos_Numero::Leer(posdigit).decimales),
+      decimales_suma(Anchos_Numero::Leer(formato_suma).decimales)
+{
+}
+
+// A sign and digits that hold no point of their own.
+Decimal Sumador::Valor_KRT300(QStringView valor) const
+{
+    QStringView t = valor.trimmed();
+    const bool negativo = Separar_Signo(t);
+    t = t.right(anchos.enteros + anchos.decimales).trimmed();
+    auto numero = Decimal::De_Cifras(t, decimales_campo);
+    if (!numero && t.contains(u'.')) numero = Decimal::Leer(t);
+    if (!numero) throw Error_Ejecucion(13);
+    return negativo ? -*numero : *numero;
+}
+
+QString Sumador::Sumar(QStringView valor, bool de_cable) const
+{
+    if (valor.isEmpty() || forma == Forma::Ninguna) return {};
+    const Decimal coordenada =
+        forma == Forma::KRT300 ? Valor_KRT300(valor) : Decimal::Prefijo(valor);
+    const Decimal suma = coordenada + desplazamiento;
+    if (!de_cable || forma != Forma::KRT300) return suma.Texto_Fijo(decimales_suma);
+    return (suma.Negativo() ? u'-' : u'+') +
+           QString::number(suma.Entera()).rightJustified(6, u'0') + suma.Decimales(decimales_suma);
+}
+
 QString Sumar_Desplazamiento(const QString& modo, const QString& desplazamiento,
                              const QString& formato_desp, const QString& valor,
                              const QString& posdigit, const QString& formato_suma)
 {
-    if (valor.isEmpty()) return {};
-    const bool krt300 = Clave_Estacion == u"KRT300" || Clave_Estacion == u"PX7";
-    if (!krt300 && Clave_Estacion != u"KRT800") return {};
-
-    const Decimal coordenada =
-        krt300 ? Valor_KRT300(valor, posdigit, Anchos_Numero::Leer(formato_desp))
-               : Decimal::Prefijo(valor);
-    const Decimal suma = coordenada + Valor_Desplazamiento(desplazamiento, formato_desp);
-    const int decimales = Anchos_Numero::Leer(formato_suma).decimales;
-    return krt300 && modo == u"C" ? Forma_De_Cable(suma, decimales) : Texto_Suma(suma, decimales);
+    return Sumador(desplazamiento, formato_desp, posdigit, formato_suma).Sumar(valor, modo == u"C");
 }
 
 QString Forma_Fija(const QString& texto, const QString& formato)

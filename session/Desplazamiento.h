@@ -25,18 +25,37 @@ struct Anchos_Numero {
 /// @throws Error_Ejecucion 6 when it is beyond 18 integer digits
 Decimal Valor_Desplazamiento(const QString& texto, const QString& formato);
 
-/// Adds an offset to a coordinate as the family in force (`Clave_Estacion`) writes coordinates.
-/// KRT800: `valor` is decimal text. KRT300 and PX7: `valor` is a sign and a run of digits whose
-/// last ten count, with the decimals of `posdigit`, or, with a point in it, decimal text. The sum
-/// is exact; its decimals are rounded half to even and a carry out of them is lost.
-/// @param modo  "D": signed decimal text; "C" (KRT300 and PX7): the wire form, a sign and nine
-/// digits,
-///              ten from 1,000,000 up
-/// @param formato_desp  "e,d" of the offset's text
-/// @param posdigit  `Campos.PosDigit` of the coordinate's field
-/// @param formato_suma  "e,d" of the sum: its decimals are written
-/// @return an empty text for an empty value and for a family without coordinates
-/// @throws Error_Ejecucion 13 when the value of a KRT300 or PX7 is no number, 6 when it is too long
+/// The addition of one offset to many coordinates, as the family in force (`Clave_Estacion`) writes
+/// them. KRT800: the value is decimal text. KRT300 and PX7: a sign and a run of digits whose last
+/// ten count, with the decimals of `posdigit`, or, with a point in it, decimal text. The sum is
+/// exact; its decimals are rounded half to even and a carry out of them is lost.
+class Sumador {
+public:
+    /// @param formato_desp  "e,d" of the offset's text
+    /// @param posdigit  `Campos.PosDigit` of the coordinate's field
+    /// @param formato_suma  "e,d" of the sum: its decimals are written
+    Sumador(const QString& desplazamiento, const QString& formato_desp, const QString& posdigit,
+            const QString& formato_suma);
+
+    /// @param de_cable  KRT300 and PX7 only: the wire form, a sign and nine digits, ten from
+    /// 1,000,000
+    ///                  up, instead of signed decimal text
+    /// @return an empty text for an empty value and for a family without coordinates
+    /// @throws Error_Ejecucion 13 when the value of a KRT300 or PX7 is no number, 6 when it is too
+    /// long
+    QString Sumar(QStringView valor, bool de_cable = false) const;
+
+private:
+    Decimal Valor_KRT300(QStringView valor) const;
+
+    enum class Forma { KRT300, KRT800, Ninguna } forma;
+    Decimal desplazamiento;
+    Anchos_Numero anchos;
+    int decimales_campo, decimales_suma;
+};
+
+/// One such addition. @param modo  "D": signed decimal text; "C": the wire form
+/// The other parameters, result and errors as in `Sumador`.
 QString Sumar_Desplazamiento(const QString& modo, const QString& desplazamiento,
                              const QString& formato_desp, const QString& valor,
                              const QString& posdigit, const QString& formato_suma);

@@ -185,6 +185,20 @@ QString Recorrido::Texto(int columna) const
     return d->sentencia.Texto(columna);
 }
 
+void Recorrido::Texto(int columna, QString& en) const
+{
+    const QByteArrayView bytes = d->sentencia.Bytes(columna);
+    en.resize(bytes.size());
+    QChar* letra = en.data();
+    unsigned char altos = 0;
+    for (const char c : bytes) {
+        altos |= static_cast<unsigned char>(c);
+        *letra++ = QChar(char16_t(static_cast<unsigned char>(c)));
+    }
+    // Lines are plain letters nearly always; the rest is decoded the long way.
+    if (altos >= 0x80) en = QString::fromUtf8(bytes);
+}
+
 qint64 Recorrido::Entero(int columna) const
 {
     return d->sentencia.Entero(columna);

@@ -95,6 +95,8 @@ public:
     bool Siguiente();
     /// Values of the row by column number from 0: null is empty text, 0.
     QString Texto(int columna) const;
+    /// The same into a text that is used again and again, without claiming memory for each row.
+    void Texto(int columna, QString& en) const;
     qint64 Entero(int columna) const;
     bool Es_Nulo(int columna) const;
     /// The column's bytes (UTF-8) without a copy, valid until the next step.
