@@ -37,6 +37,17 @@ void Instalacion::Elegir_Maquina(const QString& clave) const
     Clave_Estacion = clave;
 }
 
+Sesion_Elegida Instalacion::Elegir_Sesion(qint64 id) const
+{
+    const auto sesion = Buscar_Sesion(*Base_Datos, id);
+    if (!sesion) {
+        contexto.Mensaje(QStringLiteral("No existe la sesión %1 (véase miraldos-cli sesiones)").arg(id));
+        throw Orden_Rechazada{};
+    }
+    Clave_Estacion = sesion->maquina;
+    return *sesion;
+}
+
 void Instalacion::Comprobar_Operacion(int ope, const QString& tipo_ope) const
 {
     Conjunto_Registros operaciones = Base_Datos->OpenRecordset("KRT2");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/cli/Interfaz_Consola.h"
+#include "session/Consultas_Sesion.h"
 
 /// The program brought up for one order: console interface in use, settings read, database open.
 /// Everything is put back when it goes out of scope.
@@ -16,6 +17,9 @@ public:
     void Elegir_Modelo(const QString& nombre) const;
     /// Makes `clave` the family in force. @throws Orden_Rechazada when it is none of the four
     void Elegir_Maquina(const QString& clave) const;
+    /// The session `id`, its family being in force from here on.
+    /// @throws Orden_Rechazada when there is no such session
+    Sesion_Elegida Elegir_Sesion(qint64 id) const;
     /// @throws Orden_Rechazada when the family in force doesn't offer the operation
     void Comprobar_Operacion(int ope, const QString& tipo_ope) const;
 

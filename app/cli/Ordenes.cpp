@@ -2,6 +2,7 @@
 
 #include "app/cli/Ordenes_Conversion.h"
 #include "app/cli/Ordenes_Export.h"
+#include "app/cli/Ordenes_Sesion.h"
 #include "app/cli/Ordenes_Transfer.h"
 #include "core/Error_Ejecucion.h"
 
@@ -20,6 +21,21 @@ const QList<Orden>& Ordenes()
 {
     static const QList<Orden> lista = {
         {"ayuda", "ayuda", Orden_Ayuda},
+        {"modelos", "modelos", Orden_Modelos},
+        {"operaciones", "operaciones --modelo NOMBRE", Orden_Operaciones},
+        {"sesiones", "sesiones [--maquina CLAVE]", Orden_Sesiones},
+        {"formatos", "formatos [--maquina CLAVE]", Orden_Formatos},
+        {"ver", "ver ID [--campos]", Orden_Ver},
+        {"formato-nuevo",
+         "formato-nuevo --maquina CLAVE --ope N --nombre NOMBRE --campos \"A,B,C\" [--titulos]",
+         Orden_Formato_Nuevo},
+        {"formato-borrar", "formato-borrar --maquina CLAVE --nombre NOMBRE", Orden_Formato_Borrar},
+        {"exportar",
+         "exportar ID --formato NOMBRE --tipo txf|txt --salida FICHERO "
+         "[--separador espacio|coma|tabulacion] [--titulos] [--desplazamiento X,Y,Z]",
+         Orden_Exportar},
+        {"borrar", "borrar ID", Orden_Borrar},
+        {"compactar", "compactar", Orden_Compactar},
         {"convertidor", "convertidor FUNCION ARGUMENTO...", Orden_Convertidor},
         {"convertir",
          "convertir ENTRADA SALIDA [--eje N] [--perfil NOMBRE] [--seccion A:B] "
