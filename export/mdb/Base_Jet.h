@@ -10,7 +10,7 @@
 
 /// A text column of a table to be made.
 struct Columna_Texto {
-    QString nombre;
+    QString nombre{};
     int tamano = 80;          ///< characters at most, 1 to 255
     bool admite_vacio = true; ///< `AllowZeroLength`: the empty text is a value
     bool comprimida = true;   ///< texts of Latin letters take one byte a character
@@ -24,7 +24,7 @@ struct Ajustes_Jet {
     /// Only the General order (LANGID=0x0409) of Windows-1252 is written.
     QString localizacion = QStringLiteral(";LANGID=0x0409;CP=1252;COUNTRY=0");
     /// Creation date: days since 30-12-1899, local time. Without one, the clock's.
-    std::optional<double> fecha;
+    std::optional<double> fecha{};
     /// What to do with a file that stands there already. It is touched at `Cerrar` only.
     enum { RECHAZAR, REEMPLAZAR } si_existe = RECHAZAR;
 };

@@ -19,8 +19,8 @@ public:
     Catalogo(Paginas& paginas, double fecha);
 
     /// @throws Error_Ejecucion 3010 when there is a table of that name, 3014 when the catalogue
-    ///         has no place left for a further one (its indexes have one page each: over a
-    ///         hundred tables of usual names)
+    ///         has no place left for a further one (its indexes have one page each, enough
+    ///         for some hundred tables with names of usual length)
     void Comprobar_Sitio(const QString& tabla) const;
     /// Enters a table. @param id  page of its definition; @param propiedades  blob, may be empty
     /// @throws Error_Ejecucion as `Paginas`

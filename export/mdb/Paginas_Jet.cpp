@@ -8,12 +8,12 @@ namespace {
 
 constexpr qsizetype LOTE = qsizetype(64) * TAMANO_PAGINA;
 
-// A file knows why it failed; any other device that takes fewer bytes than it was given is full.
+// A device that takes fewer bytes than it was given is full. Otherwise a file knows why it failed.
 Error_Ejecucion Fallo(const QIODevice& salida, bool lleno)
 {
+    if (lleno) return Error_Ejecucion(3026);
     if (const auto* fichero = qobject_cast<const QFileDevice*>(&salida)) return Fallo_De(*fichero);
-    return lleno ? Error_Ejecucion(3026)
-                 : Error_Ejecucion(57, Descripcion_Error(57) + ": " + salida.errorString());
+    return Error_Ejecucion(57, Descripcion_Error(57) + ": " + salida.errorString());
 }
 
 } // namespace
