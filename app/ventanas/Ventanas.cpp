@@ -1,5 +1,6 @@
 #include "app/ventanas/Ventanas.h"
 
+#include "conversions/ui/Dialogos_Conversion.h"
 #include "core/ModEstTotal.h"
 #include "core/ui/Dialogos.h"
 #include "core/ui/FrmKRT.h"
@@ -75,6 +76,7 @@ void Conectar_Dialogos(Interfaz_Qt& interfaz)
     Conectar_Dialogos_Sesion();
     Conectar_Dialogos_Formatos();
     Conectar_Dialogos_Exportar();
+    Conectar_Dialogos_Conversion();
     Conectar_Dialogos_Transfer();
     Conectar_Descargas();
 }
@@ -87,6 +89,8 @@ void Conectar_Entradas(FrmMain& principal)
     principal.Al_Elegir("Toolbar1(3)", Mostrar<frmDescargas>("Descargas"));
     principal.Al_Elegir("Formatos", Mostrar<Frmformatos>("Formatos Disponibles"));
     principal.Al_Elegir("Toolbar1(4)", Formatos_De_Toolbar);
+    principal.Al_Elegir("Mnu_ConvEst", [] { Mostrar_frmConvEst(0); });
+    principal.Al_Elegir("Mnu_ConvLandxml", [] { Mostrar_frmConvEst(1); });
 }
 
 Arranque_Qt::Arranque_Qt() = default;

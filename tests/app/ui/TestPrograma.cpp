@@ -2,6 +2,7 @@
 #include "app/ventanas/Programa.h"
 #include "app/ventanas/Ventanas.h"
 #include "app/ventanas/Visor_Ayuda.h"
+#include "conversions/ui/frmConvEst.h"
 #include "core/Configuracion.h"
 #include "core/Reloj.h"
 #include "core/ui/Dialogos.h"
@@ -255,7 +256,13 @@ void TestPrograma::las_entradas_abren_sus_dialogos()
     QCOMPARE(Dialogos::Cargado<Frmformatos>()->windowTitle(), QString("Mantenimiento de Formatos"));
     Hijo<QAction>(principal, "Formatos").trigger();
     QCOMPARE(Dialogos::Cargado<Frmformatos>()->windowTitle(), QString("Formatos Disponibles"));
-    QCOMPARE(Ventana::Area()->subWindowList().size(), 3);
+    Hijo<QAction>(principal, "Mnu_ConvEst").trigger();
+    QCOMPARE(Dialogos::Cargado<frmConvEst>()->windowTitle(),
+             QString("Conversión a formato Estandar Survey"));
+    Hijo<QAction>(principal, "Mnu_ConvLandxml").trigger();
+    QCOMPARE(Dialogos::Cargado<frmConvEst>()->windowTitle(),
+             QString("Conversión a formato LandXML"));
+    QCOMPARE(Ventana::Area()->subWindowList().size(), 4);
     QCOMPARE(interfaz.Textos(), QStringList());
     Limpiar_Ventanas();
 }
