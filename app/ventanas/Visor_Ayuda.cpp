@@ -25,6 +25,7 @@ Visor_Ayuda::Visor_Ayuda() : navegador(new QTextBrowser)
     setCentralWidget(navegador);
     auto* const barra = new QToolBar;
     barra->setMovable(false);
+    barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     barra->setContextMenuPolicy(Qt::PreventContextMenu);
     addToolBar(barra);
     const auto boton = [&](const char* nombre, QStyle::StandardPixmap dibujo, const QString& texto,
@@ -38,7 +39,7 @@ Visor_Ayuda::Visor_Ayuda() : navegador(new QTextBrowser)
     QAction* const adelante =
         boton("Adelante", QStyle::SP_ArrowForward, "Adelante", QKeySequence::Forward);
     QAction* const indice =
-        boton("Indice", QStyle::SP_DirHomeIcon, "Índice", Qt::ALT | Qt::Key_Home);
+        boton("Indice", QStyle::SP_FileDialogContentsView, "Índice", Qt::ALT | Qt::Key_Home);
     atras->setEnabled(false);
     adelante->setEnabled(false);
     connect(atras, &QAction::triggered, navegador, &QTextBrowser::backward);

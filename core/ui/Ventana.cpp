@@ -101,11 +101,15 @@ void Ventana::Mostrar()
         show();
     } else if (!subventana) {
         setWindowModality(Qt::NonModal);
+        // The frame would fall back on the smallest size that its contents ask for.
+        const bool con_tamano = testAttribute(Qt::WA_Resized);
+        const QSize deseado = size();
         // A QDialog centres itself in its parent when it is shown: inside a frame it must not.
         setAttribute(Qt::WA_Moved);
         subventana = Area()->addSubWindow(this);
         subventana->setAttribute(Qt::WA_DeleteOnClose, false);
         subventana->show();
+        if (con_tamano) subventana->resize(deseado + subventana->size() - size());
     } else {
         show();
         subventana->isMinimized() ? subventana->showNormal() : subventana->show();

@@ -21,7 +21,7 @@ void Anadir(QTreeWidgetItem* padre, const Nodo_Coordenada& nodo)
 {
     auto* const item = new QTreeWidgetItem(padre, {nodo.texto});
     item->setData(0, PAPEL_IMAGEN, nodo.imagen);
-    item->setIcon(0, QIcon(En_Instalacion(QStringLiteral("bmp/img1_%1.png").arg(nodo.imagen))));
+    item->setIcon(0, QIcon(En_Instalacion(IMG1[nodo.imagen - 1])));
     for (const Nodo_Coordenada& hijo : nodo.hijos)
         Anadir(item, hijo);
 }

@@ -55,6 +55,13 @@ FrmIni::FrmIni() : Ventana(QStringLiteral("FrmIni"))
     titulo_modelo = Piezas::Imagen("Picture1", 60, 60);
     titulo_modelo->setParent(this);
     titulo_modelo->setGeometry(MARGEN, 3, 60, 60);
+    nombre_modelo = Piezas::Rotulo({}, "LblModelo");
+    nombre_modelo->setParent(this);
+    nombre_modelo->setGeometry(MARGEN + 70, 3, ANCHO_MINIMO - MARGEN - 90, 60);
+    QFont letra = nombre_modelo->font();
+    letra.setPointSizeF(letra.pointSizeF() * 1.4);
+    letra.setBold(true);
+    nombre_modelo->setFont(letra);
     Hacer_Frame();
     btnAyuda = Piezas::Boton("btnAyuda", "&Ayuda");
     Command1 = Piezas::Boton("Command1", "&Cerrar");
@@ -102,6 +109,8 @@ void FrmIni::Hacer_Frame()
     caja->addWidget(Image2, 2, 1);
     caja->setColumnStretch(0, 1);
     caja->setColumnStretch(2, 1);
+    caja->setRowStretch(1, 1);
+    caja->setRowStretch(2, 1);
 }
 
 void FrmIni::resizeEvent(QResizeEvent* evento)
@@ -117,6 +126,7 @@ void FrmIni::resizeEvent(QResizeEvent* evento)
 void FrmIni::Al_Activarse()
 {
     Mostrar_Foto(Nombre_Estacion);
+    nombre_modelo->setText(Nombre_Estacion);
     Llenar(*LVI, "D");
     Llenar(*LVD, "C");
 }

@@ -28,7 +28,7 @@ private:
     bool Soltado(QLabel& imagen, const QString& texto);
     void Empezar(const QListWidget& lista);
 
-    QLabel *titulo_modelo, *Image1, *Image2;
+    QLabel *titulo_modelo, *nombre_modelo, *Image1, *Image2;
     QGroupBox* Frame1;
     QListWidget *LVI, *LVD;
     QPushButton *Command1, *btnAyuda;

@@ -54,14 +54,14 @@ FrmSplash::FrmSplash()
 QWidget* FrmSplash::Hacer_Dibujo()
 {
     auto* const dibujo = new QWidget;
-    dibujo->setFixedSize(340, 150);
+    dibujo->setFixedSize(320, 150);
     QLabel* const aparato = Piezas::Imagen("Image1", 80, 110);
     aparato->setParent(dibujo);
     aparato->move(10, 24);
     Piezas::Poner_Imagen(*aparato, En_Instalacion("bmp/aparato.png"));
     QLabel* const ordenador = Piezas::Imagen("Image2", 110, 110);
     ordenador->setParent(dibujo);
-    ordenador->move(210, 24);
+    ordenador->move(188, 24);
     Piezas::Poner_Imagen(*ordenador, En_Instalacion("bmp/pc.png"));
     Rayo = Piezas::Imagen("Rayo", 32, 32);
     Rayo->setParent(dibujo);

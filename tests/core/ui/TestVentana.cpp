@@ -54,6 +54,7 @@ private Q_SLOTS:
     void cerrar_el_marco_descarga();
     void descargar_oculta_tambien_descarga();
     void vive_en_el_area();
+    void se_abre_con_su_tamano();
     void mostrar_otra_vez_la_trae();
     void modal_espera_hasta_que_se_oculta();
     void modal_acaba_al_descargarse();
@@ -161,6 +162,14 @@ void TestVentana::vive_en_el_area()
     QCOMPARE(area->subWindowList().constFirst()->windowTitle(), QString("Título"));
     QCOMPARE(frm.Marco(), area->subWindowList().constFirst());
     QVERIFY(frm.activaciones > 0);
+}
+
+void TestVentana::se_abre_con_su_tamano()
+{
+    auto& frm = Dialogos::Unico<frmPrueba>();
+    frm.resize(432, 321);
+    frm.Mostrar();
+    QCOMPARE(frm.size(), QSize(432, 321));
 }
 
 void TestVentana::mostrar_otra_vez_la_trae()

@@ -116,6 +116,17 @@ static QString Rama(const QTreeWidgetItem& nodo)
 void TestDialogos_Pequenos_Ui::el_arbol_tiene_sus_imagenes()
 {
     Conectar_Dialogos_Sesion();
+    for (const auto& [nombre, color] : {std::pair("raiz", Qt::red),
+                                        {"punto", Qt::green},
+                                        {"coordenada", Qt::blue},
+                                        {"desborda", Qt::yellow}}) {
+        QImage dibujo(16, 16, QImage::Format_RGB32);
+        dibujo.fill(color);
+        QVERIFY(dibujo.save(sala->Ruta(QStringLiteral("bmp/arbol_%1.png").arg(nombre))));
+    }
+    const auto color = [](const QTreeWidgetItem& nodo) {
+        return nodo.icon(0).pixmap(16, 16).toImage().pixelColor(8, 8);
+    };
     Al_Abrirse abierta([&](QWidget& w) {
         QCOMPARE(w.windowTitle(), QString("Error en la carga de Coordenadas"));
         auto& arbol = Hijo<QTreeWidget>(w, "TV1");
@@ -123,6 +134,11 @@ void TestDialogos_Pequenos_Ui::el_arbol_tiene_sus_imagenes()
                  QString("Puntos/Coordenadas#1(P1#2(X: 10000000#4 Y: 9999999.999#3 Z: -10000000#4) "
                          "P2#2(X: 1#3 Y: 2#3 Z: #3))"));
         QCOMPARE(arbol.topLevelItemCount(), 1);
+        const QTreeWidgetItem& punto = *arbol.topLevelItem(0)->child(0);
+        QCOMPARE(color(*arbol.topLevelItem(0)), QColor(Qt::red));
+        QCOMPARE(color(punto), QColor(Qt::green));
+        QCOMPARE(color(*punto.child(1)), QColor(Qt::blue));
+        QCOMPARE(color(*punto.child(0)), QColor(Qt::yellow));
         QCOMPARE(Hijo<QPushButton>(w, "BtnCer").text(), QString("&Aceptar"));
         QTest::mouseClick(&Hijo<QPushButton>(w, "BtnCer"), Qt::LeftButton);
     });
