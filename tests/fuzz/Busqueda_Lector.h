@@ -1,0 +1,65 @@
+#pragma once
+
+#include "conversions/Escritor_Instrumento.h"
+#include "conversions/Escritor_LandXML.h"
+#include "conversions/Lectores_Eje.h"
+#include "conversions/Lectores_Rasante.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <QBuffer>
+
+/// What the harnesses of the converter's readers share: any bytes are a model that can be written,
+/// or a refusal with its reason; nothing else may come out.
+namespace Busqueda_Lector {
+
+/// Opens the bytes for reading and runs `leer`; a refusal must tell why.
+template <class Leer> int Probar(const uint8_t* datos, std::size_t largo, Leer leer)
+{
+    QByteArray bytes(reinterpret_cast<const char*>(datos), qsizetype(largo));
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    Informe_Lectura informe;
+    try {
+        leer(buffer, informe);
+    } catch (const Fallo_Conversion& f) {
+        if (f.motivo.isEmpty()) std::abort();
+    }
+    return 0;
+}
+
+/// Every number that is written must be one.
+inline void Comprobar(const QByteArray& salida)
+{
+    if (salida.contains("nan") || salida.contains("inf")) std::abort();
+}
+
+inline void Escribir(const Eje& eje)
+{
+    if (eje.elementos.empty()) std::abort();
+    Comprobar(Escribir_Ssh(eje));
+    Comprobar(Escribir_Hal(eje));
+    Eje sin_nombre = eje;  // a name may say anything
+    sin_nombre.nombre.clear();
+    Comprobar(Escribir_LandXML(sin_nombre, QDateTime()));
+}
+
+inline void Escribir(const Rasante& rasante)
+{
+    if (rasante.vertices.size() < 2) std::abort();
+    Comprobar(Escribir_Rasante_Instrumento(rasante, {}));
+    for (size_t i = 1; i < rasante.vertices.size(); ++i)
+        if (!(rasante.vertices[i].pk > rasante.vertices[i - 1].pk) ||
+            !(rasante.vertices[i].longitud >= 0))
+            std::abort();
+}
+
+template <auto LEER> int Texto(const uint8_t* datos, std::size_t largo)
+{
+    return Probar(datos, largo, [](QIODevice& dispositivo, Informe_Lectura& informe) {
+        Texto_Fuente fuente(dispositivo);
+        Escribir(LEER(fuente, informe));
+    });
+}
+
+} // namespace Busqueda_Lector

@@ -1,0 +1,6 @@
+#include "tests/fuzz/Busqueda_Lector.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)
+{
+    return Busqueda_Lector::Texto<Leer_Eje<Leer_Eje_Qsv>>(datos, largo);
+}
