@@ -4,29 +4,14 @@
 #include "conversions/Escritor_LandXML.h"
 #include "conversions/Lectores_Eje.h"
 #include "conversions/Lectores_Rasante.h"
+#include "tests/fuzz/Busqueda.h"
 
 #include <cstdint>
 #include <cstdlib>
 #include <QBuffer>
 
-/// What the harnesses of the converter's readers share: any bytes are a model that can be written,
-/// or a refusal with its reason; nothing else may come out.
+/// What the harnesses of axes and gradients share: whatever is read can be written in every form.
 namespace Busqueda_Lector {
-
-/// Opens the bytes for reading and runs `leer`; a refusal must tell why.
-template <class Leer> int Probar(const uint8_t* datos, std::size_t largo, Leer leer)
-{
-    QByteArray bytes(reinterpret_cast<const char*>(datos), qsizetype(largo));
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    Informe_Lectura informe;
-    try {
-        leer(buffer, informe);
-    } catch (const Fallo_Conversion& f) {
-        if (f.motivo.isEmpty()) std::abort();
-    }
-    return 0;
-}
 
 /// Every number that is written must be one.
 inline void Comprobar(const QByteArray& salida)
@@ -39,7 +24,7 @@ inline void Escribir(const Eje& eje)
     if (eje.elementos.empty()) std::abort();
     Comprobar(Escribir_Ssh(eje));
     Comprobar(Escribir_Hal(eje));
-    Eje sin_nombre = eje;  // a name may say anything
+    Eje sin_nombre = eje; // a name may say anything
     sin_nombre.nombre.clear();
     Comprobar(Escribir_LandXML(sin_nombre, QDateTime()));
 }
@@ -56,7 +41,7 @@ inline void Escribir(const Rasante& rasante)
 
 template <auto LEER> int Texto(const uint8_t* datos, std::size_t largo)
 {
-    return Probar(datos, largo, [](QIODevice& dispositivo, Informe_Lectura& informe) {
+    return Buscar_En_Bytes(datos, largo, [](QIODevice& dispositivo, Informe_Lectura& informe) {
         Texto_Fuente fuente(dispositivo);
         Escribir(LEER(fuente, informe));
     });

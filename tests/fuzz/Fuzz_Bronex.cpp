@@ -1,5 +1,5 @@
 #include "conversions/Bronex_COD.h"
-#include "tests/fuzz/Busqueda_Secciones.h"
+#include "tests/fuzz/Busqueda.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)
 {

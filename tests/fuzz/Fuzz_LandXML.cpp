@@ -4,25 +4,24 @@
 #include "conversions/Lectores_LandXML.h"
 #include "tests/fuzz/Busqueda_Lector.h"
 
-using Busqueda_Lector::Probar;
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)
 {
     QStringList rasantes, secciones;
-    Probar(datos, largo, [&](QIODevice& f, Informe_Lectura&) { Listar_Ejes_LandXML(f); });
-    Probar(datos, largo,
-           [&](QIODevice& f, Informe_Lectura&) { rasantes = Listar_Rasantes_LandXML(f); });
-    Probar(datos, largo,
-           [&](QIODevice& f, Informe_Lectura&) { secciones = Listar_Secciones_LandXML(f); });
-    Probar(datos, largo, [&](QIODevice& f, Informe_Lectura& informe) {
+    Buscar_En_Bytes(datos, largo, [&](QIODevice& f, Informe_Lectura&) { Listar_Ejes_LandXML(f); });
+    Buscar_En_Bytes(datos, largo,
+                    [&](QIODevice& f, Informe_Lectura&) { rasantes = Listar_Rasantes_LandXML(f); });
+    Buscar_En_Bytes(datos, largo, [&](QIODevice& f, Informe_Lectura&) {
+        secciones = Listar_Secciones_LandXML(f);
+    });
+    Buscar_En_Bytes(datos, largo, [&](QIODevice& f, Informe_Lectura& informe) {
         Busqueda_Lector::Escribir(Leer_Eje_LandXML(f, 0, informe));
     });
     if (!rasantes.isEmpty())
-        Probar(datos, largo, [&](QIODevice& f, Informe_Lectura& informe) {
+        Buscar_En_Bytes(datos, largo, [&](QIODevice& f, Informe_Lectura& informe) {
             Busqueda_Lector::Escribir(Leer_Rasante_LandXML(f, rasantes[0], informe));
         });
     if (!secciones.isEmpty())
-        Probar(datos, largo, [&](QIODevice& f, Informe_Lectura& informe) {
+        Buscar_En_Bytes(datos, largo, [&](QIODevice& f, Informe_Lectura& informe) {
             const qsizetype corte = secciones[0].indexOf(u':');
             Busqueda_Lector::Comprobar(Escritor_Secciones::Ssp(
                 Leer_Secciones_LandXML(f, secciones[0].left(corte), secciones[0].mid(corte + 1),

@@ -1,5 +1,5 @@
 #include "conversions/Monitorizacion.h"
-#include "tests/fuzz/Busqueda_Secciones.h"
+#include "tests/fuzz/Busqueda.h"
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
 #include "conversions/Nivel_IGN.h"
 #include "session/Nivel.h"
-#include "tests/fuzz/Busqueda_Secciones.h"
+#include "tests/fuzz/Busqueda.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)
 {

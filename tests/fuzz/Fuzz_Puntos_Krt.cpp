@@ -1,6 +1,6 @@
 #include "conversions/Escritores_Puntos.h"
 #include "conversions/Lectores_Puntos.h"
-#include "tests/fuzz/Busqueda_Secciones.h"
+#include "tests/fuzz/Busqueda.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)
 {

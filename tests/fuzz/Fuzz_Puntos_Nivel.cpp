@@ -2,7 +2,7 @@
 #include "conversions/Lectores_Puntos.h"
 #include "core/Ansi.h"
 #include "core/Trozos.h"
-#include "tests/fuzz/Busqueda_Secciones.h"
+#include "tests/fuzz/Busqueda.h"
 
 // Every line that is made for the level carries the sum that the level will check.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)

@@ -1,6 +1,6 @@
 #include "conversions/Escritor_Secciones.h"
 #include "conversions/Lectores_Secciones.h"
-#include "tests/fuzz/Busqueda_Secciones.h"
+#include "tests/fuzz/Busqueda.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)
 {
