@@ -195,6 +195,7 @@ void Descarga::Terminar()
 {
     bool guardada = resultado.completa && !resultado.sesiones.isEmpty();
     try {
+        if (guardada && !Base_Datos) throw Error_Ejecucion(91);
         if (guardada) Base_Datos->Sincronizar();
     } catch (...) {
         guardada = false;

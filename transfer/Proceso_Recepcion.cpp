@@ -26,6 +26,7 @@ Resultado_Recepcion Procesar_Serie_A(const Datos_Recepcion& datos)
 
 Resultado_Recepcion Procesar_Recepcion(const Datos_Recepcion& datos)
 {
+    if (!Base_Datos) throw Error_Ejecucion(91);
     Resultado_Recepcion r;
     if (Es_Serie_A(datos.maquina)) {
         if (datos.operacion != 0 && datos.operacion != 1 && datos.operacion != 11) return r;

@@ -51,7 +51,7 @@ Resultado_Recepcion Rescatar(const QString& fichero, Datos_Recepcion datos)
     if (datos.buffer.isEmpty())
         throw Error_Ejecucion(62, "El fichero " + fichero + " no contiene ningún registro completo");
     Resultado_Recepcion r = Procesar_Recepcion(datos);
-    if (r.completa && !r.sesiones.isEmpty()) {
+    if (r.completa && !r.sesiones.isEmpty() && Base_Datos) {
         Base_Datos->Sincronizar();
         QFile::remove(fichero);
     }

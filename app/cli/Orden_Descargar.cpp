@@ -3,6 +3,7 @@
 #include "core/ModEstTotal.h"
 #include "transfer/Descarga.h"
 #include "transfer/Puerto_Qt.h"
+#include "transfer/Rescate.h"
 
 #include <QEventLoop>
 
@@ -41,6 +42,10 @@ int Orden_Descargar(const Contexto& c, const QStringList& palabras)
     descarga.BtnIniciar();
     espera.exec();
     for (const QString& sesion : descarga.Resultado().sesiones) c.Linea(sesion);
-    return descarga.Resultado().completa && !descarga.Resultado().sesiones.isEmpty() ? HECHO
-                                                                                     : RECHAZADO;
+    if (descarga.Resultado().completa && !descarga.Resultado().sesiones.isEmpty()) return HECHO;
+    descarga.Abandonar();
+    if (!Rescates().isEmpty())
+        c.Mensaje("Los datos no se han guardado enteros; lo recibido se conserva (véase miraldos-cli "
+                  "rescates)");
+    return RECHAZADO;
 }
