@@ -23,11 +23,14 @@ std::optional<Valor_Marcado> Leer_Marcado(QByteArrayView campo, QByteArrayView m
     return Valor_Marcado{*valor, marca};
 }
 
+/// The curve's value; 0 or none, with or without its mark, is no curve.
 bool Leer_Acuerdo(QByteArrayView campo, Vertice_Fuente& v)
 {
-    if (campo.isEmpty()) return true;
+    constexpr QByteArrayView MARCAS = "RTF";
+    const bool sin_valor = campo.size() == 1 && MARCAS.contains(char(campo[0] & ~0x20));
+    if (campo.isEmpty() || sin_valor) return true;
     if (const auto sin_marca = Numero(campo, Marca::Punto)) return *sin_marca == 0;
-    const auto acuerdo = Leer_Marcado(campo, "RTF");
+    const auto acuerdo = Leer_Marcado(campo, MARCAS);
     if (!acuerdo) return false;
     v.valor = acuerdo->valor;
     v.dato = acuerdo->marca == 'R'   ? Dato_Acuerdo::Kv
@@ -70,17 +73,19 @@ bool Es_Alz(Texto_Fuente& fuente)
 Rasante Leer_Rasante_Alz(Texto_Fuente& fuente, Informe_Lectura& informe)
 {
     std::vector<Vertice_Fuente> vertices;
+    // Index of the vertex that slopes count from: one whose station goes back will be left out.
+    std::optional<size_t> anterior;
     for (int n = 1; fuente.Siguiente(); ++n) {
         const Lista campos = Por_Separador(fuente.Linea(), ',');
         if (n == 1 || (n == 2 && campos.size() != CAMPOS)) continue;
         Vertice_Fuente v;
         v.linea = fuente.Numero();
         v.texto = fuente.Texto();
-        const QString defecto =
-            Leer_Vertice(campos, vertices.empty() ? nullptr : &vertices.back(), v);
+        const QString defecto = Leer_Vertice(campos, anterior ? &vertices[*anterior] : nullptr, v);
         if (!defecto.isEmpty()) {
             fuente.Omitir(informe, defecto);
         } else {
+            if (!anterior || v.pk > vertices[*anterior].pk) anterior = vertices.size();
             vertices.push_back(std::move(v));
         }
     }

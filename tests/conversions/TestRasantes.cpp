@@ -65,6 +65,16 @@ void TestRasantes::casos_data()
     QTest::newRow("alz pendiente en el primero")
         << "ristram2krt" << QByteArray("*ALZ\n0,3P,0R\n50,101C,0R\n100,103C,0R\n") << -1
         << QByteArray("50.000,101.000,0.000 100.000,103.000,0.000");
+    // The slope counts from the vertex at 100, the one at 50 being none.
+    QTest::newRow("alz pendiente detras de un vertice omitido")
+        << "ristram2krt"
+        << QByteArray("*ALZ\n0,100C,0R\n100,110C,0R\n50,999C,0R\n200,-1P,0R\n300,100C,0R\n") << -1
+        << QByteArray("0.000,100.000,0.000 100.000,110.000,0.000 200.000,109.000,0.000 "
+                      "300.000,100.000,0.000");
+    QTest::newRow("alz marca sin valor")
+        << "ristram2krt" << QByteArray("*ALZ\n0,100C,R\n50,101C,t\n60,101C,f\n100,103C,R\n") << 1
+        << QByteArray("0.000,100.000,0.000 50.000,101.000,0.000 60.000,101.000,0.000 "
+                      "100.000,103.000,0.000");
     QTest::newRow("alz marca desconocida")
         << "ristram2krt" << QByteArray("*ALZ\n0,100C,0R\n50,101C,5X\n60,101Z,0\n100,103C,0R\n")
         << -1 << QByteArray("0.000,100.000,0.000 100.000,103.000,0.000");
