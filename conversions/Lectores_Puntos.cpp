@@ -13,8 +13,9 @@ namespace {
 constexpr double COTA_MAXIMA_NIVEL = 10000;
 constexpr qsizetype NOMBRE_MAXIMO_NIVEL = 8;
 
-// Names begin with letters, so only the signs can mark a comment.
-bool Parece_Comentario(QByteArrayView linea)
+// Names begin with letters, so only the signs mark a comment: a point that the office has put out of
+// use must not reach the field.
+bool Es_Comentario_De_Puntos(QByteArrayView linea)
 {
     return QByteArrayView("*;#").contains(Recortar(linea).front());
 }
@@ -80,14 +81,13 @@ Puntos Lectores_Puntos::Blancos(Texto_Fuente& fuente, Informe_Lectura& informe)
     Puntos puntos;
     while (fuente.Siguiente()) {
         const Lista campos = Por_Blancos(fuente.Linea());
-        const bool entero = campos.size() >= 4 && Son_Numeros(campos, 1, 3);
-        if (!entero && Parece_Comentario(fuente.Linea())) {
+        if (Es_Comentario_De_Puntos(fuente.Linea())) {
             fuente.Omitir(informe, QStringLiteral("Comentario"));
             continue;
         }
         if (campos.size() < 4)
             fuente.Fallar(QStringLiteral("Faltan campos: nombre y tres coordenadas"));
-        if (!entero) fuente.Fallar(QStringLiteral("Una coordenada no es un número"));
+        if (!Son_Numeros(campos, 1, 3)) fuente.Fallar(QStringLiteral("Una coordenada no es un número"));
         if (campos[0].contains(','))
             fuente.Fallar(QStringLiteral("El nombre del punto tiene una coma"));
         puntos.lista.push_back({Ansi::A_Texto(campos[0]), Con_Punto(campos[1]),
@@ -102,6 +102,8 @@ Puntos Lectores_Puntos::Nivel(Texto_Fuente& fuente, Informe_Lectura& informe)
 {
     Puntos puntos;
     while (fuente.Siguiente()) {
+        const bool por_separador = fuente.Linea().contains(';') || fuente.Linea().contains(',');
+        if (!por_separador && Es_Comentario_De_Puntos(fuente.Linea())) continue;
         const auto [campos, marca] = Cortar(fuente.Linea());
         const qsizetype n = campos.size();
         const auto campo = [&c = campos](qsizetype i) {
@@ -114,7 +116,7 @@ Puntos Lectores_Puntos::Nivel(Texto_Fuente& fuente, Informe_Lectura& informe)
         const QString defecto = Defecto(p, Numero(campo(con_xy ? 3 : 1), marca));
         if (defecto.isEmpty())
             puntos.lista.push_back(std::move(p));
-        else if (!Parece_Comentario(fuente.Linea()))
+        else if (!Es_Comentario_De_Puntos(fuente.Linea()))
             fuente.Omitir(informe, defecto);
     }
     if (puntos.lista.empty())

@@ -77,8 +77,9 @@ void TestPuntos::a_krt_data()
         << QByteArray("\t P1\t1 2 3  A \t B,C\r\n") << QByteArray("P1,1,2,3,A B,C\r\n");
     QTest::newRow("comentarios") << QByteArray("* titulo\n; x\n# y z\nP1 1 2 3\n")
                                  << QByteArray("P1,1,2,3,\r\n");
-    QTest::newRow("un punto que parece comentario")
-        << QByteArray("*1 1 2 3\n") << QByteArray("*1,1,2,3,\r\n");
+    QTest::newRow("puntos fuera de uso")
+        << QByteArray("*1 1 2 3\nP1 1 2 3\n #P2 1 2 3 A\n;P3 1 2 3\n")
+        << QByteArray("P1,1,2,3,\r\n");
     QTest::newRow("pagina") << QByteArray("\xD1o 1 2 3 \x80\n")
                             << QByteArray("\xD1o,1,2,3,\x80\r\n");
 }
@@ -149,6 +150,7 @@ void TestPuntos::a_nivel_data()
     QTest::newRow("enie en el nombre") << QByteArray("OK 1\n\xD1 1\n") << "OK,,10000" << -1;
     QTest::newRow("enie en el codigo") << QByteArray("OK 1\nR 1 \xD1\n") << "OK,,10000" << -1;
     QTest::newRow("coma en el codigo") << QByteArray("OK 1\nR;1;A,B\n") << "OK,,10000" << -1;
+    QTest::newRow("punto fuera de uso") << QByteArray("#P9 5\n*P8 5 X\nOK 1\n") << "OK,,10000" << 1;
     QTest::newRow("comentario") << QByteArray("* titulo\n; nota\n# otra\nOK 1\n") << "OK,,10000"
                                 << 1;
 }
