@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Paths are the system's, all other texts are in the page of the files.
+/// Paths are the system's, or in the page of the files as all other texts are.
 struct Ruta {
     const char* bytes;
 };
@@ -17,7 +17,10 @@ struct Texto {
 
 QString Cadena(Ruta r)
 {
-    return r.bytes ? QFile::decodeName(r.bytes) : QString();
+    if (!r.bytes) return {};
+    const QByteArray bytes(r.bytes);
+    const QString ruta = QFile::decodeName(bytes);
+    return QFile::encodeName(ruta) == bytes ? ruta : Ansi::A_Texto(bytes);
 }
 QString Cadena(Texto t)
 {

@@ -4,7 +4,7 @@
 /* The converter library's border: 39 functions in C.
  *
  * Texts are 8-bit and zero-terminated, in the page of the files (Windows-1252); paths are in the
- * system's own 8-bit form. They are read, not kept and not changed. A null text counts as empty.
+ * system's own 8-bit form, or in that page where they are no text of the system's. They are read, not kept and not changed. A null text counts as empty.
  * Results are 32-bit: 1 converted, -1 converted but something in the source was invalid, 0 nothing
  * converted (no target file is left behind then); the three list functions give the number of lines
  * of the list file. No exception crosses the border. The last argument `app`, the application

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void textos_nulos();
     void los_argumentos_no_cambian();
     void nombres_en_la_pagina_de_los_ficheros();
+    void rutas_en_la_pagina_de_los_ficheros();
 
 private:
     Banco_Conversion banco;
@@ -123,6 +124,17 @@ void TestCVZENDRA::nombres_en_la_pagina_de_los_ficheros()
                                 QFile::encodeName(banco.Ruta("c.ssv")).constData()),
              1);
     Mover_Fichero_Lista({});
+}
+
+/// A caller whose texts are all in one page names its files in that page too.
+void TestCVZENDRA::rutas_en_la_pagina_de_los_ficheros()
+{
+    banco.Poner("diseño.ras", Banco_Conversion::Bytes_Muestra("eje1.ras"));
+    const QByteArray de = Ansi::A_Bytes(banco.Ruta("diseño.ras"));
+    const QByteArray a = Ansi::A_Bytes(banco.Ruta("señal.ssv"));
+    QCOMPARE(MyDll_rqsv2krt(de.constData(), a.constData()), 1);
+    QCOMPARE(Ficheros::Leer(banco.Ruta("señal.ssv")),
+             Banco_Conversion::Bytes_Muestra("eje1.ras.ssv"));
 }
 
 PRUEBA(TestCVZENDRA)
