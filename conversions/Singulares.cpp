@@ -81,7 +81,6 @@ Eje Componer_Singulares(const std::vector<Fila_Singular>& filas, bool hay_fin,
             if (!siguiente) continue;
             e = Cuerda(fila.punto, siguiente->punto);
         }
-        if (e.longitud < LONGITUD_MINIMA) continue;
         if (siguiente) {
             const double salto = Distancia(Final(e).punto, siguiente->punto);
             if (salto > SALTO_MAXIMO)
@@ -89,6 +88,7 @@ Eje Componer_Singulares(const std::vector<Fila_Singular>& filas, bool hay_fin,
                                QStringLiteral("El elemento acaba a %1 m del punto siguiente")
                                    .arg(salto, 0, 'f', 3));
         }
+        if (e.longitud < LONGITUD_MINIMA) continue;
         if (eje.elementos.empty()) eje.pk_inicio = fila.pk;
         eje.elementos.push_back(e);
     }

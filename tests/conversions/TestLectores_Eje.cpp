@@ -70,6 +70,13 @@ void TestLectores_Eje::casos_data()
         << 1
         << QByteArray("INI 0.000 1000.000 1000.000/REC 100.0000 100.000/"
                       "FIN 100.000 1100.000 1000.000 100.0000");
+    QTest::newRow("qsv salto tras una longitud minima")
+        << "aqtr2krt"
+        << recta + Qsv("100", "1100", "1000", "100", "50", "0", "0.0004") +
+               Qsv("100.0004", "1100.06", "1000", "100")
+        << -1
+        << QByteArray("INI 0.000 1000.000 1000.000/REC 100.0000 100.000/"
+                      "FIN 100.000 1100.060 1000.000 100.0000");
     QTest::newRow("qsv longitud nula en medio")
         << "aqtr2krt"
         << Qsv("0", "1000", "1000", "100", "0", "0", "0") +
