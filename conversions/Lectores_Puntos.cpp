@@ -13,8 +13,8 @@ namespace {
 constexpr double COTA_MAXIMA_NIVEL = 10000;
 constexpr qsizetype NOMBRE_MAXIMO_NIVEL = 8;
 
-// Names begin with letters, so only the signs mark a comment: a point that the office has put out of
-// use must not reach the field.
+// Names begin with letters, so only the signs mark a comment: a point that the office has put out
+// of use must not reach the field.
 bool Es_Comentario_De_Puntos(QByteArrayView linea)
 {
     return QByteArrayView("*;#").contains(Recortar(linea).front());
@@ -87,7 +87,8 @@ Puntos Lectores_Puntos::Blancos(Texto_Fuente& fuente, Informe_Lectura& informe)
         }
         if (campos.size() < 4)
             fuente.Fallar(QStringLiteral("Faltan campos: nombre y tres coordenadas"));
-        if (!Son_Numeros(campos, 1, 3)) fuente.Fallar(QStringLiteral("Una coordenada no es un número"));
+        if (!Son_Numeros(campos, 1, 3))
+            fuente.Fallar(QStringLiteral("Una coordenada no es un número"));
         if (campos[0].contains(','))
             fuente.Fallar(QStringLiteral("El nombre del punto tiene una coma"));
         puntos.lista.push_back({Ansi::A_Texto(campos[0]), Con_Punto(campos[1]),
