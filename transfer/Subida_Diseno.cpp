@@ -190,9 +190,12 @@ void Subir_Diseno(const Clase_Diseno& clase, const QString& filtro, int guardar,
         Mostrar_Omisiones(hecho->informe);
         return;
     }
-    if (resultado == -1 && hecho->avisa) {
-        Interfaz_Actual().Mensaje(QString::fromUtf16(clase.aviso_invalidos), Icono::Exclamacion);
-        Mostrar_Omisiones(hecho->informe);
+    if (resultado == -1) {
+        if (hecho->avisa)
+            Interfaz_Actual().Mensaje(QString::fromUtf16(clase.aviso_invalidos),
+                                      Icono::Exclamacion);
+        // Who converts sees what was left out of any kind; a sending passes over the others.
+        if (hecho->avisa || guardar == 1) Mostrar_Omisiones(hecho->informe);
     }
     QString texto;
     if (!Leer_Fichero_Envio(salida, texto, SEPARADOR, false, ENVIO_CONVERTIDO)) return;

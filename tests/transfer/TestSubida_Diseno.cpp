@@ -46,6 +46,7 @@ private Q_SLOTS:
     void a_estandar_data();
     void a_estandar();
     void a_estandar_sin_tipos_de_fichero();
+    void lo_omitido_se_dice_al_convertir_y_se_calla_al_enviar();
     void al_terminar_no_se_insiste();
     void la_extension_manda_en_la_forma();
     void dialogos_de_guardar();
@@ -333,6 +334,20 @@ void TestSubida_Diseno::a_estandar_sin_tipos_de_fichero()
     QCOMPARE(guion.Textos(), QStringList{"No hay extensiones definidas para esta operación"});
     QCOMPARE(guion.terminado, QList<int>{1});
     QVERIFY(guion.peticiones.isEmpty());
+}
+
+void TestSubida_Diseno::lo_omitido_se_dice_al_convertir_y_se_calla_al_enviar()
+{
+    base.Escribir("roto.eje", "0 0 0 0 0 0 10\r\n5 x 2 3\r\n10 0 10 0\r\n");
+    QVERIFY(Enviado(Subir_Alineaciones, "A|*.a", base.Ruta("roto.eje")).startsWith(u"INI"));
+    QVERIFY(textos.isEmpty());
+    Interfaz_Guion guion;
+    Elegir(guion, base.Ruta("roto.eje"));
+    Elegir(guion, base.Ruta("roto.ssh"));
+    Subir_Alineaciones("A|*.a", 1, {6});
+    QVERIFY(QFile::exists(base.Ruta("roto.ssh")));
+    QCOMPARE(guion.Textos(), QStringList{"Lo que no se ha podido convertir:\r\n"
+                                         "Línea 2: Fila ilegible, se omite: \"5 x 2 3\""});
 }
 
 void TestSubida_Diseno::al_terminar_no_se_insiste()
