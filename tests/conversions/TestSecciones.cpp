@@ -167,6 +167,7 @@ private Q_SLOTS:
     void rechaza();
     void ajenos();
     void al_azar();
+    void por_landxml_y_vuelta();
     void cortado_en_cualquier_punto();
     void cada_byte_danado();
     void sin_origen_o_sin_destino();
@@ -349,6 +350,21 @@ void TestSecciones::al_azar()
                                     .arg(semilla)
                                     .arg(r.informe.Lineas().join(u' '))));
         }
+    }
+}
+
+void TestSecciones::por_landxml_y_vuelta()
+{
+    const Fuente_Secciones& qsv = FUENTES[2];
+    for (unsigned semilla = 30; semilla < 36; ++semilla) {
+        std::vector<Seccion> perfiles = Al_Azar(semilla);
+        std::erase_if(perfiles, [](const Seccion& s) { return s.puntos.size() < 2; });
+        const QString fuente = banco.Poner("EJE 7.tra", qsv.escribir(perfiles));
+        const QString xml = banco.Ruta("eje.xml");
+        QCOMPARE(banco.Ejecutar("traqsv2landxml", {fuente, xml}).numero, 1);
+        const auto r = banco.Ejecutar("tralandxml2krt", {"EJE 7", "Terreno", xml, "<salida>"});
+        QVERIFY2(r.numero == 1, qPrintable(r.Motivo()));
+        QCOMPARE(*r.salida, Esperado(perfiles));
     }
 }
 

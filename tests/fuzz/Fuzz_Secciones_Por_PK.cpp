@@ -1,15 +1,6 @@
-#include "conversions/Escritor_Secciones.h"
-#include "conversions/Lectores_Secciones.h"
-#include "tests/fuzz/Busqueda.h"
+#include "tests/fuzz/Busqueda_Secciones.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)
 {
-    return Buscar_En_Texto(datos, largo, [](Texto_Fuente& fuente, Informe_Lectura& informe) {
-        const QByteArray salida =
-            Escritor_Secciones::Ssp(Lectores_Secciones::Por_PK(fuente, informe), {});
-        // Three numbers a line, and no section without points.
-        const auto lineas = salida.count('\n');
-        if (lineas == 0 || salida.count(',') != 2 * lineas || salida.contains('n')) std::abort();
-        return salida;
-    });
+    return Buscar_En_Secciones<Lectores_Secciones::Por_PK>(datos, largo);
 }
