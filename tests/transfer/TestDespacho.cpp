@@ -152,7 +152,8 @@ void TestDespacho::que_arranca_cada_operacion_data()
     QTest::newRow("KRT800 carga 6") << "KRT800" << 6 << "C" << "" << 1;
     QTest::newRow("NV400 0") << "NV400" << 0 << "D" << "ayuda D0 paso 1" << 0;
     QTest::newRow("NV400 1 nada") << "NV400" << 1 << "D" << "" << 0;
-    QTest::newRow("NV400 carga") << "NV400" << 1 << "C" << "" << 1;
+    // The level's upload asks for its file, and tells that this one isn't there and why.
+    QTest::newRow("NV400 carga") << "NV400" << 1 << "C" << "" << 2;
     QTest::newRow("otra") << "OTRA" << 0 << "D" << "" << 0;
     QTest::newRow("tipo raro") << "KRT800" << 0 << "X" << "" << 0;
 }
@@ -165,7 +166,9 @@ void TestDespacho::que_arranca_cada_operacion()
     QFETCH(QString, ayuda);
     QFETCH(int, avisos);
     Clave_Estacion = maquina;
+    interfaz->ficheros = {Fichero_Elegido{base->Ruta("no.asc"), 1}};
     Lanzar_Operacion(maquina, ope, tipo);
+    QCOMPARE(interfaz->peticiones.size(), maquina == u"NV400" && tipo == u"C" ? 1 : 0);
     QCOMPARE(pasos.filter("ayuda").join(""), ayuda);
     QCOMPARE(pasos.contains("abierto, descarga"), !ayuda.isEmpty());
     QCOMPARE(interfaz->avisos.size(), avisos);
