@@ -154,7 +154,7 @@ QByteArray Fuente_XML::A_Utf8(const QByteArray& bloque)
     QByteArray utf8;
     utf8.reserve(bloque.size() + bloque.size() / 8);
     for (const char c : bloque) {
-        if (c >= 0) {
+        if (static_cast<unsigned char>(c) < 0x80) {
             utf8.append(c);
         } else {
             utf8.append((*tabla)[static_cast<unsigned char>(c)]);

@@ -13,6 +13,8 @@ namespace {
 /// A radius of this size stands for a straight.
 constexpr double RADIO_RECTA = 999999;
 constexpr qsizetype LINEAS_PUNTO = 3;
+/// Records are cards of some eighty columns; a format beyond this is no format.
+constexpr qsizetype ANCHO_MAXIMO = 1024;
 
 struct Columna {
     qsizetype desde, ancho;
@@ -22,13 +24,14 @@ using Columnas = std::vector<Columna>;
 /// The columns of each line of a record.
 using Formato = std::vector<Columnas>;
 
-/// Reads a whole number at `i`; `defecto` when there is none. Big ones are cut: no line is so wide.
+/// Reads a whole number at `i`; `defecto` when there is none. Big ones are cut above the widest
+/// line.
 qsizetype Entero(QByteArrayView t, qsizetype& i, qsizetype defecto)
 {
     if (i >= t.size() || t[i] < '0' || t[i] > '9') return defecto;
     qsizetype n = 0;
     for (; i < t.size() && t[i] >= '0' && t[i] <= '9'; ++i)
-        n = std::min(n * 10 + (t[i] - '0'), Texto_Fuente::LINEA_MAXIMA);
+        n = std::min(n * 10 + (t[i] - '0'), ANCHO_MAXIMO + 1);
     return n;
 }
 
@@ -55,8 +58,8 @@ std::optional<Formato> Leer_Formato(QByteArrayView t)
             if (i < t.size() && t[i] == '.') Entero(t, ++i, 0);
             const bool texto = item == 'A', hueco = item == 'X';
             if (!texto && !hueco && item != 'F' && item != 'D' && item != 'E') return {};
-            if (ancho == 0) return {};
-            for (qsizetype n = 0; n < veces && ancho_linea < Texto_Fuente::LINEA_MAXIMA; ++n) {
+            if (ancho == 0 || ancho_linea + veces * ancho > ANCHO_MAXIMO) return {};
+            for (qsizetype n = 0; n < veces; ++n) {
                 if (!hueco) formato.back().push_back({ancho_linea, ancho, texto});
                 ancho_linea += ancho;
             }

@@ -8,22 +8,25 @@
 
 namespace {
 
-constexpr qsizetype BLOQUE = 1 << 18;
+constexpr qsizetype BLOQUE = 2 * Texto_Fuente::LINEA_MAXIMA;
 constexpr char FIN_TEXTO = 26;
 
 } // namespace
 
-Texto_Fuente::Texto_Fuente(QIODevice& d) : dispositivo(d), bloque(size_t(BLOQUE)) {}
+Texto_Fuente::Texto_Fuente(QIODevice& d)
+    : dispositivo(d), bloque(std::make_unique_for_overwrite<char[]>(size_t(BLOQUE)))
+{
+}
 
 /// Reads on behind what is left of the block. @return false at the end of the device
 bool Texto_Fuente::Cargar()
 {
     if (desde > 0) {
-        std::memmove(bloque.data(), bloque.data() + desde, size_t(hasta - desde));
+        std::memmove(bloque.get(), bloque.get() + desde, size_t(hasta - desde));
         hasta -= desde;
         desde = 0;
     }
-    const qint64 n = dispositivo.read(bloque.data() + hasta, BLOQUE - hasta);
+    const qint64 n = dispositivo.read(bloque.get() + hasta, BLOQUE - hasta);
     if (n < 0)
         throw Fallo_Conversion{"No se puede leer el fichero: " + dispositivo.errorString(), 0, {}};
     hasta += n;
@@ -37,7 +40,7 @@ bool Texto_Fuente::Siguiente_Tal_Cual()
     const char* salto = nullptr;
     bool hay_mas = true;
     while (!salto) {
-        const char* inicio = bloque.data() + desde;
+        const char* inicio = bloque.get() + desde;
         const qsizetype queda = hasta - desde;
         salto =
             static_cast<const char*>(std::memchr(inicio + mirado, '\n', size_t(queda - mirado)));
@@ -47,10 +50,10 @@ bool Texto_Fuente::Siguiente_Tal_Cual()
         hay_mas = Cargar();
     }
     ++numero;
-    const char* inicio = bloque.data() + desde;
-    const char* final = salto ? salto : bloque.data() + hasta;
+    const char* inicio = bloque.get() + desde;
+    const char* final = salto ? salto : bloque.get() + hasta;
     linea = QByteArrayView(inicio, final - inicio);
-    desde = salto ? salto + 1 - bloque.data() : hasta;
+    desde = salto ? salto + 1 - bloque.get() : hasta;
     if (!salto && linea.isEmpty()) {
         fin = true;
         return false;

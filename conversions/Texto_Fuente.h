@@ -2,10 +2,10 @@
 
 #include "conversions/Informe_Lectura.h"
 
+#include <memory>
 #include <QByteArrayView>
 #include <QIODevice>
 #include <QString>
-#include <vector>
 
 /// A source text, line by line: Windows-1252, lines ending in CR LF or LF, a UTF-8 mark at the head
 /// skipped, a byte 26 ending the text. It is read in blocks: a file of any size costs one line.
@@ -43,7 +43,7 @@ private:
     bool Cargar();
 
     QIODevice& dispositivo;
-    std::vector<char> bloque;
+    std::unique_ptr<char[]> bloque;
     qsizetype desde = 0, hasta = 0;
     QByteArrayView linea;
     qint64 numero = 0;
