@@ -17,10 +17,7 @@ EjeLandxml::EjeLandxml() : Ventana(QStringLiteral("EjeLandxml"))
     listEjes->addItems(Tomar_Lista());
     QPushButton* const BtnAce = Piezas::Boton("BtnAce", "&Aceptar");
     QPushButton* const BtnCan = Piezas::Boton("BtnCan", "&Cancelar");
-    auto* const botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(BtnAce);
-    botones->addWidget(BtnCan);
+    auto* const botones = Piezas::Fila_De_Botones({BtnAce, BtnCan});
     auto* const caja = new QVBoxLayout(this);
     caja->addWidget(listEjes);
     caja->addLayout(botones);

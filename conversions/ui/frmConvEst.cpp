@@ -30,10 +30,7 @@ frmConvEst::frmConvEst() : Ventana(QStringLiteral("frmConvEst")), tipo(new QButt
 
     QPushButton* const BtnAce = Piezas::Boton("BtnAce", "&Aceptar");
     QPushButton* const BtnCan = Piezas::Boton("BtnCan", "&Cancelar");
-    auto* const botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(BtnAce);
-    botones->addWidget(BtnCan);
+    auto* const botones = Piezas::Fila_De_Botones({BtnAce, BtnCan});
     auto* const caja = new QVBoxLayout(this);
     caja->addWidget(Frame1);
     caja->addLayout(botones);

@@ -25,11 +25,7 @@ Frmutils::Frmutils() : Ventana(QStringLiteral("Frmutils"))
     QPushButton* const Command2 = Piezas::Boton("Command2", "&Aceptar");
     QPushButton* const Command1 = Piezas::Boton("Command1", "&Cerrar");
     QPushButton* const btnAyuda = Piezas::Boton("btnAyuda", "&Ayuda");
-    auto* const botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(Command2);
-    botones->addWidget(Command1);
-    botones->addWidget(btnAyuda);
+    auto* const botones = Piezas::Fila_De_Botones({Command2, Command1, btnAyuda});
     auto* const caja = new QVBoxLayout(this);
     caja->addWidget(SSTab1, 1);
     caja->addLayout(botones);

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
@@ -89,6 +90,15 @@ QLabel* Imagen(const QString& nombre, int ancho, int alto)
     imagen->setMinimumSize(ancho, alto);
     imagen->setAlignment(Qt::AlignCenter);
     return imagen;
+}
+
+QHBoxLayout* Fila_De_Botones(std::initializer_list<QPushButton*> botones)
+{
+    auto* const fila = new QHBoxLayout;
+    fila->addStretch();
+    for (QPushButton* const boton : botones)
+        fila->addWidget(boton);
+    return fila;
 }
 
 bool Poner_Imagen(QLabel& imagen, const QString& fichero)

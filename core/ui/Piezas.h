@@ -6,6 +6,7 @@
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -32,6 +33,9 @@ QGroupBox* Grupo(const QString& titulo, const QString& nombre = {});
 QListWidget* Lista(const QString& nombre);
 /// A label that shows pictures.
 QLabel* Imagen(const QString& nombre, int ancho, int alto);
+
+/// The row of buttons at the foot of a dialog, at its right.
+QHBoxLayout* Fila_De_Botones(std::initializer_list<QPushButton*> botones);
 
 /// Shows the picture of a file in a label, scaled down to it; clears it when there is none.
 /// @return true if a picture is shown

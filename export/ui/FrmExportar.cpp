@@ -71,10 +71,7 @@ FrmExportar::FrmExportar() : Ventana(QStringLiteral("FrmExportar"))
     BtnExportar = Piezas::Boton("BtnExportar", "&Exportar");
     QPushButton* const BtnSalir = Piezas::Boton("BtnSalir", "&Cerrar");
     QPushButton* const btnAyuda = Piezas::Boton("btnAyuda", "&Ayuda");
-    auto* const botones = new QHBoxLayout;
-    botones->addStretch();
-    for (QPushButton* const boton : {BtnExportar, BtnSalir, btnAyuda})
-        botones->addWidget(boton);
+    auto* const botones = Piezas::Fila_De_Botones({BtnExportar, BtnSalir, btnAyuda});
     auto* const caja = new QVBoxLayout(this);
     caja->addWidget(Hacer_Opciones());
     caja->addLayout(Hacer_Fichero());

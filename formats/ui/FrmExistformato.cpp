@@ -41,11 +41,7 @@ void FrmExistformato::Hacer()
     casillas->addWidget(Check2);
     casillas->addWidget(Label2);
     casillas->addStretch();
-    auto* const botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(BtnAceptar);
-    botones->addWidget(BtnCancelar);
-    botones->addWidget(btnAyuda);
+    auto* const botones = Piezas::Fila_De_Botones({BtnAceptar, BtnCancelar, btnAyuda});
     auto* const caja = new QVBoxLayout(this);
     caja->addLayout(datos);
     caja->addWidget(panel, 1);

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -16,17 +17,48 @@
 namespace {
 // Widths of the columns that take these texts.
 constexpr int ANCHO_NOMBRE = 50, ANCHO_DESCRIPCION = 255;
+/// A combo that tells a typed name from a picked one. Enter in the box, or leaving it, would take the
+/// list's entry of the same name for picked: a typed name is a new format's also there.
+class Combo_Nombre : public QComboBox {
+public:
+    Combo_Nombre()
+    {
+        setObjectName(QStringLiteral("Txt"));
+        setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        setEditable(true);
+        setInsertPolicy(QComboBox::NoInsert);
+        setCompleter(nullptr);
+        lineEdit()->setMaxLength(ANCHO_NOMBRE);
+        connect(lineEdit(), &QLineEdit::textEdited, this, [this] { tecleado = true; });
+    }
+    bool Tecleado() const { return tecleado; }
+    void showPopup() override
+    {
+        tecleado = false;
+        QComboBox::showPopup();
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override
+    {
+        if (evento->key() == Qt::Key_Up || evento->key() == Qt::Key_Down) tecleado = false;
+        QComboBox::keyPressEvent(evento);
+    }
+    void wheelEvent(QWheelEvent* evento) override
+    {
+        tecleado = false;
+        QComboBox::wheelEvent(evento);
+    }
+
+private:
+    bool tecleado = false;
+};
 } // namespace
 
 FrmNuevoformato::FrmNuevoformato() : Ventana(QStringLiteral("FrmNuevoformato"))
 {
     setWindowTitle(QStringLiteral("Crear formato nuevo"));
-    Txt = Piezas::Combo("Txt");
-    Txt->setEditable(true);
-    Txt->setInsertPolicy(QComboBox::NoInsert);
-    // A typed name is a new one even where the list holds it, so nothing may complete it.
-    Txt->setCompleter(nullptr);
-    Txt->lineEdit()->setMaxLength(ANCHO_NOMBRE);
+    Txt = new Combo_Nombre;
     TxtDes = Piezas::Caja("TxtDes", ANCHO_DESCRIPCION);
     CbTipo = Piezas::Combo("CbTipo");
     panel = new Panel_Campos("Btnsubir", "BtnBajar");
@@ -48,11 +80,7 @@ void FrmNuevoformato::Hacer()
     casillas->addWidget(Check1);
     casillas->addWidget(Check2);
     casillas->addStretch();
-    auto* const botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(BtnAceptar);
-    botones->addWidget(BtnCancelar);
-    botones->addWidget(btnAyuda);
+    auto* const botones = Piezas::Fila_De_Botones({BtnAceptar, BtnCancelar, btnAyuda});
     auto* const caja = new QVBoxLayout(this);
     caja->addLayout(datos);
     caja->addWidget(panel, 1);
@@ -64,7 +92,7 @@ void FrmNuevoformato::Hacer()
         if (modelo) modelo->Escribir_Nombre(texto);
     });
     connect(Txt, &QComboBox::activated, this, [this](int indice) {
-        if (!modelo) return;
+        if (!modelo || static_cast<const Combo_Nombre*>(Txt)->Tecleado()) return;
         modelo->Elegir_Nombre(indice);
         Mostrar_Datos();
     });

@@ -30,10 +30,7 @@ FrmOffset::FrmOffset() : Ventana(QStringLiteral("FrmOffset"))
     }
     QPushButton* const BtnAce = Piezas::Boton("BtnAce", "&Aceptar");
     QPushButton* const BtnCan = Piezas::Boton("BtnCan", "&Cancelar");
-    auto* const botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(BtnAce);
-    botones->addWidget(BtnCan);
+    auto* const botones = Piezas::Fila_De_Botones({BtnAce, BtnCan});
     auto* const caja = new QVBoxLayout(this);
     caja->addLayout(datos);
     caja->addLayout(botones);

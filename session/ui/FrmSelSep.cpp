@@ -18,10 +18,7 @@ FrmSelSep::FrmSelSep() : Ventana(QStringLiteral("FrmSelSep"))
     Combo1->setProperty("Tag", Tag_Separador());
     QPushButton* const BtnAce = Piezas::Boton("BtnAce", "&Aceptar");
     QPushButton* const BtnCan = Piezas::Boton("BtnCan", "&Cancelar");
-    auto* const botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(BtnAce);
-    botones->addWidget(BtnCan);
+    auto* const botones = Piezas::Fila_De_Botones({BtnAce, BtnCan});
     auto* const caja = new QVBoxLayout(this);
     caja->addWidget(Combo1);
     caja->addLayout(botones);

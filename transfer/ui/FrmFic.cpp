@@ -20,10 +20,7 @@ FrmFic::FrmFic() : Ventana(QStringLiteral("FrmFic"))
     Txt = Piezas::Caja("Txt", ANCHO_NFICHERO);
     QPushButton* const BtnAce = Piezas::Boton("BtnAce", "&Aceptar");
     QPushButton* const BtnCan = Piezas::Boton("BtnCan", "&Cancelar");
-    auto* const botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(BtnAce);
-    botones->addWidget(BtnCan);
+    auto* const botones = Piezas::Fila_De_Botones({BtnAce, BtnCan});
     auto* const caja = new QVBoxLayout(this);
     caja->addWidget(Piezas::Rotulo("Nombre de Sesión:"));
     caja->addWidget(Txt);

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void doble_pulsacion_pasa_un_campo();
     void nuevo_sin_nombre_o_sin_campos_avisa();
     void nuevo_se_guarda_desde_el_teclado();
+    void nuevo_tecleado_con_nombre_que_hay_se_rechaza();
+    void nuevo_elegido_de_la_lista_se_cambia();
     void nuevo_con_sesion_sigue_a_exportar();
     void mantenimiento_guarda_lo_cambiado();
     void mantenimiento_recuerda_el_ultimo();
@@ -304,6 +306,46 @@ void TestDialogos_Formatos::nuevo_se_guarda_desde_el_teclado()
     QCOMPARE(Campos_Formato(*Base_Datos, "KRT300", "Corto2"), QStringList{"Punto"});
     QVERIFY(exportados.isEmpty());
     QVERIFY(!Dialogos::Cargado<FrmNuevoformato>());
+}
+
+void TestDialogos_Formatos::nuevo_tecleado_con_nombre_que_hay_se_rechaza()
+{
+    Formato("Largo", true, {"Punto", "Nota"});
+    CON_NUEVO(std::nullopt, {
+        auto& nombre = Hijo<QComboBox>(f, "Txt");
+        QTest::keyClicks(nombre.lineEdit(), "Largo");
+        // Leaving the box is no picking from its list.
+        nombre.lineEdit()->setFocus();
+        Hijo<QLineEdit>(f, "TxtDes").setFocus();
+        Q_EMIT nombre.lineEdit()->editingFinished();
+        Marcar(Hijo<QListWidget>(f, "List1"), {0});
+        Pulsar(f, "BtnAgregar");
+        Pulsar(f, "BtnAceptar");
+        QVERIFY(f.isVisible());
+        QCOMPARE(nombre.currentText(), QString("Largo"));
+        f.close();
+    });
+    QCOMPARE(interfaz->avisos.size(), 1);
+    QVERIFY2(interfaz->avisos[0].texto.contains("(3022) "), qPrintable(interfaz->avisos[0].texto));
+    interfaz->avisos.clear();
+    QCOMPARE(Campos_Formato(*Base_Datos, "KRT300", "Largo"), (QStringList{"Punto", "Nota"}));
+}
+
+void TestDialogos_Formatos::nuevo_elegido_de_la_lista_se_cambia()
+{
+    Formato("Largo", true, {"Punto", "Nota"});
+    CON_NUEVO(std::nullopt, {
+        auto& nombre = Hijo<QComboBox>(f, "Txt");
+        QTest::keyClicks(nombre.lineEdit(), "La");
+        while (nombre.currentText() != "Largo")
+            QTest::keyClick(&nombre, Qt::Key_Down);
+        auto& lista = Hijo<QListWidget>(f, "List1");
+        Marcar(lista, {0});
+        Pulsar(f, "BtnAgregar");
+        Pulsar(f, "BtnAceptar");
+    });
+    QCOMPARE(interfaz->Textos(), QStringList());
+    QCOMPARE(Campos_Formato(*Base_Datos, "KRT300", "Largo"), QStringList{"Punto"});
 }
 
 void TestDialogos_Formatos::nuevo_con_sesion_sigue_a_exportar()
