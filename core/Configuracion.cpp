@@ -86,6 +86,7 @@ bool Cargar_Configuracion(const QString& ruta)
 {
     QString mensaje = QStringLiteral("Se Produjo un error al leer el Fichero .ini EstTotal.ini");
     QString salto = QStringLiteral("\r\n");
+    bool copiada = false;
     try {
         Fichero_Ayuda = ruta + QStringLiteral("/hlp/EstTotal.hlp");
         Ruta_MDB = ruta + QStringLiteral("/MDB");
@@ -95,12 +96,19 @@ bool Cargar_Configuracion(const QString& ruta)
             mensaje = QStringLiteral("Se produjo un error al iniciar la Base de Datos");
             salto = QStringLiteral("\r");
             Copiar_Plantilla(ruta);
+            copiada = true;
         }
         Base_Datos = Base::Abrir(Fichero_MDB);
+        copiada = false;
         Leer_Ini(ruta + QStringLiteral("/EstTotal.ini"));
         return true;
     } catch (...) {
-        Interfaz_Actual().Mensaje(Texto_Informe(mensaje, Error_En_Curso(), salto), Icono::Critico);
+        const Error_Ejecucion error = Error_En_Curso();
+        // The run ends: nothing stays open, and a template that is no database leaves no copy that
+        // the next start would take for the user's.
+        Base_Datos.reset();
+        if (copiada) QFile::remove(Fichero_MDB);
+        Interfaz_Actual().Mensaje(Texto_Informe(mensaje, error, salto), Icono::Critico);
         return false;
     }
 }

@@ -7,7 +7,7 @@ QString Fichero_Log_Inicio;
 QString Ruta_MDB;
 QString Fichero_MDB;
 QString Fichero_Ayuda;
-std::shared_ptr<Base> Base_Datos;
+Base_Global Base_Datos;
 QString Clave_Estacion;
 QString Nombre_Estacion;
 bool Modelo_Fijo = false;

@@ -23,9 +23,22 @@ extern QString Ruta_MDB;
 extern QString Fichero_MDB;
 /// The help file that the platform's help would open.
 extern QString Fichero_Ayuda;
+/// A handle that says so when it is used while there is no database (91), instead of going astray.
+class Base_Global : public std::shared_ptr<Base> {
+public:
+    using std::shared_ptr<Base>::shared_ptr;
+    using std::shared_ptr<Base>::operator=;
+    Base* operator->() const
+    {
+        if (!get()) throw Error_Ejecucion(91);
+        return get();
+    }
+    Base& operator*() const { return *operator->(); }
+};
+
 /// The one connection that lives for the whole run; null before start-up and after a compaction
 /// that could not open the database again.
-extern std::shared_ptr<Base> Base_Datos;
+extern Base_Global Base_Datos;
 
 /// Family key ("KRT300", "KRT800", "NV400", "PX7"): the switch of the whole program.
 extern QString Clave_Estacion;

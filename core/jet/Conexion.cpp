@@ -20,7 +20,8 @@ constexpr int INTENTOS_ABRIR = 3;
 
 QHash<QString, std::weak_ptr<Conexion>>& Abiertas()
 {
-    static QHash<QString, std::weak_ptr<Conexion>> abiertas;
+    // Never destroyed: a run ended from inside a loop closes its database behind the static objects.
+    static auto& abiertas = *new QHash<QString, std::weak_ptr<Conexion>>;
     return abiertas;
 }
 

@@ -20,7 +20,7 @@ Sala_Global::Sala_Global()
     for (bool* g : {&Modelo_Fijo, &Ayuda_Visible, &Ayuda_Recuerde, &Offset_Cargas, &Offset_Exportar,
                     &Mostrar_Cabeceras, &Proceso_Cancelado})
         Guardar(*g, false);
-    Guardar(Base_Datos, std::shared_ptr<Base>());
+    Guardar(Base_Datos, Base_Global());
     Guardar(datosexport, QStringList(QList<QString>(MAX_IDS)));
     Guardar(Paso_Ayuda, 1);
 }

@@ -215,6 +215,7 @@ void TestConfiguracion::sin_ini_se_acaba()
         interfaz->Textos()[0].startsWith("Se Produjo un error al leer el Fichero .ini "
                                          "EstTotal.ini\r\n(53) No se ha encontrado el archivo"));
     QCOMPARE(interfaz->avisos[0].icono, Icono::Critico);
+    QVERIFY(!Base_Datos);
 }
 
 void TestConfiguracion::un_ini_que_es_carpeta_se_acaba()
@@ -314,6 +315,10 @@ void TestConfiguracion::la_plantilla_ajena_se_informa_como_base()
     QVERIFY(!Cargar(INI));
     QVERIFY(interfaz->Textos()[0].startsWith(
         "Se produjo un error al iniciar la Base de Datos\r(3343)"));
+    // Nor does the next start take the copy for the user's database.
+    QVERIFY(!QFile::exists(Fichero_MDB));
+    QVERIFY(!Cargar(INI));
+    QVERIFY(interfaz->Textos()[1].startsWith("Se produjo un error al iniciar la Base de Datos\r"));
 }
 
 void TestConfiguracion::un_ini_que_falta_tras_copiar_se_informa_como_base()

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void la_descripcion_de_una_operacion();
     void el_numero_del_puerto_data();
     void el_numero_del_puerto();
+    void sin_base_se_dice();
 
 private:
     std::unique_ptr<Base_De_Prueba> p;
@@ -148,6 +149,15 @@ void TestModEstTotal::el_numero_del_puerto()
     QFETCH(QString, texto);
     QFETCH(int, numero);
     QCOMPARE(Numero_Puerto(texto), numero);
+}
+
+// A compaction that could not open the database again leaves none.
+void TestModEstTotal::sin_base_se_dice()
+{
+    Base_Datos.reset();
+    QVERIFY(!Base_Datos);
+    QCOMPARE(Numero_De_Error([] { Base_Datos->OpenRecordset("KRT"); }), 91);
+    QCOMPARE(Numero_De_Error([] { (*Base_Datos).OpenRecordset("KRT"); }), 91);
 }
 
 PRUEBA(TestModEstTotal)
