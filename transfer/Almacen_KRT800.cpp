@@ -204,7 +204,9 @@ void Ordenar_Perfiles(Base& base, qint64 id)
             QStringLiteral("SELECT Punto,Secuencia,Datos,DatosG FROM REGISTROS WHERE ID = %1 AND "
                            "Mid(Datos, 1, %2) = Mid('%3', 1,%2) "
                            "ORDER BY val(Mid(Datos, %4,%5)) ASC")
-                .arg(id).arg(p).arg(lineas[i]).arg(p + 1).arg(qMax<qint64>(q - 1, 0)));
+                // All at once: a "%" of the line itself is no place for the next value.
+                .arg(QString::number(id), QString::number(p), lineas[i], QString::number(p + 1),
+                     QString::number(qMax<qint64>(q - 1, 0))));
         QList<QVariantList> filas;
         while (grupo.Siguiente())
             if (const qint64 s = grupo.Entero(1); !copiadas.contains(s)) {

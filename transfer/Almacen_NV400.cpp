@@ -23,7 +23,7 @@ struct Reparto {
 
 // Gives each staged row the number of its session (in `Secuencia`) and makes the sessions. A line
 // that begins with "t" closes a job; the name of the next comes from the line behind it, and without
-// one the reading fails.
+// one the reading fails, save for a journal: nothing would ever get its lines back.
 Reparto Repartir(Base& base, const Datos_Recepcion& datos)
 {
     const auto nueva = [&](const QString& nombre) {
@@ -36,6 +36,7 @@ Reparto Repartir(Base& base, const Datos_Recepcion& datos)
     int id = Siguiente_ID();
     r.primera = id;
     QString nombre;
+    bool abierto = false;
     Conjunto_Registros filas =
         base.OpenRecordset("SELECT * FROM Registros_Temp", Tipo_Conjunto::Dinamico);
     if (!filas.Es_EOF()) nombre = Nombre_Trabajo(filas.Texto("Datos"));
@@ -47,13 +48,15 @@ Reparto Repartir(Base& base, const Datos_Recepcion& datos)
         filas.Poner("Punto", nombre);
         filas.Update();
         filas.MoveNext();
+        abierto = !cierra;
+        if (cierra && datos.rescatada && filas.Es_EOF()) break;
         if (cierra) {
             nombre = Nombre_Trabajo(filas.Texto("Datos"));
             id = Siguiente_ID();
         }
     }
     r.ultima = id;
-    if (r.sesiones.isEmpty()) r.sesiones << nueva(nombre);
+    if (r.sesiones.isEmpty() || (datos.cortada && abierto)) r.sesiones << nueva(nombre);
     transaccion.Confirmar();
     return r;
 }
@@ -81,6 +84,7 @@ bool Guardar_NV400(const Datos_Recepcion& datos, QStringList& sesiones)
     try {
         {
             Transaccion transaccion(*Base_Datos);
+            if (datos.rescatada) Base_Datos->Execute("Delete From Registros_Temp");
             Apuntar_Lineas(*Base_Datos, datos.buffer);
             transaccion.Confirmar();
         }

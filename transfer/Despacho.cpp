@@ -50,7 +50,7 @@ void Lanzar_Serie_A(const QString& maquina, int operacion, const QString& tipo_o
         else if (operacion == 11) Empezar_Descarga(maquina, 1);
         else if (operacion == 2) No_Disponible("La descarga de librerías de códigos");
     } else if (tipo_ope == CARGA) {
-        Filtro_Extensiones(maquina, operacion, tipo_ope);
+        if (Filtro_Extensiones(maquina, operacion, tipo_ope).isNull()) return;
         if (operacion == 1) No_Disponible("La carga de coordenadas");
         else if (operacion == 2) No_Disponible("La carga de librerías de códigos");
     }
@@ -61,7 +61,7 @@ void Lanzar_Nivel(const QString& maquina, int operacion, const QString& tipo_ope
     if (tipo_ope == DESCARGA) {
         if (operacion == 0) Empezar_Descarga(maquina, operacion);
     } else if (tipo_ope == CARGA) {
-        Filtro_Extensiones(maquina, operacion, tipo_ope);
+        if (Filtro_Extensiones(maquina, operacion, tipo_ope).isNull()) return;
         Subir_NV400(operacion);
     }
 }
@@ -73,7 +73,7 @@ void Lanzar_Serie_B(const QString& maquina, int operacion, const QString& tipo_o
         return;
     }
     if (tipo_ope != CARGA) return;
-    Filtro_Extensiones(maquina, operacion, tipo_ope);
+    if (Filtro_Extensiones(maquina, operacion, tipo_ope).isNull()) return;
     switch (operacion) {
     case 2: No_Disponible("La carga de librerías de códigos"); break;
     case 4:
@@ -132,7 +132,7 @@ QString Filtro_Extensiones(const QString& maquina, int operacion, const QString&
             filtro += u'|' + Basico::Trim(tipos.Texto("descripcion")) + u'|' +
                       Basico::Trim(tipos.Texto("ext"));
     }
-    return filtro.mid(1);
+    return filtro.isEmpty() ? QStringLiteral("") : filtro.mid(1);
 }
 
 Texto_Recordatorio Leer_Recordatorio()

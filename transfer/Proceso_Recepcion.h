@@ -20,6 +20,8 @@ struct Datos_Recepcion {
     int destino = 0;  ///< of a code library: 0 database, 1 text file
     QString maquina;  ///< family key
     QString maqdes;   ///< model name
+    bool rescatada = false;  ///< from a journal: the level's staged rows of its failed storing go
+    bool cortada = false;    ///< and the journal breaks off: the level's open job is a session too
 };
 
 /// Routes the finished reception to the storing of its family and compacts the database.

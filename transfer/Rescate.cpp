@@ -6,6 +6,29 @@
 
 #include <QRegularExpression>
 
+namespace {
+
+// @param terminada  set when the instrument had ended the transmission
+QString Leer(const QString& fichero, const QString& maquina, bool& terminada)
+{
+    const QByteArray bytes = Ficheros::Leer(fichero);
+    Recepcion = {};
+    terminada = false;
+    const Salida_Recepcion comm{[](const QByteArray&) {}, [&terminada] { terminada = true; }};
+    for (const char c : bytes) {
+        if (terminada) break;
+        Recibir_Caracter(c, maquina, comm);
+    }
+    const Estado_Recepcion leido = std::exchange(Recepcion, {});
+    if (maquina == u"NV400") return leido.Acumulado;
+    // The last record of a stream that broke off may lack its last figures.
+    if (!terminada && (maquina == u"KRT300" || maquina == u"PX7"))
+        return leido.Buffer.left(qMax<qsizetype>(leido.Buffer.lastIndexOf(u'_'), 0));
+    return leido.Buffer;
+}
+
+} // namespace
+
 QList<Rescate> Rescates()
 {
     static const QRegularExpression forma(
@@ -29,25 +52,16 @@ QList<Rescate> Rescates()
 
 QString Leer_Diario(const QString& fichero, const QString& maquina)
 {
-    const QByteArray bytes = Ficheros::Leer(fichero);
-    Recepcion = {};
     bool terminada = false;
-    const Salida_Recepcion comm{[](const QByteArray&) {}, [&terminada] { terminada = true; }};
-    for (const char c : bytes) {
-        if (terminada) break;
-        Recibir_Caracter(c, maquina, comm);
-    }
-    const Estado_Recepcion leido = std::exchange(Recepcion, {});
-    if (maquina == u"NV400") return leido.Acumulado;
-    // The last record of a stream that broke off may lack its last figures.
-    if (!terminada && (maquina == u"KRT300" || maquina == u"PX7"))
-        return leido.Buffer.left(qMax<qsizetype>(leido.Buffer.lastIndexOf(u'_'), 0));
-    return leido.Buffer;
+    return Leer(fichero, maquina, terminada);
 }
 
 Resultado_Recepcion Rescatar(const QString& fichero, Datos_Recepcion datos)
 {
-    datos.buffer = Leer_Diario(fichero, datos.maquina);
+    bool terminada = false;
+    datos.buffer = Leer(fichero, datos.maquina, terminada);
+    datos.rescatada = true;
+    datos.cortada = !terminada;
     if (datos.buffer.isEmpty())
         throw Error_Ejecucion(62, "El fichero " + fichero + " no contiene ningún registro completo");
     Resultado_Recepcion r = Procesar_Recepcion(datos);

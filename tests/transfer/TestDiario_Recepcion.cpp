@@ -3,6 +3,7 @@
 #include "tests/apoyo/Interfaz_Guion.h"
 #include "tests/apoyo/Prueba.h"
 #include "transfer/Diario_Recepcion.h"
+#include "transfer/NV400.h"
 #include "transfer/Rescate.h"
 
 // The journal of received bytes and the sessions rescued from it.
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void rescatado_entero_guarda_tambien_el_ultimo();
     void krt800_rescata_las_lineas_completas();
     void nv400_rescata_las_lineas_aceptadas();
+    void nv400_rescatado_en_cualquier_corte_no_pierde_lineas();
     void rescatar_guarda_y_quita_el_diario();
     void rescatar_lo_vacio_dice_por_que();
 
@@ -226,6 +228,37 @@ void TestDiario_Recepcion::nv400_rescata_las_lineas_aceptadas()
     const QString f = Escribir("A,01,Z,\r\ng,1,#,\r\n" + QByteArray("g,") + char(((103 + 44) & 63) + 32) +
                                ",\r\nh,");
     QCOMPARE(Leer_Diario(f, "NV400"), QString("g,") + QChar(((103 + 44) & 63) + 32) + ",\r\n");
+}
+
+// Two jobs, cut behind each of their lines: every accepted line is in a session that can be seen.
+void TestDiario_Recepcion::nv400_rescatado_en_cualquier_corte_no_pierde_lineas()
+{
+    const QByteArrayList lineas = {"a,012UNO,", "g,1,", "t,9,", "a,012DOS,", "h,2,", "t,9,", "u,1,"};
+    QByteArray bytes = "A,01,Z,\r\n";
+    for (qsizetype n = 1; n <= lineas.size(); ++n) {
+        const QByteArray& linea = lineas[n - 1];
+        bytes += linea + Suma_Nivel(QString::fromLatin1(linea)).toLatin1() + ",\r\n";
+        // What a storing that failed left behind is in the journal too.
+        Base_Datos->Execute("INSERT INTO Registros_Temp (Secuencia, Datos) VALUES (1, 'resto')");
+        const QString f = Escribir(bytes);
+        const Resultado_Recepcion r = Rescatar(f, {QString(), "", 0, 0, "NV400", "Modelo"});
+        QVERIFY(r.completa);
+        QVERIFY(!QFile::exists(f));
+        QCOMPARE(r.sesiones.size(), n <= 3 ? 1 : n <= 6 ? 2 : 3);
+        const QStringList guardadas = base->Columna(
+            "SELECT Datos FROM Registros,Sesiones WHERE Registros.ID = Sesiones.ID "
+            "ORDER BY Registros.ID,Secuencia");
+        QCOMPARE(guardadas.size(), n);
+        for (qsizetype i = 0; i < n; ++i)
+            QVERIFY(guardadas[i].startsWith(QString::fromLatin1(lineas[i])));
+        Base_Datos->Execute("DELETE FROM Sesiones");
+        Base_Datos->Execute("DELETE FROM Registros");
+    }
+    // Ended by the level, it is stored as a download is.
+    const Resultado_Recepcion r =
+        Rescatar(Escribir(bytes + "Z,&,\r\n"), {QString(), "", 0, 0, "NV400", "Modelo"});
+    QCOMPARE(r.sesiones, (QStringList{"1", "2"}));
+    QVERIFY(interfaz->avisos.isEmpty());
 }
 
 void TestDiario_Recepcion::rescatar_guarda_y_quita_el_diario()

@@ -337,6 +337,12 @@ void TestProceso_Recepcion::krt800_operacion_7_junta_los_perfiles()
     QCOMPARE(Filas(), (QStringList{"1/2//100,-5,b/", "1/4//100,0,d/", "1/1//100,5,a/",
                                    "1/5//120,-10,e/", "1/3//120,3,c/"}));
     QVERIFY(interfaz->avisos.isEmpty());
+
+    // A line's own "%" and figure is text like any other.
+    Base_Datos->Execute("DELETE FROM Registros");
+    Procesar("KRT800", 7, "100%4,5,%1\r\n100%4,2,%5\r\n");
+    QCOMPARE(Filas(), (QStringList{"2/2//100%4,2,%5/", "2/1//100%4,5,%1/"}));
+    QVERIFY(interfaz->avisos.isEmpty());
 }
 
 void TestProceso_Recepcion::krt800_operacion_7_con_comilla_avisa()
