@@ -2,9 +2,14 @@
 #include "core/Sucesos.h"
 #include "session/Decodificador.h"
 
+#include <algorithm>
+#include <climits>
 #include <QHash>
 
 namespace {
+
+// No record is wider: what a damaged row holds beyond it adds up without an overflow.
+constexpr qint64 MAX_DIGITOS = 32767;
 
 using Clave = std::pair<QString, QString>;
 
@@ -19,8 +24,8 @@ Fila_Campo Fila_De(const Conjunto_Registros& campos)
     f.maquina = campos.Texto("Maquina");
     f.id = campos.Texto("ID");
     f.campo = campos.Texto("Campo");
-    f.orden = int(campos.Entero("Orden"));
-    f.digitos = int(campos.Entero("Digitos"));
+    f.orden = int(std::clamp<qint64>(campos.Entero("Orden"), INT_MIN, INT_MAX));
+    f.digitos = int(std::clamp(campos.Entero("Digitos"), -MAX_DIGITOS, MAX_DIGITOS));
     f.posdigit = campos.Texto("PosDigit");
     f.forsalida = campos.Texto("Forsalida");
     f.especial = campos.Texto("Especial");

@@ -20,7 +20,7 @@ FrmEditar::FrmEditar() : Ventana(QStringLiteral("FrmEditar")), MSF(Hacer_Rejilla
     LblPunto->setFont(negrita);
     BtnRetrasar = Piezas::Boton_Dibujo(
         "BtnRetrasar", "retrasar.png", "<",
-        "Retrocede al anterior registro de datos (Utilize - desde el teclado)");
+        "Retrocede al anterrior registro de datos (Utilize - desde el teclado)");
     BtnAvanzar =
         Piezas::Boton_Dibujo("BtnAvanzar", "avanzar.png", ">",
                              "Avanza al siguiente registro de datos (Utilize + desde el teclado)");

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void una_fila_a_mano_se_ve_al_momento();
     void la_base_reabierta_vacia_la_cache();
     void una_base_rota_calla();
+    void las_filas_absurdas_vacian_lo_suyo();
 };
 
 void TestDecodificador::las_cifras_se_parten_data()
@@ -574,6 +575,35 @@ void TestDecodificador::una_base_rota_calla()
     Extraer_Punto(*cerrada, 1, "KRT300", 0, "1", 1, 9, {"Código"}, valores);
     QCOMPARE(valores, QStringList{""});
     QVERIFY(p.Leer("LOG/Miraldos.log").contains("Extraer_Punto"));
+}
+
+void TestDecodificador::las_filas_absurdas_vacian_lo_suyo()
+{
+    Base_De_Prueba p;
+    for (const QString maquina : {"KRT300", "KRT800"}) {
+        Clave_Estacion = maquina;
+        p.Fila("Identificadores", {{"Nombre", maquina}, {"OPE", 0}, {"ID", "A"}, {"tipo", "G"}});
+        const auto campo = [&](const QString& nombre, const QVariant& orden, const QVariant& digitos,
+                               const QVariant& posdigit, const QVariant& caracter) {
+            p.Fila("Campos", {{"Maquina", maquina}, {"ID", "A"}, {"Campo", nombre}, {"Orden", orden},
+                              {"Digitos", digitos}, {"PosDigit", posdigit}, {"Caracter", caracter},
+                              {"Forsalida", nombre == u"Mal" ? "0.#0.##" : ""}});
+        };
+        campo("Bueno", 1, 3, "*", QVariant());
+        campo("Nulo", 2, QVariant(), QVariant(), QVariant());
+        campo("Mal", 3, 4, "siete,tres", ".");
+        campo("Ancho", 4, 2147483647, "999999999,9999999999", ".");
+        campo("Ancho 2", 5, 2147483647, "7,3", ".");
+        campo("Ancho 3", qint64(1) << 40, 2147483647, "7,3", ".");
+        campo("Atrás", -1, -2147483647, "-3,-3", ".");
+        campo("Atrás 2", -1, -2147483647, "*", ".");
+        const QStringList nombres = {"Bueno", "Nulo",    "Mal",   "Ancho",
+                                     "Ancho 2", "Ancho 3", "Atrás", "Atrás 2"};
+        QStringList valores(nombres.size());
+        Decodificar_Linea(*Base_Datos, "A abc1234,99", "1", maquina, 0, nombres, valores);
+        Decodificar_General(*Base_Datos, "Aabc1234", maquina, nombres, valores, 0);
+        QCOMPARE(Posicion_Campo(*Base_Datos, "A", 6), 1 - 2 * 32767 + 3 + 4 + 2 * 32767);
+    }
 }
 
 PRUEBA(TestDecodificador)

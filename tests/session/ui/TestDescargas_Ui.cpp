@@ -374,7 +374,7 @@ void TestDescargas_Ui::avanzar_y_retroceder()
                      QString("Avanza al siguiente registro de datos (Utilize + desde el teclado)"));
             QCOMPARE(
                 Hijo<QPushButton>(w, "BtnRetrasar").toolTip(),
-                QString("Retrocede al anterior registro de datos (Utilize - desde el teclado)"));
+                QString("Retrocede al anterrior registro de datos (Utilize - desde el teclado)"));
             ver();
             Pulsar(w, "BtnAvanzar");
             ver();
