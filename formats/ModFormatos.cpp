@@ -12,11 +12,12 @@ QString Doblar(const QString& texto)
     return Reemplazar(texto, "'", "''");
 }
 
-// Takes an identifier into the next free slot unless it stands in one.
+// Takes an identifier into the next free slot unless it stands in one; an empty one stands in every
+// free slot.
 void Anotar_Id(int& libre, const QString& id)
 {
     const QString doblado = Doblar(id);
-    if (datosexport.mid(0, libre).contains(doblado)) return;
+    if (esta_en_datosexport(doblado)) return;
     if (libre >= MAX_IDS) throw Error_Ejecucion(9);
     datosexport[libre++] = doblado;
 }
