@@ -1,5 +1,6 @@
 #include "app/cli/Instalacion.h"
 #include "app/cli/Ordenes_Sesion.h"
+#include "core/Error_Ejecucion.h"
 #include "core/ModEstTotal.h"
 #include "formats/ModFormatos.h"
 #include "session/Consultas_Sesion.h"
@@ -84,7 +85,13 @@ int Orden_Formatos(const Contexto& c, const QStringList& palabras)
         for (const QString& nombre : Nombres_Formatos(*Base_Datos, maquina)) {
             const auto formato = Buscar_Formato(*Base_Datos, maquina, nombre);
             if (!formato) continue;
-            QStringList campos = Campos_Formato(*Base_Datos, maquina, nombre);
+            QStringList campos;
+            try {
+                campos = Campos_Formato(*Base_Datos, maquina, nombre);
+            } catch (const Error_Ejecucion& e) {
+                // A name that its own statement can't hold hides its fields, not the other formats.
+                c.Mensaje(nombre + ": " + e.descripcion);
+            }
             // Behind 40 characters a field of the level carries the mark of its half.
             if (maquina == u"NV400")
                 for (QString& campo : campos) campo = Basico::Trim(campo.left(40));

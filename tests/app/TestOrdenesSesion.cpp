@@ -21,6 +21,7 @@ private Q_SLOTS:
     void exportar_dice_que_falta_data();
     void exportar_dice_que_falta();
     void un_formato_se_crea_y_se_borra();
+    void un_formato_con_apostrofo_no_tapa_los_demas();
     void un_formato_repetido_no_se_guarda();
     void borrar_quita_la_sesion_con_permiso();
     void compactar_deja_su_copia();
@@ -219,6 +220,17 @@ void TestOrdenesSesion::un_formato_se_crea_y_se_borra()
     QVERIFY(errores.contains("El campo \"Nada\" no está disponible"));
     Correr({"formatos", "--maquina", "KRT300"});
     QCOMPARE(Lineas().size(), 2);
+}
+
+void TestOrdenesSesion::un_formato_con_apostrofo_no_tapa_los_demas()
+{
+    base->Fila("Formatos1", {{"Nombre", "D'Or"}, {"Maquina", "KRT300"}, {"cabeceras", "NO"},
+                             {"Modificable", "SI"}, {"ope", 1}, {"Ids", "x "}});
+    base->Fila("Formatos1", {{"Nombre", "Z"}, {"Maquina", "KRT300"}, {"cabeceras", "NO"},
+                             {"Modificable", "NO"}, {"ope", 1}, {"Ids", "x "}});
+    QCOMPARE(Correr({"formatos", "--maquina", "KRT300"}), int(HECHO));
+    QCOMPARE(Lineas().mid(2), (QStringList{"D'Or\tKRT300\t1\tSI\t", "Z\tKRT300\t1\tNO\t"}));
+    QVERIFY2(errores.startsWith("D'Or: "), errores.constData());
 }
 
 void TestOrdenesSesion::un_formato_repetido_no_se_guarda()
