@@ -1,6 +1,7 @@
 // Writing a table of 32,768 rows by 8 text columns to a workbook of Excel 97 against libxlsxwriter
 // writing the same table to an .xlsx, both from text in memory to the finished file.
 #include "bench/Proporcion.h"
+#include "bench/Tabla_De_Campo.h"
 #include "export/excel/Fichero_Excel.h"
 
 #include <QTemporaryDir>
@@ -9,30 +10,6 @@
 #include <xlsxwriter.h>
 
 namespace {
-
-constexpr int FILAS = 32768;
-constexpr int COLUMNAS = 8;
-
-// What a field book exports: names and codes that come back, coordinates that don't.
-QString Celda_De_Campo(int fila, int columna)
-{
-    switch (columna) {
-    case 0:
-        return QStringLiteral("P%1").arg(fila);
-    case 1:
-    case 2:
-    case 3:
-        return QString::number(4500000.0 + fila * 1.237 + columna * 317.1, 'f', 3);
-    case 4:
-        return QStringLiteral("Código %1").arg(fila % 40);
-    case 5:
-        return QStringLiteral("Descripción del punto %1").arg(fila % 500);
-    case 6:
-        return QString::number(fila % 400 + 0.125, 'f', 4);
-    default:
-        return QStringLiteral("%1:%2").arg(fila / 60 % 24, 2, 10, QChar(u'0')).arg(fila % 60);
-    }
-}
 
 void Escribir_32768_x_8(benchmark::State& estado)
 {

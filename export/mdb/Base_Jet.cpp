@@ -2,7 +2,6 @@
 
 #include "core/Ansi.h"
 #include "core/Error_Ejecucion.h"
-#include "core/Ficheros.h"
 #include "core/Reloj.h"
 #include "export/mdb/Catalogo_Jet.h"
 #include "export/mdb/Definicion_Jet.h"
@@ -207,7 +206,7 @@ Base_Jet::Base_Jet(const QString& nombre, const Ajustes_Jet& ajustes)
     Comprobar_Destino(nombre, ajustes);
     auto fichero = std::make_unique<QSaveFile>(nombre);
     if (!fichero->open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        throw Ficheros::Error_De(*fichero);
+        throw Error_Con(70, QStringLiteral("%1 (%2)").arg(nombre, fichero->errorString()));
     obra = std::make_unique<Obra>(*fichero, ajustes);
     obra->fichero = std::move(fichero);
     obra->reemplazar = ajustes.si_existe == Ajustes_Jet::REEMPLAZAR;

@@ -2,6 +2,7 @@
 #include "export/excel/Fichero_Excel.h"
 #include "tests/apoyo/Prueba.h"
 #include "tests/app/Correr.h"
+#include "tools/revisar_mdb/Revisor.h"
 
 #include <QProcess>
 
@@ -90,6 +91,7 @@ void TestTabla::un_texto_se_hace_base()
             Correr(QStringList{"tabla", entrada, base, "--separador", "coma"} + opcion);
         QCOMPARE(s.mensajes, QString());
         QCOMPARE(s.estado, int(HECHO));
+        QCOMPARE(Revisar_Mdb(Ficheros::Leer(base)), QStringList());
         QProcess lector;
         lector.start("mdb-export", {base, tabla});
         QVERIFY(lector.waitForFinished());
@@ -147,6 +149,19 @@ void TestTabla::lo_que_falla_no_deja_fichero_data()
     QTest::newRow("columna repetida") << QByteArray("a\tA\n") << "s.mdb" << sin << "(3191) ";
     QTest::newRow("celda larga en la base")
         << QByteArray("a\nb\n") + QByteArray(81, 'x') << "s.mdb" << sin << "(3163) Línea 3: ";
+    QTest::newRow("columna sin título") << QByteArray("a\t\n") << "s.mdb" << sin << "(3125) ";
+    QByteArray titulos, fila; // letters beyond Latin-1 take two bytes each
+    for (int c = 0; c < 30; ++c)
+        titulos += "c" + QByteArray::number(c) + "\t", fila += QByteArray("€").repeated(80) + "\t";
+    QTest::newRow("fila larga en la base")
+        << titulos.chopped(1) + "\n" + fila.chopped(1) << "s.mdb" << sin << "(3047) Línea 2: ";
+    QTest::newRow("columna con punto") << QByteArray("a.b\n") << "s.mdb" << sin << "(3125) ";
+    QTest::newRow("columnas de más en la base")
+        << QByteArray(256, '\t') << "s.mdb" << sin << "(3190) ";
+    QTest::newRow("tabla con corchete")
+        << QByteArray("a\n") << "s.mdb" << QStringList{"--tabla", "[T]"} << "(3125) ";
+    QTest::newRow("base sin carpeta") << QByteArray("a\n") << "no/s.mdb" << sin << "(3044) ";
+    QTest::newRow("nombre de base") << QByteArray("a\n") << "s?.mdb" << sin << "(3055) ";
     QTest::newRow("sin carpeta") << QByteArray("a\n") << "no/s.xls" << sin << "(76) ";
 }
 
