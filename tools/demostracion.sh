@@ -12,8 +12,9 @@ trap 'kill "$simulador" 2>/dev/null || true; rm -f "$enlace"' EXIT
 for _ in $(seq 50); do [ -e "$enlace" ] && break; sleep 0.1; done
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-  # A Puertos.ini that the user has written stays his.
-  [ -e "$instalacion/Puertos.ini" ] || printf '[PUERTOS]\r\nCOM1=%s\r\n' "$enlace" >"$instalacion/Puertos.ini"
+  # A Puertos.ini that the user has written stays his. It is in the page of all the program's files.
+  [ -e "$instalacion/Puertos.ini" ] || printf '[PUERTOS]\r\nCOM1=%s\r\n' "$enlace" |
+    iconv -f UTF-8 -t WINDOWS-1252 >"$instalacion/Puertos.ini"
   echo "Hay un KRT300 simulado en COM1: Transferencias, una operación, Intro e Iniciar."
   "$instalacion/Miraldos"
   exit
