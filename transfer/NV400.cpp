@@ -2,13 +2,7 @@
 
 #include "core/Ansi.h"
 #include "core/Basico.h"
-
-QChar Suma_Nivel(const QString& texto)
-{
-    int suma = 0;
-    for (const QChar c : texto) suma += Ansi::Codigo(c);
-    return Ansi::Caracter((suma & 0x3F) + 32);
-}
+#include "core/Trozos.h"
 
 Clase_Linea Clasificar_Linea(const QString& linea)
 {

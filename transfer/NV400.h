@@ -11,9 +11,6 @@ inline const QByteArray LINEA_NAK = QByteArrayLiteral("\x15,!,\r\n");
 /// What a received line is.
 enum class Clase_Linea { Mala = 0, Inicio = 1, Datos = 2, Fin = 3 };
 
-/// Checksum of a payload with its last comma: sum of the character codes, low six bits, plus 32.
-QChar Suma_Nivel(const QString& texto);
-
 /// Classifies a whole line, CR LF included; four characters or fewer are bad.
 Clase_Linea Clasificar_Linea(const QString& linea);
 

@@ -19,6 +19,10 @@ int Orden_Descargar(const Contexto& c, const QStringList& palabras)
     const Instalacion instalacion(c);
     instalacion.Elegir_Modelo(modelo);
     instalacion.Comprobar_Operacion(ope, "D");
+    if (ope == 2 && (Clave_Estacion == u"KRT300" || Clave_Estacion == u"PX7")) {
+        c.Mensaje("La descarga de librerías de códigos todavía no está disponible en esta versión");
+        return RECHAZADO;
+    }
     const QStringList velocidades = Vel_Puerto.split(u',');
     if (a.Hay("velocidad")) Velocidad = a.Opcion("velocidad");
     else if (!velocidades.contains(Velocidad)) Velocidad = velocidades.first();
