@@ -50,9 +50,14 @@ function(miraldos_piso nombre)
 endfunction()
 
 # miraldos_pruebas(<folder> <libraries...>): one test program for the folder's tests
-# (tests/<folder>/Test*.cpp) and one ctest entry a file.
+# (tests/<folder>/Test*.cpp, those of its rooms included) and one ctest entry a file. Tests of
+# windows lie in ui/ and have a program of their own.
 function(miraldos_pruebas nombre carpeta main)
-  file(GLOB fuentes CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${carpeta}/Test*.cpp)
+  file(GLOB fuentes CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${carpeta}/Test*.cpp
+                                      ${CMAKE_SOURCE_DIR}/tests/${carpeta}/*/Test*.cpp)
+  if(NOT carpeta MATCHES "ui$")
+    list(FILTER fuentes EXCLUDE REGEX "/ui/")
+  endif()
   if(NOT fuentes)
     return()
   endif()
