@@ -1,4 +1,4 @@
-#include "export/Fichero_Texto.h"
+#include "export/texto/Fichero_Texto.h"
 
 #include "core/Ansi.h"
 #include "core/Ficheros.h"

@@ -1,7 +1,7 @@
 #include "export/Escritor_Texto.h"
 
 #include "core/ModEstTotal.h"
-#include "export/Fichero_Texto.h"
+#include "export/texto/Fichero_Texto.h"
 #include "session/Texto_Nivel.h"
 
 #include <algorithm>
