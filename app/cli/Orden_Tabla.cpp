@@ -4,19 +4,17 @@
 #include "core/Ficheros.h"
 #include "export/Conversion_Tabla.h"
 #include "export/excel/Fichero_Excel.h"
+#include "session/Separadores.h"
 
 #include <QFileInfo>
 
 namespace {
 
-constexpr std::pair<const char16_t*, char16_t> SEPARADORES[] = {
-    {u"tabulacion", u'\t'}, {u"coma", u','}, {u"espacio", u' '}};
-
 QChar Separador_De(const QString& nombre)
 {
-    for (const auto& [n, c] : SEPARADORES)
-        if (nombre == QStringView(n)) return c;
-    throw Error_Uso{"Separador desconocido: " + nombre};
+    const int indice = Indice_Separador(nombre);
+    if (indice < 0) throw Error_Uso{"Separador desconocido: " + nombre};
+    return Separadores()[std::size_t(indice)].caracter;
 }
 
 Version_Excel Version_De(const QString& nombre)
