@@ -16,4 +16,5 @@ QByteArray Texto_De_Hoja(const Hoja_Excel& hoja);
 /// names of the columns, all of them texts of 80 characters that may be empty.
 /// @param nombre_tabla  its table
 /// @throws Error_Ejecucion those of Base_Jet; one that a row brings names the row's line
-void Base_De_Tabla(const Tabla_Separada& tabla, const QString& fichero, const QString& nombre_tabla);
+void Base_De_Tabla(const Tabla_Separada& tabla, const QString& fichero,
+                   const QString& nombre_tabla);

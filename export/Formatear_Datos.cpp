@@ -1,8 +1,8 @@
-#include "export/GuardarN.h"
+#include "export/Formatear_Datos.h"
 
-#include "core/ModEstTotal.h"
-#include "export/Escritor_Texto.h"
-#include "formats/ModFormatos.h"
+#include "core/Error_Ejecucion.h"
+#include "core/Familia.h"
+#include "export/Filas_Marcadas.h"
 #include "session/Decodificador.h"
 
 #include <algorithm>
@@ -12,33 +12,6 @@ namespace {
 
 // The last run has no known end.
 constexpr qint64 ULTIMA_SECUENCIA = 999999;
-
-// A session on its way into rows.
-struct Sesion_A_Formatear {
-    Base& bd;
-    qint64 id;
-    const QString& maquina;
-    int ope;
-    const QStringList& campos;
-    Avance_Exportar& avance;
-};
-
-// Moves the bar now and then, and lets the interface repaint.
-class Marcador {
-public:
-    Marcador(Avance_Exportar& avance_, qint64 total) : avance(avance_) { avance.Maximo(total); }
-    void Paso()
-    {
-        if (++hechos % PASOS_POR_REPINTADO != 0) return;
-        avance.Valor(hechos);
-        Interfaz_Actual().Repintar();
-    }
-    void Terminar() { avance.Valor(hechos); }
-
-private:
-    Avance_Exportar& avance;
-    qint64 hechos = 0;
-};
 
 // One output row on its way: the cells by field, and the table that takes them.
 class Fila_En_Curso {
@@ -67,8 +40,8 @@ qint64 Contar_Registros(Base& bd, qint64 id)
     return cuenta.Siguiente() ? cuenta.Entero(0) : 0;
 }
 
-// KRT300 and PX7, one query a run.
-void Formatear_Por_Corridas(const Sesion_A_Formatear& s, Filas_Exportar& filas)
+// Runs of points, one query a run.
+void Llenar_Por_Corridas(const Origen_Exportar& s, Filas_Exportar& filas)
 {
     const std::vector<Corrida_Punto> corridas = Buscar_Corridas(s.bd, s.id);
     Marcador marcador(s.avance, qint64(corridas.size()));
@@ -85,7 +58,7 @@ void Formatear_Por_Corridas(const Sesion_A_Formatear& s, Filas_Exportar& filas)
 // The same in one pass through the lines: a run closes where the point changes. This holds while
 // the sequence grows from run to run, as every stored session's does.
 // @return false when it doesn't, or goes beyond the last run's end: `filas` is then of no use
-bool Formatear_De_Una_Pasada(const Sesion_A_Formatear& s, Filas_Exportar& filas)
+bool Llenar_De_Una_Pasada(const Origen_Exportar& s, Filas_Exportar& filas)
 {
     Decodificador decodificador(s.bd, s.maquina, s.ope, s.campos);
     const bool con_generales = decodificador.Hay_Generales();
@@ -125,15 +98,15 @@ bool Formatear_De_Una_Pasada(const Sesion_A_Formatear& s, Filas_Exportar& filas)
     return secuencia <= ULTIMA_SECUENCIA;
 }
 
-void Formatear_KRT300(const Sesion_A_Formatear& s, Filas_Exportar& filas)
+void Llenar_Con_Puntos(const Origen_Exportar& s, Datos_Formateados& datos)
 {
-    if (!Formatear_De_Una_Pasada(s, filas)) Formatear_Por_Corridas(s, filas);
+    if (!Llenar_De_Una_Pasada(s, datos.filas)) Llenar_Por_Corridas(s, datos.filas);
 }
 
-void Formatear_KRT800(const Sesion_A_Formatear& s, Filas_Exportar& filas)
+void Llenar_Con_Registros(const Origen_Exportar& s, Datos_Formateados& datos)
 {
     Decodificador decodificador(s.bd, s.maquina, s.ope, s.campos);
-    Fila_En_Curso fila(filas, s.campos.size());
+    Fila_En_Curso fila(datos.filas, s.campos.size());
     Marcador marcador(s.avance, Contar_Registros(s.bd, s.id));
     Recorrido registros =
         s.bd.Recorrer("SELECT Datos,DatosG FROM Registros WHERE ID = ? ORDER BY SECUENCIA", {s.id});
@@ -149,7 +122,7 @@ void Formatear_KRT800(const Sesion_A_Formatear& s, Filas_Exportar& filas)
     marcador.Terminar();
 }
 
-void Formatear_Nivel(const Sesion_A_Formatear& s, Datos_Formateados& datos)
+void Llenar_Con_Mediciones(const Origen_Exportar& s, Datos_Formateados& datos)
 {
     Decodificador decodificador(s.bd, s.maquina, s.ope, s.campos);
     Fila_En_Curso fila(datos.filas, s.campos.size());
@@ -168,9 +141,18 @@ void Formatear_Nivel(const Sesion_A_Formatear& s, Datos_Formateados& datos)
     marcador.Terminar();
 }
 
-} // namespace
+// What makes a row of a session's lines, by the series of its family.
+struct Relleno {
+    Serie serie;
+    void (*llenar)(const Origen_Exportar& s, Datos_Formateados& datos);
+};
+constexpr Relleno RELLENOS[] = {
+    {Serie::A, Llenar_Con_Puntos},
+    {Serie::B, Llenar_Con_Registros},
+    {Serie::Nivel, Llenar_Con_Mediciones},
+};
 
-Avance_Exportar::~Avance_Exportar() = default;
+} // namespace
 
 std::vector<Corrida_Punto> Buscar_Corridas(Base& bd, qint64 id)
 {
@@ -189,24 +171,14 @@ std::vector<Corrida_Punto> Buscar_Corridas(Base& bd, qint64 id)
     return corridas;
 }
 
-QStringList Cargar_Campos_Exportar()
-{
-    const qsizetype fin = Campos_Exportar.indexOf(QString());
-    return fin < 0 ? Campos_Exportar : Campos_Exportar.mid(0, fin);
-}
-
-Datos_Formateados Formatear_Datos(Base& bd, qint64 id, const QString& maquina, int ope,
-                                  const QStringList& campos, Avance_Exportar& avance)
+Datos_Formateados Formatear_Datos(const Origen_Exportar& origen)
 {
     Datos_Formateados datos;
-    datos.filas.resize(std::size_t(campos.size()));
-    const Sesion_A_Formatear sesion{bd, id, maquina, ope, campos, avance};
-    if (maquina == u"KRT300" || maquina == u"PX7")
-        Formatear_KRT300(sesion, datos.filas);
-    else if (maquina == u"KRT800")
-        Formatear_KRT800(sesion, datos.filas);
-    else if (maquina == u"NV400")
-        Formatear_Nivel(sesion, datos);
+    datos.campos = origen.campos;
+    datos.filas.resize(std::size_t(origen.campos.size()));
+    const Serie serie = Familia_De(origen.maquina).serie;
+    const auto relleno = std::ranges::find(RELLENOS, serie, &Relleno::serie);
+    if (relleno != std::end(RELLENOS)) relleno->llenar(origen, datos);
     Ajustar_Filas(datos.filas);
     Igualar_Columnas(datos.filas);
     return datos;
@@ -230,49 +202,4 @@ void Igualar_Columnas(Filas_Exportar& filas)
             std::fill(celda.begin() + largo, celda.end(), QChar(u' '));
         }
     }
-}
-
-const QList<Salida_Exportar>& Salidas_Exportar()
-{
-    static const QList<Salida_Exportar> salidas = {
-        {"TxF", Escribir_Texto_Formateado, nullptr},
-        {"Txt", Escribir_Texto_Separado, nullptr},
-        {"Xls", nullptr, nullptr},
-        {"mdb", nullptr, nullptr},
-    };
-    return salidas;
-}
-
-Escritor Escritor_De(const QString& tipo)
-{
-    for (const Salida_Exportar& salida : Salidas_Exportar())
-        if (salida.tipo.compare(tipo, Qt::CaseInsensitive) == 0)
-            return Clave_Estacion == u"NV400" ? salida.escribir_nivel : salida.escribir;
-    return nullptr;
-}
-
-bool Exportar_Sesion(qint64 id, const QString& maquina, int ope, const QString& tipo,
-                     const QString& formato, const QString& fichero, const QString& opciones,
-                     Avance_Exportar& avance)
-{
-    const Escritor escribir = Escritor_De(tipo);
-    if (!escribir) return false;
-    bool hecho = false;
-    try {
-        const std::shared_ptr<Base> bd = Base::Abrir(Fichero_MDB);
-        avance.Etiqueta("Formateando Datos... (1 de 2)");
-        Interfaz_Actual().Repintar();
-        const QStringList campos = Cargar_Campos_Exportar();
-        const Datos_Formateados datos = Formatear_Datos(*bd, id, maquina, ope, campos, avance);
-
-        avance.Valor(0);
-        avance.Etiqueta("Exportando... (2 de 2)");
-        Interfaz_Actual().Repintar();
-        hecho =
-            escribir({*bd, id, maquina, ope, formato, fichero, campos, opciones, datos, avance});
-    } catch (...) {
-        Informe_Error("Se produjo un error al formatear los datos", Error_En_Curso());
-    }
-    avance.Valor(0);
-    return hecho;
 }

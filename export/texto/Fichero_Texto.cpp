@@ -52,11 +52,6 @@ void Fichero_Texto::Agregar(QStringView texto)
     Ansi::Agregar_Bytes(pendiente, texto);
 }
 
-void Fichero_Texto::Agregar_Blancos(qsizetype cuantos)
-{
-    pendiente.append(cuantos, ' ');
-}
-
 void Fichero_Texto::Fin_De_Linea()
 {
     pendiente += "\r\n";
