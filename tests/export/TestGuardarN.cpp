@@ -193,6 +193,7 @@ void TestGuardarN::las_columnas_se_hallan_por_su_nombre()
     QCOMPARE(datos.Numero_De_Filas(), std::size_t(1));
     QCOMPARE(datos.filas[*datos.Columna({u"Código"})].front(), QStringLiteral("A"));
     QCOMPARE(datos.Columna({u"Coordenada Z", u"Punto", u"Código"}), std::optional<std::size_t>(2));
+    QCOMPARE(datos.Columna({u"Inventado", u"Punto"}), std::optional<std::size_t>(0));
     QVERIFY(!datos.Columna({u"código", u"Punt"}) && !datos.Columna({}));
 }
 
