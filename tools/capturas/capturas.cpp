@@ -15,6 +15,7 @@
 #include "core/ui/frmPantalla.h"
 #include "core/ui/FrmProc.h"
 #include "core/ui/Frmutils.h"
+#include "export/GuardarN.h"
 #include "export/ui/FrmExportar.h"
 #include "formats/Formato_Existente.h"
 #include "formats/Formato_Nuevo.h"
