@@ -30,10 +30,7 @@ const QList<Orden>& Ordenes()
          "formato-nuevo --maquina CLAVE --ope N --nombre NOMBRE --campos \"A,B,C\" [--titulos]",
          Orden_Formato_Nuevo},
         {"formato-borrar", "formato-borrar --maquina CLAVE --nombre NOMBRE", Orden_Formato_Borrar},
-        {"exportar",
-         "exportar ID --formato NOMBRE --tipo txf|txt --salida FICHERO "
-         "[--separador espacio|coma|tabulacion] [--titulos] [--desplazamiento X,Y,Z]",
-         Orden_Exportar},
+        {"exportar", Uso_Exportar(), Orden_Exportar},
         {"borrar", "borrar ID", Orden_Borrar},
         {"compactar", "compactar", Orden_Compactar},
         {"convertidor", "convertidor FUNCION ARGUMENTO...", Orden_Convertidor},

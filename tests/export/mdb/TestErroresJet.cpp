@@ -2,7 +2,7 @@
 #include "export/mdb/Base_Jet.h"
 #include "export/mdb/Paginas_Jet.h"
 #include "tests/apoyo/Prueba.h"
-#include "tests/export/Lectura_Jet.h"
+#include "tests/export/mdb/Lectura_Jet.h"
 
 #include <QBuffer>
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 /// A table as a separated text holds it.
-struct Tabla_Texto {
+struct Tabla_Separada {
     /// A row: never more cells than titles, perhaps fewer.
     struct Fila {
         int linea = 0; ///< of the text on which it begins, from 1
@@ -26,7 +26,7 @@ struct Tabla_Texto {
 /// like any other.
 /// @throws Error_Ejecucion 13, naming the line: bytes that aren't UTF-8, a null character, more
 ///         cells than titles, quotes that don't close or text behind them; 62 for an empty text
-Tabla_Texto Leer_Tabla_Texto(QByteArrayView utf8, QChar separador);
+Tabla_Separada Leer_Tabla_Separada(QByteArrayView utf8, QChar separador);
 
 /// One line of cells separated by tabs; tabs and line ends inside a cell become blanks.
 QByteArray Linea_Tabulada(const QStringList& celdas);

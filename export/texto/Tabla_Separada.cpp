@@ -1,4 +1,4 @@
-#include "export/Tabla_Texto.h"
+#include "export/texto/Tabla_Separada.h"
 
 #include "core/Error_Ejecucion.h"
 
@@ -111,16 +111,16 @@ private:
 
 } // namespace
 
-Tabla_Texto Leer_Tabla_Texto(QByteArrayView utf8, QChar separador)
+Tabla_Separada Leer_Tabla_Separada(QByteArrayView utf8, QChar separador)
 {
     const QString texto = Decodificar_Todo(utf8);
     Cortador cortador(texto, separador);
     if (cortador.Fin())
         throw Error_Ejecucion(62, QStringLiteral("El texto está vacío: falta la línea de títulos"));
-    Tabla_Texto tabla;
+    Tabla_Separada tabla;
     tabla.titulos = cortador.Siguiente();
     while (!cortador.Fin()) {
-        Tabla_Texto::Fila fila;
+        Tabla_Separada::Fila fila;
         fila.linea = cortador.Linea();
         fila.celdas = cortador.Siguiente();
         if (fila.celdas.size() > tabla.titulos.size())

@@ -6,7 +6,7 @@
 #include "export/excel/Salida_Biff.h"
 #include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
-#include "tests/export/Volcado_Libro.h"
+#include "tests/export/excel/Volcado_Libro.h"
 
 #include <bit>
 #include <QRandomGenerator>

@@ -3,7 +3,7 @@
 #include "export/excel/Tabla_Excel.h"
 #include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
-#include "tests/export/Volcado_Libro.h"
+#include "tests/export/excel/Volcado_Libro.h"
 
 class TestTabla_Excel : public QObject {
     Q_OBJECT

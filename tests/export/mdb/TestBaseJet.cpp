@@ -2,7 +2,7 @@
 #include "core/Error_Ejecucion.h"
 #include "export/mdb/Base_Jet.h"
 #include "tests/apoyo/Prueba.h"
-#include "tests/export/Lectura_Jet.h"
+#include "tests/export/mdb/Lectura_Jet.h"
 
 #include <QBuffer>
 

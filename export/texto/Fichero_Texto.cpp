@@ -1,4 +1,4 @@
-#include "export/Fichero_Texto.h"
+#include "export/texto/Fichero_Texto.h"
 
 #include "core/Ansi.h"
 #include "core/Ficheros.h"
@@ -50,11 +50,6 @@ void Fichero_Texto::Linea(QStringView texto)
 void Fichero_Texto::Agregar(QStringView texto)
 {
     Ansi::Agregar_Bytes(pendiente, texto);
-}
-
-void Fichero_Texto::Agregar_Blancos(qsizetype cuantos)
-{
-    pendiente.append(cuantos, ' ');
 }
 
 void Fichero_Texto::Fin_De_Linea()

@@ -7,7 +7,7 @@
 #include "export/excel/Lector_Biff.h"
 #include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
-#include "tests/export/Volcado_Libro.h"
+#include "tests/export/excel/Volcado_Libro.h"
 
 /// What is written is read back by the program itself and by xlrd, cell by cell.
 class TestEscritor_Biff : public QObject {

@@ -1,5 +1,9 @@
 #include "core/Ansi.h"
-#include "export/Escritor_Texto.h"
+#include "export/Formatear_Datos.h"
+#include "export/Renglon.h"
+#include "export/Salidas.h"
+#include "export/texto/Escritor_Texto.h"
+#include "session/Separadores.h"
 #include "tests/apoyo/Instrumentos.h"
 #include "tests/apoyo/Interfaz_Guion.h"
 #include "tests/apoyo/Prueba.h"
@@ -33,7 +37,6 @@ class TestEscritorTexto : public QObject {
 private Q_SLOTS:
     void los_ficheros_son_los_de_siempre_data();
     void los_ficheros_son_los_de_siempre();
-    void los_anchos();
     void una_tabla_sin_filas_data();
     void una_tabla_sin_filas();
     void un_fichero_que_estaba_se_reemplaza();
@@ -45,14 +48,15 @@ private Q_SLOTS:
     void la_pagina_y_los_finales_de_linea();
 
 private:
-    bool Escribir(const char* tipo, const QString& fichero, const QString& sep, bool titulos,
-                  const Datos_Formateados& datos, const QStringList& campos = CAMPOS)
+    bool Escribir(const QString& tipo, const QString& fichero, const QString& sep, bool titulos,
+                  Datos_Formateados datos, const QStringList& campos = CAMPOS)
     {
-        const Escritor escribir =
-            QByteArray(tipo) == "TXF" ? Escribir_Texto_Formateado : Escribir_Texto_Separado;
         Avance_Exportar avance;
-        return escribir({*Base_Datos, 1, "KRT300", 0, "F", fichero, campos,
-                         sep + QChar(6) + (titulos ? "S" : "N"), datos, avance});
+        datos.campos = campos;
+        const Opciones_Exportar opciones{sep + QChar(6) + (titulos ? "S" : "N")};
+        const Origen_Exportar origen{*Base_Datos, 1, "KRT300", 0, "F", campos, opciones, avance};
+        const Modo_Salida& modo = Modo_En_Vigor();
+        return Salida_De(tipo)->escribir({origen, datos, fichero, modo.campos_con_marca});
     }
 };
 
@@ -61,13 +65,13 @@ void TestEscritorTexto::los_ficheros_son_los_de_siempre_data()
     QTest::addColumn<QString>("tipo");
     QTest::addColumn<QString>("separador");
     QTest::addColumn<bool>("titulos");
-    for (const char* tipo : {"TXF", "TXT"})
-        for (const auto& [nombre, separador] : QList<std::pair<QString, QString>>{
-                 {"espacio", " "}, {"coma", ","}, {"tabulacion", "\t"}})
+    for (const Salida_Exportar& salida : Salidas_Exportar())
+        for (const Fila_Separador& separador : Separadores())
             for (const bool titulos : {false, true})
-                QTest::newRow(qPrintable(QString("%1_%2%3").arg(QString(tipo).toLower(), nombre,
-                                                                titulos ? "_titulos" : "")))
-                    << tipo << separador << titulos;
+                if (salida.pide_separador)
+                    QTest::newRow(qPrintable(salida.palabra + '_' + separador.palabra +
+                                             (titulos ? "_titulos" : "")))
+                        << salida.tipo << QString(separador.caracter) << titulos;
 }
 
 void TestEscritorTexto::los_ficheros_son_los_de_siempre()
@@ -78,27 +82,12 @@ void TestEscritorTexto::los_ficheros_son_los_de_siempre()
     Base_De_Prueba p;
     Interfaz_Guion guion;
     Clave_Estacion = "KRT300";
-    QVERIFY(Escribir(qPrintable(tipo), p.Ruta("ficheros/s.txt"), separador, titulos, Datos(FILAS)));
+    QVERIFY(Escribir(tipo, p.Ruta("ficheros/s.txt"), separador, titulos, Datos(FILAS)));
     const QString patron = QString(DATOS_PRUEBA) + "/export/" + QTest::currentDataTag() + ".txt";
     QFile esperado(patron);
     const QByteArray obtenido = p.Leer("ficheros/s.txt");
     QVERIFY2(esperado.open(QIODevice::ReadOnly), qPrintable(patron));
     QCOMPARE(obtenido, esperado.readAll());
-}
-
-void TestEscritorTexto::los_anchos()
-{
-    const Datos_Formateados datos = Datos({{"a", "123456789"}, {"bb", ""}});
-    const QStringList campos = {"Punto", " X "};
-    std::vector<qsizetype> anchos;
-    Anchos_Columna(campos, datos.filas, anchos, true);
-    QCOMPARE(anchos, (std::vector<qsizetype>{5, 9}));
-    Anchos_Columna(campos, datos.filas, anchos, false);
-    QCOMPARE(anchos, (std::vector<qsizetype>{2, 9}));
-    Anchos_Titulos(campos, datos.filas, anchos, true);
-    QCOMPARE(anchos, (std::vector<qsizetype>{5, 1}));
-    Anchos_Titulos(campos, datos.filas, anchos, false);
-    QCOMPARE(anchos, (std::vector<qsizetype>{0, 0}));
 }
 
 void TestEscritorTexto::una_tabla_sin_filas_data()
@@ -125,11 +114,10 @@ void TestEscritorTexto::una_tabla_sin_filas()
     Clave_Estacion = "KRT300";
     Datos_Formateados vacios;
     vacios.filas.resize(3);
-    QVERIFY(Escribir(qPrintable(tipo), p.Ruta("ficheros/s.txt"), ",", titulos, vacios));
+    QVERIFY(Escribir(tipo, p.Ruta("ficheros/s.txt"), ",", titulos, vacios));
     QTEST(p.Leer("ficheros/s.txt"), "bytes");
     // Rows whose cells are all empty leave no trace in the one, and their separators in the other.
-    QVERIFY(
-        Escribir(qPrintable(tipo), p.Ruta("ficheros/s.txt"), ",", false, Datos({{"", "", ""}})));
+    QVERIFY(Escribir(tipo, p.Ruta("ficheros/s.txt"), ",", false, Datos({{"", "", ""}})));
     QCOMPARE(p.Leer("ficheros/s.txt"), QByteArray(tipo == u"TXF" ? ",,\r\n" : ""));
 }
 
@@ -197,7 +185,7 @@ void TestEscritorTexto::los_fallos_se_dicen()
     Base_De_Prueba p;
     Interfaz_Guion guion;
     Clave_Estacion = "KRT300";
-    QVERIFY(!Escribir(qPrintable(tipo), p.Ruta(fichero), ",", false, Datos(FILAS)));
+    QVERIFY(!Escribir(tipo, p.Ruta(fichero), ",", false, Datos(FILAS)));
     QCOMPARE(guion.avisos.size(), 1);
     const Interfaz_Guion::Aviso& aviso = guion.avisos[0];
     if (numero == 53) {

@@ -1,9 +1,9 @@
 #include "core/Error_Ejecucion.h"
-#include "export/Conversion_Tabla.h"
+#include "export/texto/Tabla_Separada.h"
 #include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
 
-class TestTabla_Texto : public QObject {
+class TestTabla_Separada : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void un_texto_se_corta_data();
@@ -15,11 +15,9 @@ private Q_SLOTS:
     void un_numero_es_un_numero_entero();
     void un_numero_se_escribe_y_se_lee_igual_data();
     void un_numero_se_escribe_y_se_lee_igual();
-    void la_tabla_se_hace_libro();
-    void el_libro_se_hace_texto();
 };
 
-void TestTabla_Texto::un_texto_se_corta_data()
+void TestTabla_Separada::un_texto_se_corta_data()
 {
     QTest::addColumn<QByteArray>("texto");
     QTest::addColumn<QChar>("separador");
@@ -53,23 +51,23 @@ void TestTabla_Texto::un_texto_se_corta_data()
         << QByteArray("a\tb\n\"x\t\"y\"\n") << tab << "a|b/\"x|\"y\"";
 }
 
-static QString Unir(const Tabla_Texto& tabla)
+static QString Unir(const Tabla_Separada& tabla)
 {
     QStringList lineas{tabla.titulos.join('|')};
-    for (const Tabla_Texto::Fila& fila : tabla.filas)
+    for (const Tabla_Separada::Fila& fila : tabla.filas)
         lineas << fila.celdas.join('|');
     return lineas.join('/');
 }
 
-void TestTabla_Texto::un_texto_se_corta()
+void TestTabla_Separada::un_texto_se_corta()
 {
     QFETCH(QByteArray, texto);
     QFETCH(QChar, separador);
     QFETCH(QString, cortado);
-    QCOMPARE(Unir(Leer_Tabla_Texto(texto, separador)), cortado);
+    QCOMPARE(Unir(Leer_Tabla_Separada(texto, separador)), cortado);
 }
 
-void TestTabla_Texto::un_texto_malo_dice_la_linea_data()
+void TestTabla_Separada::un_texto_malo_dice_la_linea_data()
 {
     QTest::addColumn<QByteArray>("texto");
     QTest::addColumn<int>("error");
@@ -95,13 +93,13 @@ void TestTabla_Texto::un_texto_malo_dice_la_linea_data()
     fila("texto detrás, más abajo", "a\n\"b\n\"c\n", "Línea 3: sobra texto detrás de las comillas");
 }
 
-void TestTabla_Texto::un_texto_malo_dice_la_linea()
+void TestTabla_Separada::un_texto_malo_dice_la_linea()
 {
     QFETCH(QByteArray, texto);
     QFETCH(int, error);
     QFETCH(QString, mensaje);
     try {
-        Leer_Tabla_Texto(texto, u',');
+        Leer_Tabla_Separada(texto, u',');
         QFAIL("accepted");
     } catch (const Error_Ejecucion& e) {
         QCOMPARE(e.numero, error);
@@ -109,15 +107,15 @@ void TestTabla_Texto::un_texto_malo_dice_la_linea()
     }
 }
 
-void TestTabla_Texto::cada_fila_sabe_su_linea()
+void TestTabla_Separada::cada_fila_sabe_su_linea()
 {
-    const Tabla_Texto tabla = Leer_Tabla_Texto("a\n\"1\n\n1\"\n2\n", u',');
+    const Tabla_Separada tabla = Leer_Tabla_Separada("a\n\"1\n\n1\"\n2\n", u',');
     QCOMPARE(tabla.filas.size(), 2u);
     QCOMPARE(tabla.filas[0].linea, 2);
     QCOMPARE(tabla.filas[1].linea, 5);
 }
 
-void TestTabla_Texto::un_numero_es_un_numero_entero_data()
+void TestTabla_Separada::un_numero_es_un_numero_entero_data()
 {
     QTest::addColumn<QString>("texto");
     QTest::addColumn<bool>("es_numero");
@@ -138,7 +136,7 @@ void TestTabla_Texto::un_numero_es_un_numero_entero_data()
         QTest::newRow(*texto ? texto : "vacío") << QString::fromUtf8(texto) << false << 0.0;
 }
 
-void TestTabla_Texto::un_numero_es_un_numero_entero()
+void TestTabla_Separada::un_numero_es_un_numero_entero()
 {
     QFETCH(QString, texto);
     QFETCH(bool, es_numero);
@@ -148,7 +146,7 @@ void TestTabla_Texto::un_numero_es_un_numero_entero()
     if (es_numero) QCOMPARE(*leido, numero);
 }
 
-void TestTabla_Texto::un_numero_se_escribe_y_se_lee_igual_data()
+void TestTabla_Separada::un_numero_se_escribe_y_se_lee_igual_data()
 {
     QTest::addColumn<double>("numero");
     QTest::addColumn<QString>("texto");
@@ -164,7 +162,7 @@ void TestTabla_Texto::un_numero_se_escribe_y_se_lee_igual_data()
     QTest::newRow("menudo") << 2.5e-10 << "2.5e-10";
 }
 
-void TestTabla_Texto::un_numero_se_escribe_y_se_lee_igual()
+void TestTabla_Separada::un_numero_se_escribe_y_se_lee_igual()
 {
     QFETCH(double, numero);
     QFETCH(QString, texto);
@@ -172,39 +170,5 @@ void TestTabla_Texto::un_numero_se_escribe_y_se_lee_igual()
     QCOMPARE(*Numero_De_Texto(texto), numero);
 }
 
-void TestTabla_Texto::la_tabla_se_hace_libro()
-{
-    const Tabla_Texto tabla = Leer_Tabla_Texto("P,X,3\n1,2.5,\nañ,x", u',');
-    const Libro_Excel textos = Libro_De_Tabla(tabla, false), numeros = Libro_De_Tabla(tabla, true);
-    QCOMPARE(textos.Hoja(0).nombre, QString("hoja1"));
-    QCOMPARE(textos.Hoja(0).Leer(0, 2), Celda::De("3"));
-    QCOMPARE(numeros.Hoja(0).Leer(0, 2), Celda::De("3"));
-    QCOMPARE(textos.Hoja(0).Leer(1, 1), Celda::De("2.5"));
-    QCOMPARE(numeros.Hoja(0).Leer(1, 1), Celda::De(2.5));
-    QCOMPARE(numeros.Hoja(0).Leer(1, 2), Celda::De(""));
-    QCOMPARE(numeros.Hoja(0).Leer(2, 1), Celda::De("x"));
-    QCOMPARE(numeros.Hoja(0).Leer(2, 2), Celda());
-    QCOMPARE(Numero_De_Error([] {
-                 Libro_De_Tabla(
-                     Leer_Tabla_Texto(QByteArray("t\n") + QByteArray("x\n").repeated(65536), u','),
-                     false);
-             }),
-             3437);
-    QCOMPARE(Numero_De_Error(
-                 [] { Libro_De_Tabla(Leer_Tabla_Texto(QByteArray(256, ','), u','), false); }),
-             3190);
-}
-
-void TestTabla_Texto::el_libro_se_hace_texto()
-{
-    Hoja_Excel h("hoja1");
-    QCOMPARE(Texto_De_Hoja(h), QByteArray());
-    h.Poner(1, 1, "a\tb\nc");
-    h.Poner(1, 2, 12.5);
-    h.Poner(3, 0, "ñ");
-    h.Poner_Negrita({0, 0, 8, 8});
-    QCOMPARE(Texto_De_Hoja(h), QByteArray("\t\t\n\ta b c\t12.5\n\t\t\nñ\t\t\n"));
-}
-
-PRUEBA(TestTabla_Texto)
-#include "TestTabla_Texto.moc"
+PRUEBA(TestTabla_Separada)
+#include "TestTabla_Separada.moc"
