@@ -9,6 +9,7 @@ private Q_SLOTS:
     void cleanup() { banco.reset(); }
     void una_fila_por_linea();
     void los_globales_de_cada_linea();
+    void un_blanco_delante_acorta_el_identificador();
     void la_operacion_4_toma_el_punto();
     void sin_fin_de_linea_no_hay_registros();
     void un_campo_largo_lo_deshace_todo();
@@ -43,6 +44,15 @@ void TestAlmacen_KRT800::los_globales_de_cada_linea()
                           "1/3//SS 3,4/STN=Estación=E1|STN=Altura=1.50",
                           "1/4//STN E2,x,1.60/STN=Estación=E2|STN=Altura=1.60",
                           "1/5//SS 5,6/STN=Estación=E2|STN=Altura=1.60"}));
+}
+
+// The blank is looked for in the line as it came, and the cut falls on the trimmed one.
+void TestAlmacen_KRT800::un_blanco_delante_acorta_el_identificador()
+{
+    banco->Campo("STN", "Estación", 1, "GE");
+    banco->Campo("S", "Letra", 1, "GE");
+    banco->Procesar("KRT800", 0, " STN E1,x\r\n");
+    QCOMPARE(banco->Filas(), QStringList{"1/1// STN E1,x/S=Letra=TN E1"});
 }
 
 void TestAlmacen_KRT800::la_operacion_4_toma_el_punto()
