@@ -4,7 +4,7 @@
 #include "conversions/Informe_Lectura.h"
 #include "core/Ansi.h"
 #include "core/Basico.h"
-#include "core/Trozos.h"
+#include "core/Sumas.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include "tests/apoyo/Interfaz_Guion.h"
 #include "tests/apoyo/Prueba.h"
 #include "tests/apoyo/Puerto_Memoria.h"
-#include "transfer/Descarga.h"
+#include "transfer/enlace/Descarga.h"
 #include "transfer/Despacho.h"
 #include "transfer/Peticiones_Transfer.h"
 
@@ -60,11 +60,12 @@ void TestDespacho::init()
     p.Mostrar_Pasos = [this](const QString& tipo, const QString& ope) {
         pasos << "ayuda " + tipo + ope + " paso " + QString::number(Paso_Ayuda);
     };
-    p.Dialogo_Descarga = [this](bool cargar) -> Descarga* {
-        if (!descarga && cargar) {
+    p.Dialogo_Descarga = [this]() -> Descarga* {
+        if (!descarga) {
             auto nuevo = std::make_unique<Puerto_Memoria>();
             puerto = nuevo.get();
             descarga = std::make_unique<Descarga>(std::move(nuevo));
+            connect(descarga.get(), &Descarga::reclamada, this, [this] { pasos << "reclamada"; });
         }
         return descarga.get();
     };
@@ -184,7 +185,7 @@ void TestDespacho::sin_nombre_no_se_abre_el_puerto()
 
 void TestDespacho::el_puerto_que_falla_no_muestra_el_dialogo()
 {
-    Peticiones_De_Transfer().Dialogo_Descarga(true);
+    Peticiones_De_Transfer().Dialogo_Descarga();
     puerto->error_al_abrir = 8002;
     Lanzar_Operacion("KRT300", 0, "D");
     QCOMPARE(interfaz->avisos.size(), 1);
@@ -205,7 +206,8 @@ void TestDespacho::una_segunda_pita_y_muestra_la_que_corre()
     pasos.clear();
     Lanzar_Operacion("KRT300", 1, "D");
     QCOMPARE(interfaz->pitidos, 1);
-    QCOMPARE(pasos, QStringList{"abierto, descarga"});
+    QCOMPARE(pasos, QStringList{"reclamada"});
+    QVERIFY(descarga->En_Marcha());
 }
 
 void TestDespacho::el_filtro_sale_de_conv_data()
