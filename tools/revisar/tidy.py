@@ -57,7 +57,7 @@ def privados(fuente):
     nombres = set()
     for linea in open(fuente, encoding='utf-8'):
         m = PRIVADO.match(linea)
-        if m and '::' not in linea.split('(')[0]:
+        if m and '::' not in linea.split('(')[0] and not linea.startswith(('namespace', 'using n')):
             nombres.add(m.group(1) or m.group(2))
     return nombres
 
