@@ -16,6 +16,7 @@ private Q_SLOTS:
     void cada_carpeta_esta_nombrada_data();
     void cada_carpeta_esta_nombrada();
     void cada_pagina_esta_en_el_indice();
+    void las_paginas_que_nombran_las_fuentes_existen();
     void las_sumas_dibujadas_son_ciertas();
 
 private:
@@ -138,6 +139,21 @@ void TestArquitectura::cada_pagina_esta_en_el_indice()
         QVERIFY2(indice.contains('(' + nombre + ')'), qPrintable(nombre));
     }
     QVERIFY(vistas > 10);
+}
+
+void TestArquitectura::las_paginas_que_nombran_las_fuentes_existen()
+{
+    static const QRegularExpression PAGINA(QStringLiteral("docs/[\\w/-]+\\.md"));
+    int fuentes = 0;
+    for (const QString& carpeta : Carpetas()) {
+        for (const QString& f : QDir(Raiz() + carpeta).entryList({"*.h", "*.cpp"}, QDir::Files)) {
+            ++fuentes;
+            for (const auto& m : PAGINA.globalMatch(Leer(carpeta + '/' + f)))
+                QVERIFY2(QFileInfo::exists(Raiz() + m.captured(0)),
+                         qPrintable(f + ": " + m.captured(0)));
+        }
+    }
+    QVERIFY(fuentes > 200);
 }
 
 void TestArquitectura::las_sumas_dibujadas_son_ciertas()
