@@ -1,4 +1,4 @@
-#include "core/Trozos.h"
+#include "core/Sumas.h"
 #include "tests/apoyo/Prueba.h"
 
 #include <QDirIterator>
