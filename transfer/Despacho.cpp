@@ -2,6 +2,7 @@
 
 #include "core/Ayuda.h"
 #include "core/ModEstTotal.h"
+#include "session/Filtro_Extensiones.h"
 #include "transfer/Descarga.h"
 #include "transfer/Peticiones_Transfer.h"
 #include "transfer/Subida_Nivel.h"
@@ -111,28 +112,6 @@ void Lanzar_Operacion(const QString& maquina, int operacion, const QString& tipo
     if (maquina == u"KRT300" || maquina == u"PX7") Lanzar_Serie_A(maquina, operacion, tipo_ope);
     else if (maquina == u"NV400") Lanzar_Nivel(maquina, operacion, tipo_ope);
     else if (maquina == u"KRT800") Lanzar_Serie_B(maquina, operacion, tipo_ope);
-}
-
-QString Filtro_Extensiones(const QString& maquina, int operacion, const QString& tipo_ope)
-{
-    Conjunto_Registros operaciones = Base_Datos->OpenRecordset("KRT2");
-    operaciones.Index("PrimaryKey");
-    operaciones.Seek({maquina, operacion, tipo_ope});
-    if (operaciones.NoMatch()) {
-        Interfaz_Actual().Mensaje("No hay extensiones definidas para esta operación", Icono::Critico);
-        Interfaz_Actual().Terminar(1);
-        return {};
-    }
-    Conjunto_Registros tipos = Base_Datos->OpenRecordset("CONVERT");
-    tipos.Index("PrimaryKey");
-    QString filtro;
-    for (const QString& clave : operaciones.Texto("Conv").split(u',')) {
-        tipos.Seek({clave});
-        if (!tipos.NoMatch())
-            filtro += u'|' + Basico::Trim(tipos.Texto("descripcion")) + u'|' +
-                      Basico::Trim(tipos.Texto("ext"));
-    }
-    return filtro.isEmpty() ? QStringLiteral("") : filtro.mid(1);
 }
 
 Texto_Recordatorio Leer_Recordatorio()
