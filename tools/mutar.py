@@ -8,11 +8,12 @@
 
 Each mutant changes one place of one line: a comparison, a constant, a sign, a condition. The folder's
 test program is built and run; a mutant that it passes has survived: a test row is missing, or the line
-says nothing. A mutant that does not compile, or that never ends, counts as seen.
+says nothing. One that never ends counts as seen; one that does not compile is not counted.
 
 The work is done on a copy of the sources below build/, so that an interrupted run leaves no broken line
-behind; --obra takes the sources in place with a build folder of theirs, which is sooner ready. A list file names its mutants itself, one a line: file, tab, text that stands there,
-tab, text to put in its place (the text must stand in the file exactly once).
+behind; --obra takes the sources in place with a build folder of theirs, which is sooner ready. A list
+file names its mutants itself, one a line: file, tab, text that stands there, tab, text to put in its
+place (the text must stand in the file exactly once).
 
 Ends with status 1 when a mutant has survived. Made to be run by hand: it takes a build a mutant.
 """
@@ -42,6 +43,7 @@ CAMBIOS = [
     (r"(?<![\w.\"'])0(?![\w.\"'])", "1"), (r"(?<![\w.\"'])1(?![\w.\"'])", "0"),
     (r"(?<![\w.\"'])([2-9]|[1-9]\d+)(?![\w.\"'])", lambda m: str(int(m[1]) + 1)),
 ]
+VIVE, VISTO, NO_COMPILA = "VIVE", "visto", "no compila"
 SIN_MUTAR = re.compile(r"^\s*(//|#|\*|/\*|using |namespace |template|static_assert|\}|$)")
 
 
@@ -143,14 +145,16 @@ class Taller:
             return False
 
     def probar(self, fichero, numero, linea):
-        """Puts the mutant in, asks the tests, puts the line back. True when it survived."""
+        """Puts the mutant in, asks the tests, puts the line back. What became of it."""
         ruta = self.fuentes / fichero
         entero = ruta.read_text(encoding="utf-8")
         lineas = entero.split("\n")
         lineas[numero - 1] = linea
         ruta.write_text("\n".join(lineas), encoding="utf-8")
         try:
-            return self.compila() and self.pasa()
+            if not self.compila():
+                return NO_COMPILA
+            return VIVE if self.pasa() else VISTO
         finally:
             ruta.write_text(entero, encoding="utf-8")
 
@@ -182,10 +186,10 @@ def main():
         if not (taller.compila() and taller.pasa()):
             sys.exit(f"{programa} no pasa sin tocar nada")
         for fichero, numero, linea in mutantes:
-            vivo = taller.probar(fichero, numero, linea)
-            hechos += 1
-            vivos += vivo
-            print(f"{'VIVE ' if vivo else 'visto'} {fichero}:{numero}: {linea.strip()}", flush=True)
+            que = taller.probar(fichero, numero, linea)
+            hechos += que != NO_COMPILA
+            vivos += que == VIVE
+            print(f"{que:10} {fichero}:{numero}: {linea.strip()}", flush=True)
     if not a.ver:
         print(f"{vivos} de {hechos} mutantes han sobrevivido")
     return 1 if vivos else 0

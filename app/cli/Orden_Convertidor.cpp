@@ -28,9 +28,9 @@ const Camino& Elegir_Camino(const QString& entrada, const QString& salida, const
         if ((c.lugares & EN_CONSOLA) && (!clase || c.clase == clase->clase) &&
             (!*c.extension || de == QStringView(c.extension)) && Escribe(c, a))
             return c;
-    throw Error_Uso{QStringLiteral("No hay conversión de \".%1\" a \".%2\"").arg(de, a) +
-                    (clase ? QStringLiteral(" de la clase ") + QLatin1String(clase->palabra)
-                           : QString())};
+    throw Error_Uso{
+        QStringLiteral("No hay conversión de \".%1\" a \".%2\"").arg(de, a) +
+        (clase ? QStringLiteral(" de la clase ") + QLatin1String(clase->palabra) : QString())};
 }
 
 /// Prints the result of a conversion, and what its report tells.
@@ -73,7 +73,8 @@ std::optional<QString> Unica(const Contexto& c, const Parte_LandXML& e, const QS
 /// The arguments that come before source and target.
 QStringList Partes(const Parte_LandXML& e, const QString& eleccion)
 {
-    if (e.forma == Parte_LandXML::Forma::Indice) return {QString::number(Numero_De(eleccion, "--eje"))};
+    if (e.forma == Parte_LandXML::Forma::Indice)
+        return {QString::number(Numero_De(eleccion, "--eje"))};
     if (e.forma != Parte_LandXML::Forma::Dos_Nombres) return {eleccion};
     const qsizetype dos_puntos = eleccion.indexOf(u':');
     if (dos_puntos < 0) throw Error_Uso{"El valor de --seccion no es \"alineación:superficie\""};

@@ -56,8 +56,8 @@ CVZENDRA_FUNCION(istram2krt)(const char* in, const char* out);
 CVZENDRA_FUNCION(htrazado2krt)(const char* in, const char* out);
 CVZENDRA_FUNCION(mxroad2krt)(const char* in, const char* out);
 /* `part1` and `part2`: a line of seleccionaTransverLandXML, split at ":". */
-CVZENDRA_FUNCION(tralandxml2krt)(const char* part1, const char* part2, const char* in,
-                                 const char* out);
+CVZENDRA_FUNCION(tralandxml2krt)
+(const char* part1, const char* part2, const char* in, const char* out);
 
 /* To LandXML. */
 CVZENDRA_FUNCION(aQSV2LandXML)(const char* in, const char* out);
@@ -83,15 +83,16 @@ CVZENDRA_FUNCION(puntos2krt)(const char* in, const char* out);
 CVZENDRA_FUNCION(puntos2nivel)(const char* in, const char* out);
 CVZENDRA_FUNCION(lectkrt2bronex)(const char* in, const char* out);
 /* dato1 to dato5: serial number, staff 1, staff 2, operator, company. */
-CVZENDRA_FUNCION(anivel2ing)(const char* in, const char* out, const char* dato1, const char* dato2,
-                             const char* dato3, const char* dato4, const char* dato5);
+CVZENDRA_FUNCION(anivel2ing)
+(const char* in, const char* out, const char* dato1, const char* dato2, const char* dato3,
+ const char* dato4, const char* dato5);
 
 /* Monitoring. */
 CVZENDRA_FUNCION(procesaCabecera)(const char* in, const char* out);
-CVZENDRA_FUNCION(procesaRobotizada)(const char* in, const char* coordenadas, const char* out,
-                                    const char* trabajo, const char* descripcion,
-                                    const char* operario, const char* temperatura,
-                                    const char* fecha, const char* hora);
+CVZENDRA_FUNCION(procesaRobotizada)
+(const char* in, const char* coordenadas, const char* out, const char* trabajo,
+ const char* descripcion, const char* operario, const char* temperatura, const char* fecha,
+ const char* hora);
 
 #ifdef __cplusplus
 }

@@ -16,10 +16,10 @@ enum class Clase_Conversion { Alineaciones = 0, Rasantes = 1, Transversales = 2,
 /// What all conversions of one class share.
 struct Fila_Clase {
     Clase_Conversion clase;
-    const char* palabra;            ///< behind `--clase` on the command line
-    Operacion operacion;            ///< the upload whose file types its dialog offers
-    const char16_t* filtro_landxml; ///< sources that its LandXML flow offers; empty: it has none
-    const char16_t* filtro_guardar; ///< targets in the instrument's form
+    const char* palabra;             ///< behind `--clase` on the command line
+    Operacion operacion;             ///< the upload whose file types its dialog offers
+    const char16_t* filtro_landxml;  ///< sources that its LandXML flow offers; empty: it has none
+    const char16_t* filtro_guardar;  ///< targets in the instrument's form
     const char16_t* aviso_invalidos; ///< told after -1 by the rows that tell it
     /// A sending looks at the pattern chosen in the file dialog instead of the name's extension.
     bool por_patron;

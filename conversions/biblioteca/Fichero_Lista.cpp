@@ -1,8 +1,8 @@
 #include "conversions/biblioteca/Fichero_Lista.h"
 
 #include "conversions/biblioteca/Conversion.h"
-#include "conversions/suelo/Destino.h"
 #include "conversions/landxml/Lectores_LandXML.h"
+#include "conversions/suelo/Destino.h"
 #include "core/Ansi.h"
 #include "core/Ficheros.h"
 

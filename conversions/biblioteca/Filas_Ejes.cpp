@@ -1,7 +1,7 @@
 #include "conversions/biblioteca/Conversion.h"
+#include "conversions/ejes/Lectores_Eje.h"
 #include "conversions/instrumento/Escritor_Instrumento.h"
 #include "conversions/landxml/Escritor_LandXML.h"
-#include "conversions/ejes/Lectores_Eje.h"
 
 namespace {
 

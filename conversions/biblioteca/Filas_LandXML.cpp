@@ -1,7 +1,7 @@
 #include "conversions/biblioteca/Conversion.h"
+#include "conversions/biblioteca/Fichero_Lista.h"
 #include "conversions/instrumento/Escritor_Instrumento.h"
 #include "conversions/instrumento/Escritor_Secciones.h"
-#include "conversions/biblioteca/Fichero_Lista.h"
 #include "conversions/landxml/Lectores_LandXML.h"
 
 namespace {

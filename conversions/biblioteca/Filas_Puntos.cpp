@@ -1,10 +1,10 @@
-#include "conversions/puntos/Bronex_COD.h"
 #include "conversions/biblioteca/Conversion.h"
+#include "conversions/puntos/Bronex_COD.h"
 #include "conversions/puntos/Escritores_Puntos.h"
-#include "conversions/suelo/Destino.h"
 #include "conversions/puntos/Lectores_Puntos.h"
 #include "conversions/puntos/Monitorizacion.h"
 #include "conversions/puntos/Nivel_IGN.h"
+#include "conversions/suelo/Destino.h"
 #include "core/Ficheros.h"
 
 using namespace Conversion;

@@ -1,6 +1,6 @@
 #include "conversions/biblioteca/Conversion.h"
-#include "conversions/landxml/Escritor_LandXML.h"
 #include "conversions/instrumento/Escritor_Secciones.h"
+#include "conversions/landxml/Escritor_LandXML.h"
 #include "conversions/secciones/Lectores_Secciones.h"
 
 using namespace Conversion;

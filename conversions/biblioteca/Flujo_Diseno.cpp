@@ -20,8 +20,10 @@ struct Conversion_Hecha {
 QStringList Argumentos_De_Parte(Parte_LandXML::Forma forma, const Eleccion_LandXML& eleccion)
 {
     switch (forma) {
-    case Parte_LandXML::Forma::Indice: return {QString::number(eleccion.indice)};
-    case Parte_LandXML::Forma::Nombre: break;
+    case Parte_LandXML::Forma::Indice:
+        return {QString::number(eleccion.indice)};
+    case Parte_LandXML::Forma::Nombre:
+        break;
     case Parte_LandXML::Forma::Dos_Nombres:
         return {Trozo(1, eleccion.texto, u':'), Trozo(2, eleccion.texto, u':')};
     }

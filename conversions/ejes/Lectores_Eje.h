@@ -1,7 +1,7 @@
 #pragma once
 
-#include "conversions/suelo/Campos_Fuente.h"
 #include "conversions/ejes/Modelo_Eje.h"
+#include "conversions/suelo/Campos_Fuente.h"
 #include "conversions/suelo/Texto_Fuente.h"
 
 /// Readers of horizontal axes, one a source. Each reads the first axis of the text and leaves the

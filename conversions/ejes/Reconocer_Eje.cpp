@@ -1,5 +1,5 @@
-#include "conversions/suelo/Campos_Fuente.h"
 #include "conversions/ejes/Lectores_Eje.h"
+#include "conversions/suelo/Campos_Fuente.h"
 
 using namespace Campos_Fuente;
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "conversions/suelo/Informe_Lectura.h"
 #include "conversions/ejes/Modelo_Eje.h"
+#include "conversions/suelo/Informe_Lectura.h"
 
 #include <vector>
 

@@ -6,7 +6,7 @@
 #include <QByteArray>
 
 /// The instrument's forms: Windows-1252, CR LF behind every line; metres with 3 decimals, azimuths
-/// in gon with 4.
+/// in gon with 4. Drawn in docs/formas/disenos.md.
 
 /// Horizontal alignment ".ssh", the record lines of operation 6: INI station x y; REC azimuth
 /// length; CIR azimuth length radius; CLO azimuth length A radius-at-start radius-at-end; FIN

@@ -4,7 +4,7 @@
 
 #include <QByteArray>
 
-/// Writers of cross sections.
+/// Writers of cross sections. The form is drawn in docs/formas/disenos.md.
 namespace Escritor_Secciones {
 
 /// The instrument's form: "station,offset,height" a line, three decimals, no heading.

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+/// Two plain conversions of CLIP files into the instrument's forms, docs/formas/disenos.md.
+
 /// One vertex line of a CLIP vertical alignment. A field whose flag is unknown leaves its number as
 /// it was, so that a `Vertice_CLIP` used again carries the value of the line read before.
 struct Vertice_CLIP {

@@ -1,7 +1,7 @@
 #include "conversions/landxml/Escritor_LandXML.h"
 
-#include "conversions/suelo/Cifras.h"
 #include "conversions/ejes/Geometria_Eje.h"
+#include "conversions/suelo/Cifras.h"
 #include "conversions/suelo/Informe_Lectura.h"
 
 #include <algorithm>

@@ -9,7 +9,7 @@
 
 /// LandXML 1.2 files: UTF-8, CR LF, metres with 4 decimals, points as "north east". The frame is
 /// fixed, so that files compare line by line; `momento` is all that differs from run to run.
-/// The model's `nombre` becomes the alignment's name.
+/// The model's `nombre` becomes the alignment's name. Drawn in docs/formas/landxml.md.
 
 QByteArray Escribir_LandXML(const Eje& eje, const QDateTime& momento);
 QByteArray Escribir_LandXML(const Rasante& rasante, const QDateTime& momento);

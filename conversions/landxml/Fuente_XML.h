@@ -15,14 +15,14 @@
 ///   grows without end or reaches for another. So is a tag of more than `ETIQUETA_MAXIMA` bytes, a
 ///   comment of more than `MARCA_MAXIMA` and a nesting deeper than `HONDURA_MAXIMA`.
 /// - What stands within an element `Surfaces` is left out: triangles by the hundred megabytes, of
-/// which
-///   no alignment needs a byte. Its markup is still followed, and its lines are kept, so that the
+///   which no alignment needs a byte. Its markup is still followed, and its lines are kept, so that the
 ///   reader counts them.
 /// - Stream readers gather a text until its end. A point list of hundreds of megabytes is cut by
 ///   empty comments at blanks, so that it passes in pieces; the text of an element is the pieces
 ///   joined, as ever.
 ///
-/// A refusal ends the data; `Motivo` tells it.
+/// A refusal ends the data; `Motivo` tells it. What this is worth stands measured in
+/// docs/dependencies.md.
 class Fuente_XML : public QIODevice {
 public:
     static constexpr qsizetype ETIQUETA_MAXIMA = 32000;

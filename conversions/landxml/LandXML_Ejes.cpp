@@ -1,8 +1,8 @@
-#include "conversions/suelo/Campos_Fuente.h"
-#include "conversions/landxml/Documento_LandXML.h"
 #include "conversions/ejes/Geometria_Eje.h"
-#include "conversions/landxml/Lectores_LandXML.h"
 #include "conversions/ejes/Singulares.h"
+#include "conversions/landxml/Documento_LandXML.h"
+#include "conversions/landxml/Lectores_LandXML.h"
+#include "conversions/suelo/Campos_Fuente.h"
 
 #include <cmath>
 #include <QSet>

@@ -1,7 +1,7 @@
-#include "conversions/suelo/Campos_Fuente.h"
 #include "conversions/landxml/Documento_LandXML.h"
 #include "conversions/landxml/Lectores_LandXML.h"
 #include "conversions/rasantes/Resolver_Rasante.h"
+#include "conversions/suelo/Campos_Fuente.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
-#include "conversions/suelo/Campos_Fuente.h"
 #include "conversions/landxml/Documento_LandXML.h"
 #include "conversions/landxml/Lectores_LandXML.h"
+#include "conversions/suelo/Campos_Fuente.h"
 
 #include <QSet>
 

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "conversions/suelo/Informe_Lectura.h"
 #include "conversions/ejes/Modelo_Eje.h"
 #include "conversions/rasantes/Modelo_Rasante.h"
 #include "conversions/secciones/Modelo_Secciones.h"
+#include "conversions/suelo/Informe_Lectura.h"
 
 #include <QIODevice>
 #include <QStringList>
 
 /// What a LandXML file holds and how it is read. Lengths, coordinates and stations come in the
 /// file's unit and leave in metres; points are "north east". Directions and angles are never read:
-/// practice and schema disagree on their sense, the points do not.
+/// practice and schema disagree on their sense, the points do not. Drawn in docs/formas/landxml.md.
 ///
 /// Every routine reads the file whole and throws Fallo_Conversion when it isn't well-formed
 /// LandXML.

@@ -4,7 +4,7 @@
 
 #include <QByteArray>
 
-/// Writers of point files.
+/// Writers of point files. They are drawn in docs/formas/ficheros-de-puntos.md.
 namespace Escritores_Puntos {
 
 /// The point file of the uploads: "name,x,y,z,code" a line, the number texts as they came.

@@ -3,7 +3,7 @@
 #include "conversions/puntos/Modelo_Puntos.h"
 #include "conversions/suelo/Texto_Fuente.h"
 
-/// Readers of point files.
+/// Readers of point files. They are drawn in docs/formas/ficheros-de-puntos.md.
 namespace Lectores_Puntos {
 
 /// Lines "name x y z [code ...]", separated by blanks and tabs; all words behind z are the code. A

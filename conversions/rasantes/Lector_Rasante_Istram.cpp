@@ -1,6 +1,6 @@
-#include "conversions/suelo/Campos_Fuente.h"
 #include "conversions/rasantes/Lectores_Rasante.h"
 #include "conversions/rasantes/Resolver_Rasante.h"
+#include "conversions/suelo/Campos_Fuente.h"
 
 #include <algorithm>
 #include <array>

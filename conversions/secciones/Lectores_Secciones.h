@@ -6,8 +6,7 @@
 /// Readers of cross sections, one a source layout. Each gives the sections in file order, their
 /// points sorted by offset.
 /// @throws Fallo_Conversion for a data row that can't be read, a counted section that lacks rows,
-/// and
-///         a text without sections: sections have no "partly bad", since a point that is silently
+///         and a text without sections: sections have no "partly bad", since a point that is silently
 ///         missing costs more than a refused file
 namespace Lectores_Secciones {
 

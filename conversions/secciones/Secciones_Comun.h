@@ -1,7 +1,7 @@
 #pragma once
 
-#include "conversions/suelo/Campos_Fuente.h"
 #include "conversions/secciones/Modelo_Secciones.h"
+#include "conversions/suelo/Campos_Fuente.h"
 #include "conversions/suelo/Texto_Fuente.h"
 
 /// What the section readers share.

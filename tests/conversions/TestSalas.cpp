@@ -15,9 +15,9 @@ private Q_SLOTS:
 void TestSalas::ninguna_flecha_hacia_arriba()
 {
     // Rooms of one height don't see each other.
-    const QHash<QString, int> ALTURAS = {
-        {"suelo", 0},   {"ejes", 1},        {"rasantes", 1},   {"secciones", 1}, {"puntos", 1},
-        {"landxml", 2}, {"instrumento", 2}, {"biblioteca", 3}, {"ui", 4}};
+    const QHash<QString, int> ALTURAS = {{"suelo", 0},       {"ejes", 1},       {"rasantes", 1},
+                                         {"secciones", 1},   {"puntos", 1},     {"landxml", 2},
+                                         {"instrumento", 2}, {"biblioteca", 3}, {"ui", 4}};
     static const QRegularExpression incluye(
         QStringLiteral("#include \"(\\w+)/(?:(\\w+)/)?[^\"]+\""));
     const QDir raiz(QStringLiteral(RAIZ_FUENTES "/conversions"));

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "conversions/ejes/Lectores_Eje.h"
 #include "conversions/instrumento/Escritor_Instrumento.h"
 #include "conversions/landxml/Escritor_LandXML.h"
-#include "conversions/ejes/Lectores_Eje.h"
 #include "conversions/rasantes/Lectores_Rasante.h"
 #include "tests/fuzz/Busqueda.h"
 

@@ -32,8 +32,7 @@ void TestFiltro_Extensiones::sale_de_conv()
     const Interfaz_Guion guion;
     base.Columna("DELETE FROM KRT2");
     base.Columna("DELETE FROM CONVERT");
-    base.Fila("CONVERT",
-              {{"Clave", "ASC"}, {"descripcion", " ASCII (*.asc) "}, {"ext", "*.asc "}});
+    base.Fila("CONVERT", {{"Clave", "ASC"}, {"descripcion", " ASCII (*.asc) "}, {"ext", "*.asc "}});
     base.Fila("CONVERT", {{"Clave", "TXT"}, {"descripcion", "Texto (*.txt)"}, {"ext", " *.txt"}});
     base.Fila("KRT2",
               {{"Nombre", "KRT300"}, {"OPE", 1}, {"TipOpe", "C"}, {"DESOPE", "x"}, {"Conv", conv}});

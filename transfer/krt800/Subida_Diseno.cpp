@@ -20,8 +20,7 @@ void Subir_Diseno(Clase_Conversion clase, const QString& filtro, int guardar,
 {
     const auto convertido = Convertir_Diseno(clase, filtro, guardar, envio.operacion);
     QString texto;
-    if (!convertido ||
-        !Leer_Fichero_Envio(*convertido, texto, SEPARADOR, false, ENVIO_CONVERTIDO))
+    if (!convertido || !Leer_Fichero_Envio(*convertido, texto, SEPARADOR, false, ENVIO_CONVERTIDO))
         return;
     if (guardar != 1 && envio.enviar) envio.enviar(texto);
 }

@@ -4,8 +4,8 @@
 #include <QString>
 
 /// Road designs for the instrument: what the converter library made of the files of other packages
-/// is read and handed to the sending dialog. The wire is drawn in docs/formas/krt800.md, the files in
-/// docs/formas/disenos.md.
+/// is read and handed to the sending dialog. The wire is drawn in docs/formas/krt800.md, the files
+/// in docs/formas/disenos.md.
 
 /// What a design routine needs beyond its filter.
 struct Envio_Diseno {

@@ -29,7 +29,8 @@ private:
 void TestCVZENDRA::la_cabecera_es_de_c()
 {
     const QByteArray cabecera = Ficheros::Leer(QStringLiteral(INSTALACION "/CVZENDRA.h"));
-    QCOMPARE(cabecera, Ficheros::Leer(QStringLiteral(RAIZ_FUENTES "/conversions/biblioteca/CVZENDRA.h")));
+    QCOMPARE(cabecera,
+             Ficheros::Leer(QStringLiteral(RAIZ_FUENTES "/conversions/biblioteca/CVZENDRA.h")));
     QCOMPARE(cabecera.count("\nCVZENDRA_FUNCION("), 39);
 }
 

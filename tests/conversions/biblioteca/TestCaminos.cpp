@@ -34,7 +34,27 @@ QString Describir(const Camino& c)
 {
     return QStringLiteral("%1 %2 a %3 por %4")
         .arg(QString::fromLatin1(Clase_De(c.clase).palabra), QString::fromUtf16(c.extension),
-             QString::fromLatin1(c.salidas), QString::fromLatin1(c.funcion ? c.funcion : "sí misma"));
+             QString::fromLatin1(c.salidas),
+             QString::fromLatin1(c.funcion ? c.funcion : "sí misma"));
+}
+
+// Rows of a delivered table, the heading left out; a cell with commas stands in quotes.
+QList<QStringList> Filas_Entregadas(const QString& tabla)
+{
+    static const QRegularExpression celda(QStringLiteral("(?:^|,)(?:\"([^\"]*)\"|([^,]*))"));
+    QList<QStringList> filas;
+    const QString ruta = QStringLiteral(RAIZ_FUENTES "/data/DAT/tablas/") + tabla + ".csv";
+    const QStringList lineas =
+        QString::fromUtf8(Ficheros::Leer(ruta)).remove(u'\r').split(u'\n', Qt::SkipEmptyParts);
+    for (const QString& linea : lineas.mid(1)) {
+        QStringList celdas;
+        for (auto i = celda.globalMatch(linea); i.hasNext();) {
+            const auto m = i.next();
+            celdas << m.captured(1) + m.captured(2);
+        }
+        filas << celdas;
+    }
+    return filas;
 }
 
 } // namespace
@@ -51,6 +71,7 @@ private Q_SLOTS:
     void ninguno_tapa_a_otro();
     void se_busca_sin_mirar_mayusculas();
     void los_filtros_ofrecen_lo_que_hay();
+    void las_tablas_ofrecen_enviar_lo_que_hay();
 
 private:
     Banco_Conversion banco;
@@ -78,9 +99,7 @@ void TestCaminos::las_funciones_existen_y_toman_lo_suyo()
         const Funcion* const f = Buscar_Funcion(QString::fromLatin1(c.funcion));
         QVERIFY2(f, c.funcion);
         using Forma = Parte_LandXML::Forma;
-        const qsizetype delante = !c.parte                                 ? 0
-                                  : c.parte->forma == Forma::Dos_Nombres ? 2
-                                                                         : 1;
+        const qsizetype delante = !c.parte ? 0 : c.parte->forma == Forma::Dos_Nombres ? 2 : 1;
         QVERIFY2(Argumentos_De(*f).minimo == delante + 2, c.funcion);
         QCOMPARE(QLatin1String(f->argumentos).startsWith(QLatin1String("INDICE")),
                  c.parte && c.parte->forma == Forma::Indice);
@@ -104,10 +123,10 @@ void TestCaminos::cada_camino_tiene_una_muestra()
     int halladas = 0;
     for (const Muestra& m : Muestras()) {
         const bool la_misma = c.funcion && m.funcion == "MyDll_" + QString::fromLatin1(c.funcion);
-        const bool sirve = extension.isEmpty() || c.parte
-                               ? la_misma
-                               : Clase_De_Funcion(m.funcion) == c.clase &&
-                                     Argumentos(m).first() == u"ENTRADA";
+        const bool sirve =
+            extension.isEmpty() || c.parte
+                ? la_misma
+                : Clase_De_Funcion(m.funcion) == c.clase && Argumentos(m).first() == u"ENTRADA";
         if (!sirve || m.resultado != 1 || m.lista) continue;
         if (!extension.isEmpty() && Extension(Fuente(m)) != extension) continue;
         ++halladas;
@@ -120,8 +139,9 @@ void TestCaminos::cada_camino_tiene_una_muestra()
             }
             QStringList argumentos = m.argumentos;
             argumentos[argumentos.indexOf(Fuente(m))] = fuente;
-            const auto r = banco.Ejecutar(QString::fromLatin1(c.funcion),
-                                          argumentos + QStringList{"<salida>"}, "salida." + destino);
+            const auto r =
+                banco.Ejecutar(QString::fromLatin1(c.funcion), argumentos + QStringList{"<salida>"},
+                               "salida." + destino);
             QVERIFY2(r.numero == 1, qPrintable(Fuente(m) + u'\n' + r.informe.Lineas().join(u'\n')));
             QVERIFY(!r.salida->isEmpty());
         }
@@ -180,6 +200,29 @@ void TestCaminos::los_filtros_ofrecen_lo_que_hay()
             QCOMPARE(Buscar_Camino(EN_LANDXML, clase.clase, trozos[i].sliced(2)) == nullptr,
                      sin_fila);
         }
+    }
+}
+
+/// The delivered tables offer for sending exactly what has a row.
+void TestCaminos::las_tablas_ofrecen_enviar_lo_que_hay()
+{
+    QHash<QString, QString> patrones;
+    for (const QStringList& f : Filas_Entregadas("CONVERT"))
+        patrones[f[0]] = f[2];
+    QHash<QString, QStringList> ofrecidos;
+    for (const QStringList& f : Filas_Entregadas("KRT2"))
+        for (const QString& clave : f.last().split(u','))
+            if (f[0] == u"KRT800" && f[2] == u"C") ofrecidos[f[1]] << patrones.value(clave);
+    for (const Fila_Clase& clase : Clases_De_Conversion()) {
+        QStringList con_fila;
+        for (const Camino& c : Caminos())
+            if ((c.lugares & EN_ENVIO) && c.clase == clase.clase)
+                con_fila << "*." + QString::fromUtf16(c.extension);
+        if (con_fila.isEmpty()) continue;
+        QStringList lista = ofrecidos.value(QString::number(int(clase.operacion)));
+        lista.sort();
+        con_fila.sort();
+        QCOMPARE(lista, con_fila);
     }
 }
 

@@ -1,8 +1,7 @@
 #include "conversions/ejes/Geometria_Eje.h"
-#include "conversions/rasantes/Geometria_Rasante.h"
-#include "conversions/suelo/Informe_Lectura.h"
 #include "conversions/ejes/Poligonal.h"
 #include "conversions/rasantes/Resolver_Rasante.h"
+#include "conversions/suelo/Informe_Lectura.h"
 #include "tests/apoyo/Prueba.h"
 #include "tests/conversions/Camino_Azar.h"
 
@@ -56,8 +55,6 @@ private Q_SLOTS:
     void poligonal_de_casos();
     void acuerdos_por_cada_dato_data();
     void acuerdos_por_cada_dato();
-    void la_parabola_por_integracion();
-    void fuera_de_la_rasante_no_hay_cota();
 };
 
 void TestGeometria::valores_conocidos_de_clotoide()
@@ -303,43 +300,6 @@ void TestGeometria::acuerdos_por_cada_dato()
         extremos);
     QCOMPARE(extremos.Total(), valor == 0 ? 0 : 2);
     QCOMPARE(e.vertices[0].longitud + e.vertices[2].longitud, 0.0);
-}
-
-/// The elevation is the integral of a slope that changes evenly along each curve.
-void TestGeometria::la_parabola_por_integracion()
-{
-    Informe_Lectura informe;
-    const Rasante r = Resolver_Rasante({V(1000, 500), V(1120, 503.6, Dato_Acuerdo::Longitud, 60),
-                                        V(1300, 498.2, Dato_Acuerdo::Longitud, 90), V(1450, 501.2)},
-                                       informe);
-    const auto pendiente = [](double pk) {
-        const auto acuerdo = [&](double centro, double largo, double antes, double despues) {
-            const double t = std::clamp((pk - centro) / largo + 0.5, 0.0, 1.0);
-            return antes + (despues - antes) * t;
-        };
-        return acuerdo(1120, 60, 0.03, -0.03) + acuerdo(1300, 90, 0, 0.05);
-    };
-    double cota = 500;
-    const double paso = 0.01;
-    for (int i = 0; i < 45000; ++i) {
-        const double pk = 1000 + i * paso;
-        if (i % 100 == 0) {
-            const auto c = Geometria_Rasante::Cota(r, pk);
-            QVERIFY(c && Cerca(*c, cota, 1e-6));
-        }
-        cota += pendiente(pk + paso / 2) * paso;
-    }
-    QVERIFY(Cerca(*Geometria_Rasante::Cota(r, 1450), 501.2, 1e-9));
-    QVERIFY(Cerca(*Geometria_Rasante::Cota(r, 1120), 503.6 - 0.45, 1e-9));
-}
-
-void TestGeometria::fuera_de_la_rasante_no_hay_cota()
-{
-    const Rasante r{{}, {{0, 100, 0}, {100, 103, 0}}};
-    QVERIFY(!Geometria_Rasante::Cota(r, -0.001));
-    QVERIFY(!Geometria_Rasante::Cota(r, 100.001));
-    QVERIFY(!Geometria_Rasante::Cota({}, 0));
-    QVERIFY(Cerca(*Geometria_Rasante::Cota(r, 50), 101.5, 1e-12));
 }
 
 PRUEBA(TestGeometria)

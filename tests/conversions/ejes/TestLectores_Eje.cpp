@@ -1,5 +1,5 @@
-#include "conversions/instrumento/Escritor_Instrumento.h"
 #include "conversions/ejes/Lectores_Eje.h"
+#include "conversions/instrumento/Escritor_Instrumento.h"
 #include "tests/apoyo/Prueba.h"
 #include "tests/conversions/Banco_Conversion.h"
 
@@ -73,8 +73,7 @@ void TestLectores_Eje::casos_data()
     QTest::newRow("qsv el eje empieza en el primer elemento que queda")
         << "aqtr2krt"
         << Qsv("7", "1000", "1000", "100", "0", "0", "0.0004") +
-               Qsv("20", "1000", "1000", "100", "0", "0", "100") +
-               Qsv("120", "1100", "1000", "100")
+               Qsv("20", "1000", "1000", "100", "0", "0", "100") + Qsv("120", "1100", "1000", "100")
         << 1
         << QByteArray("INI 20.000 1000.000 1000.000/REC 100.0000 100.000/"
                       "FIN 120.000 1100.000 1000.000 100.0000");

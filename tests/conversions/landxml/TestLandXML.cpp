@@ -176,7 +176,8 @@ void TestLandXML::elementos_data()
                fin + "</End></Spiral>" + "<Line><Start>" + fin + "</Start><End>0 100</End></Line>";
     };
     QTest::newRow("clotoide que acaba en su final")
-        << clotoide("-0.666 99.990") << 1 << QByteArray("CLO 100.0000 40.000 126.491 0.000 400.000");
+        << clotoide("-0.666 99.990") << 1
+        << QByteArray("CLO 100.0000 40.000 126.491 0.000 400.000");
     QTest::newRow("clotoide que no acaba en su final")
         << clotoide("-0.600 99.990") << -1
         << QByteArray("CLO 100.0000 40.000 126.491 0.000 400.000");
