@@ -41,7 +41,7 @@ void TestCVZENDRA::la_cabecera_dice_lo_que_la_tabla()
     const QString cabecera = QString::fromLatin1(
         Ficheros::Leer(QStringLiteral(RAIZ_FUENTES "/conversions/biblioteca/CVZENDRA.h")));
     static const QRegularExpression declaracion(
-        QStringLiteral("^CVZENDRA_FUNCION\\((\\w+)\\)\\(([^)]*)\\);"),
+        QStringLiteral("^CVZENDRA_FUNCION\\((\\w+)\\)\\s*\\(([^)]*)\\);"),
         QRegularExpression::MultilineOption);
     QMap<QString, QStringList> declaradas;
     for (auto i = declaracion.globalMatch(cabecera); i.hasNext();) {
