@@ -23,6 +23,7 @@ import pathlib
 import random
 import re
 import shutil
+import signal
 import subprocess
 import sys
 
@@ -160,6 +161,8 @@ class Taller:
 
 
 def main():
+    # A run that is stopped puts its line back first.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("interrumpido"))
     o = argparse.ArgumentParser(description=__doc__.split("\n")[0])
     o.add_argument("carpetas", nargs="*", default=["session", "conversions"])
     o.add_argument("--pruebas", help="test program; pruebas_<first folder of the path> by default")
