@@ -3,6 +3,7 @@
 #include "core/Ayuda.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
+#include "session/Filtro_Extensiones.h"
 #include "transfer/enlace/Descarga.h"
 #include "transfer/nv400/Subida_Nivel.h"
 #include "transfer/Peticiones_Transfer.h"
@@ -155,28 +156,6 @@ void Lanzar_Operacion(const QString& maquina, int operacion, const QString& tipo
         Lanzar_Descarga(familia, operacion);
     else if (tipo_ope == CARGA && !Filtro_Extensiones(maquina, operacion, tipo_ope).isNull())
         Lanzar_Carga(familia, operacion);
-}
-
-QString Filtro_Extensiones(const QString& maquina, int operacion, const QString& tipo_ope)
-{
-    Conjunto_Registros operaciones = Base_Datos->OpenRecordset("KRT2");
-    operaciones.Index("PrimaryKey");
-    operaciones.Seek({maquina, operacion, tipo_ope});
-    if (operaciones.NoMatch()) {
-        Interfaz_Actual().Mensaje("No hay extensiones definidas para esta operación", Icono::Critico);
-        Interfaz_Actual().Terminar(1);
-        return {};
-    }
-    Conjunto_Registros tipos = Base_Datos->OpenRecordset("CONVERT");
-    tipos.Index("PrimaryKey");
-    QString filtro;
-    for (const QString& clave : operaciones.Texto("Conv").split(u',')) {
-        tipos.Seek({clave});
-        if (!tipos.NoMatch())
-            filtro += u'|' + Basico::Trim(tipos.Texto("descripcion")) + u'|' +
-                      Basico::Trim(tipos.Texto("ext"));
-    }
-    return filtro.isEmpty() ? QStringLiteral("") : filtro.mid(1);
 }
 
 Texto_Recordatorio Leer_Recordatorio()

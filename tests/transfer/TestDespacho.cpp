@@ -23,8 +23,6 @@ private Q_SLOTS:
     void el_puerto_que_falla_no_muestra_el_dialogo();
     void el_nivel_no_pide_nombre();
     void una_segunda_pita_y_muestra_la_que_corre();
-    void el_filtro_sale_de_conv_data();
-    void el_filtro_sale_de_conv();
     void sin_fila_termina_el_programa();
     void la_carga_desconocida_se_dice();
     void el_recordatorio_tiene_sus_cuatro_lineas();
@@ -208,30 +206,6 @@ void TestDespacho::una_segunda_pita_y_muestra_la_que_corre()
     QCOMPARE(interfaz->pitidos, 1);
     QCOMPARE(pasos, QStringList{"reclamada"});
     QVERIFY(descarga->En_Marcha());
-}
-
-void TestDespacho::el_filtro_sale_de_conv_data()
-{
-    QTest::addColumn<QString>("conv");
-    QTest::addColumn<QString>("filtro");
-    QTest::newRow("dos") << "ASC,TXT" << "ASCII (*.asc)|*.asc|Texto (*.txt)|*.txt";
-    QTest::newRow("una desconocida") << "NADA,TXT" << "Texto (*.txt)|*.txt";
-    QTest::newRow("vacio") << "" << "";
-}
-
-void TestDespacho::el_filtro_sale_de_conv()
-{
-    QFETCH(QString, conv);
-    QFETCH(QString, filtro);
-    Base_Datos->Execute("DELETE FROM KRT2");
-    const QString clave = Base_Datos->OpenRecordset("CONVERT").Columnas().first();
-    for (const QStringList& f : {QStringList{"ASC", " ASCII (*.asc) ", "*.asc "},
-                                 QStringList{"TXT", "Texto (*.txt)", " *.txt"}})
-        Base_Datos->Execute("INSERT INTO CONVERT (" + clave + ", descripcion, ext) VALUES (?, ?, ?)",
-                            {f[0], f[1], f[2]});
-    Fila("KRT300", 1, "C", conv);
-    QCOMPARE(Filtro_Extensiones("KRT300", 1, "C"), filtro);
-    QVERIFY(interfaz->avisos.isEmpty());
 }
 
 void TestDespacho::sin_fila_termina_el_programa()
