@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/jet/Base.h"
-#include "session/Tablas.h"
+#include "session/Columnas_Texto.h"
 
 #include <QList>
 #include <QString>
@@ -29,7 +29,7 @@ inline constexpr qint64 PASOS_POR_REPINTADO = 1024;
 
 /// `Filas_Exportar`, the row table: first index the column, second the row; all cells of a column
 /// of one length.
-using Filas_Exportar = Tabla_Textos;
+using Filas_Exportar = Columnas_Texto;
 /// Rows that the table can hold for a KRT300 or PX7 session.
 inline constexpr std::size_t MAX_FILAS = 32768;
 

@@ -1,4 +1,5 @@
 #include "formats/ModFormatos.h"
+#include "formats/Nombre_Formato.h"
 #include "tests/apoyo/Instrumentos.h"
 #include "tests/apoyo/Interfaz_Guion.h"
 #include "tests/apoyo/Prueba.h"
@@ -6,8 +7,6 @@
 class TestModFormatos : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void el_identificador_de_un_registro_data();
-    void el_identificador_de_un_registro();
     void los_ids_salen_de_la_sesion();
     void la_operacion_4_es_siempre_punto();
     void el_32_desborda_la_tabla();
@@ -36,40 +35,6 @@ private Q_SLOTS:
 };
 
 static const Sesion_Elegida SESION{1, "KRT300", 0, "Datos de medición"};
-
-void TestModFormatos::el_identificador_de_un_registro_data()
-{
-    QTest::addColumn<QString>("maquina");
-    QTest::addColumn<int>("ope");
-    QTest::addColumn<QString>("datos");
-    QTest::addColumn<QString>("id");
-    QTest::newRow("300") << "KRT300" << 0 << "A123"
-                         << "A";
-    QTest::newRow("300 blancos") << "PX7" << 0 << "  y+1 "
-                                 << "y";
-    QTest::newRow("300 vacia") << "KRT300" << 0 << "  "
-                               << "";
-    QTest::newRow("nivel") << "NV400" << 0 << "g,1"
-                           << "g";
-    QTest::newRow("800") << "KRT800" << 1 << "STN 1,2"
-                         << "STN";
-    QTest::newRow("800 sin blanco") << "KRT800" << 1 << "STN"
-                                    << "";
-    QTest::newRow("800 blanco delante") << "KRT800" << 1 << " STN 1"
-                                        << "";
-    QTest::newRow("800 operación 4") << "KRT800" << 4 << " 12,5,6"
-                                     << "12";
-    QTest::newRow("800 operación 7") << "KRT800" << 7 << "100,2 3"
-                                     << "100,2";
-}
-
-void TestModFormatos::el_identificador_de_un_registro()
-{
-    QFETCH(QString, maquina);
-    QFETCH(int, ope);
-    QFETCH(QString, datos);
-    QTEST(Leer_Id_Registro(datos, maquina, ope), "id");
-}
 
 static QStringList Ids()
 {
