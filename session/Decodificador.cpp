@@ -58,7 +58,7 @@ QString Sin_Ceros(QStringView entera)
     }
     if (!std::ranges::all_of(t, [](QChar c) { return c >= u'0' && c <= u'9'; }))
         throw Error_Ejecucion(13);
-    while (t.size() > 1 && t.front() == u'0')
+    while (!t.isEmpty() && t.front() == u'0')
         t = t.mid(1);
     const QString cifras = t.isEmpty() ? QStringLiteral("0") : t.toString();
     return negativo ? u'-' + cifras : cifras;

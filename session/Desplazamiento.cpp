@@ -1,5 +1,6 @@
 #include "session/Desplazamiento.h"
 
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 
 #include <algorithm>
@@ -35,9 +36,7 @@ Anchos_Numero Anchos_Numero::Leer(QStringView formato)
     };
     const qsizetype coma = formato.indexOf(u',');
     if (coma < 0) return {ancho(formato), 0};
-    const QStringView segundo = formato.mid(coma + 1);
-    const qsizetype otra = segundo.indexOf(u',');
-    return {ancho(formato.left(coma)), ancho(otra < 0 ? segundo : segundo.left(otra))};
+    return {ancho(formato.left(coma)), ancho(formato.mid(coma + 1))};
 }
 
 Decimal Valor_Desplazamiento(const QString& texto, const QString& formato)

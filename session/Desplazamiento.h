@@ -1,10 +1,12 @@
 #pragma once
 
 #include "core/Decimal.h"
-#include "core/Familia.h"
 
 #include <optional>
 #include <QString>
+
+enum class Serie;
+struct Familia;
 
 /// Coordinate offsets: the texts that the user types for them, and their addition to a coordinate.
 /// One reading of an offset's text serves the decoder and every upload.

@@ -8,16 +8,16 @@
 /// The identifier of a stored line, which picks its kind among the rows of `Campos` and
 /// `Identificadores`. Each part of the program reads it in its own way:
 ///
-/// | who asks                | series A, level  | series B: operation 4 | 7         | others       |
-/// |-------------------------|------------------|-----------------------|-----------|--------------|
-/// | `Id_De_Linea`           | first character; | "Punto"               | Per.Trans | first word   |
-/// |                         | level: "1"       |                       |           |              |
-/// | `Id_Del_Visor`          | first character  | "Punto"               | Per.Trans | first word   |
-/// | `Condicion_Descripcion` | first character  | "Punto"               | Per.Trans | first word   |
-/// | `Leer_Id_Registro`      | first character  | up to the first comma | up to the first blank of the |
-/// |                         |                  |                       | line as it stands; else ""   |
-/// | `Extraer_ID`            | first character  | up to the first comma | first word               |
-/// | `Id_Al_Guardar`         | (not asked)      | "Punto"               | Per.Trans | see there    |
+/// | who asks                | series A, level | series B: op. 4   | op. 7       | others       |
+/// |-------------------------|-----------------|-------------------|-------------|--------------|
+/// | `Id_De_Linea`           | first character | "Punto"           | "Per.Trans" | first word   |
+/// | `Id_Del_Visor`          | first character | "Punto"           | "Per.Trans" | first word   |
+/// | `Condicion_Descripcion` | first character | "Punto"           | "Per.Trans" | first word   |
+/// | `Leer_Id_Registro`      | first character | up to first comma | up to first blank, else "" |
+/// | `Extraer_ID`            | first character | up to first comma | first word                 |
+/// | `Id_Al_Guardar`         | (never asked)   | "Punto"           | "Per.Trans" | see there    |
+///
+/// For the level `Id_De_Linea` is always "1".
 ///
 /// The differences stand on purpose. The decoder fills a level line by position, with one set of
 /// rows for all of them, while who shows a line wants the name of its letter. What formats store in

@@ -31,7 +31,7 @@ QCheckBox* Dialogo_Formato::Hacer_Cabeceras()
 {
     QCheckBox* const casilla = Piezas::Casilla("Check1", " Incluir Cabeceras");
     connect(casilla, &QCheckBox::toggled, this, [this](bool si) {
-        if (modelo) modelo->cabeceras = si;
+        if (en_uso) en_uso->cabeceras = si;
     });
     return casilla;
 }
@@ -60,7 +60,7 @@ void Dialogo_Formato::Armar(const QList<Renglon>& renglones, const QList<QWidget
 
 void Dialogo_Formato::Mostrar_Modelo(Modelo_Formato& de, QWidget& primera)
 {
-    modelo = &de;
+    en_uso = &de;
     const QPointer<Dialogo_Formato> viva(this);
     setWindowTitle(de.titulo);
     panel->Atar(&de.listas);
@@ -68,16 +68,16 @@ void Dialogo_Formato::Mostrar_Modelo(Modelo_Formato& de, QWidget& primera)
     primera.setFocus();
     Mostrar_Modal();
     // The dialog may be gone by now, or refilled with another model while it was up.
-    if (viva && modelo == &de) {
+    if (viva && en_uso == &de) {
         panel->Atar(nullptr);
-        modelo = nullptr;
+        en_uso = nullptr;
     }
 }
 
 void Dialogo_Formato::BtnAceptar_Click()
 {
-    if (!modelo) return;
-    if (modelo->Aceptar([this] { Ocultar(); }))
+    if (!en_uso) return;
+    if (en_uso->Aceptar([this] { Ocultar(); }))
         Descargar();
     else
         Al_Rechazar();

@@ -7,7 +7,6 @@ class Panel_Campos;
 class QCheckBox;
 class QFormLayout;
 class QLineEdit;
-class QVBoxLayout;
 
 /// What the dialogs over a format share: labelled boxes on top, the two lists with their buttons,
 /// check boxes and a row of buttons below. A dialog makes its own pieces, lays them out with the
@@ -26,8 +25,9 @@ protected:
                     const QString& bajar = "BtnBajar");
 
     /// The labelled boxes, one a line.
-    static QFormLayout* Poner_Renglones(const QList<Renglon>& renglones,
-                                        QWidget* marco = nullptr);
+    static QFormLayout* Poner_Renglones(const QList<Renglon>& renglones, QWidget* marco = nullptr);
+    /// `Check1`, the titles, for the dialogs that have it; its changes go into the model.
+    QCheckBox* Hacer_Cabeceras();
     /// The layout of a dialog that ends with `BtnAceptar`: boxes, panel, a line of check boxes and
     /// what else tells of the format, `BtnAceptar`, `BtnCancelar`, `btnAyuda`.
     /// @param ayuda  page of the web help
@@ -38,9 +38,9 @@ protected:
     /// @param primera  the control that gets the focus
     void Mostrar_Modelo(Modelo_Formato& de, QWidget& primera);
     /// While a dialog fills its controls: what they signal is no change by the user.
-    void Soltar_Modelo() { modelo = nullptr; }
+    void Soltar_Modelo() { en_uso = nullptr; }
     /// The model shown; null while there is none.
-    Modelo_Formato* Modelo() const { return modelo; }
+    Modelo_Formato* Modelo() const { return en_uso; }
 
     /// Shows what the model holds now.
     virtual void Mostrar_Datos() = 0;
@@ -48,13 +48,10 @@ protected:
     virtual void Al_Rechazar() {}
 
     QLineEdit* TxtDes;
-    /// Made here for the dialogs that have them: `Check1`, the titles, goes into the model by
-    /// itself.
-    QCheckBox* Hacer_Cabeceras();
     Panel_Campos* panel;
 
 private:
     void BtnAceptar_Click();
 
-    Modelo_Formato* modelo = nullptr;
+    Modelo_Formato* en_uso = nullptr;
 };

@@ -11,8 +11,8 @@
 
 namespace {
 
-// A combo that tells a typed name from a picked one. Enter in the box, or leaving it, would take the
-// list's entry of the same name for picked: a typed name is a new format's also there.
+// A combo that tells a typed name from a picked one. Enter in the box, or leaving it, would take
+// the list's entry of the same name for picked: a typed name is a new format's also there.
 class Combo_Nombre : public QComboBox {
 public:
     Combo_Nombre()

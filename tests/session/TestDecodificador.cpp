@@ -153,6 +153,9 @@ void TestDecodificador::los_tratamientos_van_en_su_orden_data()
     QTest::newRow("ED") << "P7`12"
                         << "ED"
                         << "12";
+    QTest::newRow("ED con dos marcas") << "P7`A`12"
+                                       << "ED"
+                                       << "12";
     QTest::newRow("ED sin marca") << "P7"
                                   << "ED"
                                   << "P7";
@@ -206,6 +209,7 @@ void TestDecodificador::las_columnas_se_cortan_data()
     fila("blancos no son cero", "A0001           ", 9, 8, "7,3", ".", "0.000", "", "");
     fila("ancho cero", mas, 9, 0, "7,3", ".", "0.000", "", "");
     fila("ED con acento grave", "AEST`P7  `12", 2, 3, "*", "", "", "ED", "12");
+    fila("ED con dos acentos graves", "AEST`P7`12 ", 2, 3, "*", "", "", "ED", "12 ");
     fila("ED sin acento grave", "AP7 ", 2, 3, "*", "", "", "ED", "P7");
     fila("acento grave sin ED", "AEST`P7  `12", 2, 3, "*", "", "", "", "EST");
     fila("acento grave con otro tratamiento", "A1`2.50", 2, 5, "*", "", "", "CD", "1`2.5");
@@ -276,6 +280,13 @@ void TestDecodificador::un_nombre_que_nadie_da_queda_vacio()
     Extraer_Punto(*Base_Datos, 1, "KRT300", 0, "1", 1, 999999,
                   {"Código", "Inventado", "Coordenada X"}, valores);
     QCOMPARE(valores, (QStringList{"ARBOL", "", ""}));
+    // The fields of a kind follow `Orden`, whatever the order of their rows.
+    for (const int orden : {3, 1, 2})
+        p.Fila("Campos", {{"Maquina", "KRT300"}, {"ID", "o"}, {"Campo", QString::number(orden)},
+                          {"Orden", orden}, {"Digitos", 2}, {"PosDigit", "*"}});
+    QStringList ordenados(3);
+    Decodificar_Linea(*Base_Datos, "oAABBCC", "1", "KRT300", 0, {"1", "2", "3"}, ordenados);
+    QCOMPARE(ordenados, (QStringList{"AA", "BB", "CC"}));
     // A kind that no row describes is skipped.
     QStringList otros = {"viejo"};
     Decodificar_Linea(*Base_Datos, "?ARBOL", "1", "KRT300", 0, {"Código"}, otros);
@@ -307,10 +318,12 @@ void TestDecodificador::el_punto_pierde_su_sufijo()
     Poner_Instrumentos(p);
     Clave_Estacion = "KRT300";
     Poner_Sesion(p, 1, "KRT300", 0, {{"P7`12", "cUNO"}, {"O'Neil", "cDOS"}});
-    QStringList valores(3);
+    QStringList valores(3), uno(1);
     Extraer_Punto(*Base_Datos, 1, "KRT300", 0, "P7`12", 1, 999999, {"Punto", "PUNTO", "Código"},
                   valores);
     QCOMPARE(valores, (QStringList{"12", "12", "UNO"}));
+    Extraer_Punto(*Base_Datos, 1, "KRT300", 0, "P7`A`3", 1, 999999, {"Punto"}, uno);
+    QCOMPARE(uno, QStringList{"3"});
     Extraer_Punto(*Base_Datos, 1, "KRT300", 0, "O'Neil", 1, 999999, {"punto", "x", "Código"},
                   valores);
     QCOMPARE(valores, (QStringList{"O'Neil", "", "DOS"}));
@@ -524,6 +537,11 @@ void TestDecodificador::una_linea_de_krt800_data()
                              << QStringList{"7", "101.500", "ARB"};
     QTest::newRow("blanco delante")
         << 1 << " XYZ 7,100.5,200,3,ARB" << xyz << QStringList{"7", "101.500", "ARB"};
+    QTest::newRow("blancos detrás de la palabra")
+        << 1 << "XYZ   7,100.5,200,3,ARB" << xyz << QStringList{"7", "101.500", "ARB"};
+    QTest::newRow("ejes: blancos detrás de la palabra")
+        << 6 << "EJE  0+000 45.5" << QStringList{"Inicio", "Azimut"}
+        << QStringList{"0+000", "45.5"};
     QTest::newRow("sin palabra") << 1 << "XYZ" << xyz << QStringList{"v", "v", "v"};
     QTest::newRow("asterisco deja lo anterior")
         << 1 << "XYZ 7,*,200,3,*" << xyz << QStringList{"7", "v", "v"};

@@ -1,3 +1,4 @@
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "session/Desplazamiento.h"
 #include "tests/apoyo/Prueba.h"

@@ -15,13 +15,25 @@ void TestTexto_Nivel::el_texto_de_una_linea_data()
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("linea");
     QTest::addColumn<QString>("texto");
-    QTest::newRow("en orden") << "t" << "t0,A,z,M,=," << "Obra:A Mira:M ";
+    QTest::newRow("en orden") << "t"
+                              << "t0,A,z,M,=,"
+                              << "Obra:A Mira:M ";
     // What is called "Nulo" has its place in the line all the same.
-    QTest::newRow("faltan") << "t" << "t0,A" << "Obra:A Mira: ";
-    QTest::newRow("mayúscula no es la letra") << "T" << "t0,A,z,M,=," << "";
-    QTest::newRow("sin campos") << "z" << "z0,A," << "";
-    QTest::newRow("apóstrofo") << "'" << "'0,A," << "Nota:A ";
-    QTest::newRow("otra familia") << "k" << "k0,A," << "";
+    QTest::newRow("faltan") << "t"
+                            << "t0,A"
+                            << "Obra:A Mira: ";
+    QTest::newRow("mayúscula no es la letra") << "T"
+                                              << "t0,A,z,M,=,"
+                                              << "";
+    QTest::newRow("sin campos") << "z"
+                                << "z0,A,"
+                                << "";
+    QTest::newRow("apóstrofo") << "'"
+                               << "'0,A,"
+                               << "Nota:A ";
+    QTest::newRow("otra familia") << "k"
+                                  << "k0,A,"
+                                  << "";
 }
 
 void TestTexto_Nivel::el_texto_de_una_linea()
