@@ -27,7 +27,6 @@ private Q_SLOTS:
     void cambiar_no_toca_lo_suyo();
     void eliminar_pregunta();
     void un_apostrofo_en_el_nombre_rompe_la_sentencia();
-    void un_nombre_en_blanco_no_vale();
     void las_listas_no_repiten_nombres();
     void de_una_en_una_se_baja_por_la_lista();
     void varias_llegan_al_reves();
@@ -389,17 +388,6 @@ void TestModFormatos::un_apostrofo_en_el_nombre_rompe_la_sentencia()
     QVERIFY_THROWS_EXCEPTION(Error_Ejecucion,
                              Eliminar_Formato(*Base_Datos, "KRT300", "x' OR '1'='1"));
     QCOMPARE(Guardado(p).size(), 3);
-}
-
-void TestModFormatos::un_nombre_en_blanco_no_vale()
-{
-    Interfaz_Guion guion;
-    QVERIFY(Depura(" a "));
-    QVERIFY(!Depura("   "));
-    QVERIFY(!Depura(""));
-    QCOMPARE(guion.Textos(), (QStringList{"El Nombre del formato no puede quedar en blanco!!",
-                                          "El Nombre del formato no puede quedar en blanco!!"}));
-    QCOMPARE(guion.avisos[0].icono, Icono::Informacion);
 }
 
 void TestModFormatos::las_listas_no_repiten_nombres()
