@@ -75,13 +75,6 @@ bool FileExist(const QString& fichero);
 void Limpiar_IDs();
 /// @return true if `id` stands in `datosexport`
 bool Existe_ID(const QString& id);
-/// Record identifier of the current row's `Datos`: first character of the trimmed text; for the
-/// KRT800 the first comma token when `ope` is 4, else the first word, trimmed.
-QString Extraer_ID(const Conjunto_Registros& registros, const QString& maquina, int ope);
-/// Token `n` by blanks; for `ope` 4 always "Punto".
-QString Token_ID(const QString& cadena, qint64 n, int ope);
-/// For `ope` 4 "Punto", else all 31 entries of `ids`, each followed by a blank, joined.
-QString Todos_Los_IDs(int ope, const QStringList& ids);
 
 /// Rows of a query for a combo and its tag.
 struct Lista_Combo {

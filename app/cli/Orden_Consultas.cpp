@@ -1,6 +1,7 @@
 #include "app/cli/Instalacion.h"
 #include "app/cli/Ordenes_Sesion.h"
 #include "core/Error_Ejecucion.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "formats/ModFormatos.h"
 #include "session/Consultas_Sesion.h"
@@ -10,12 +11,10 @@
 
 namespace {
 
-const QStringList MAQUINAS = {"KRT300", "KRT800", "NV400", "PX7"};
-
 // The families asked for: the one of --maquina, or all.
 QStringList Maquinas_De(const Argumentos& a, const Instalacion& instalacion)
 {
-    if (!a.Hay("maquina")) return MAQUINAS;
+    if (!a.Hay("maquina")) return Claves_Familias();
     instalacion.Elegir_Maquina(a.Opcion("maquina"));
     return {Clave_Estacion};
 }
@@ -93,7 +92,7 @@ int Orden_Formatos(const Contexto& c, const QStringList& palabras)
                 c.Mensaje(nombre + ": " + e.descripcion);
             }
             // Behind 40 characters a field of the level carries the mark of its half.
-            if (maquina == u"NV400")
+            if (Familia_De(maquina).serie == Serie::Nivel)
                 for (QString& campo : campos) campo = Basico::Trim(campo.left(40));
             c.Fila({nombre, maquina, QString::number(formato->ope), formato->modificable ? "SI" : "NO",
                     campos.join(u',')});

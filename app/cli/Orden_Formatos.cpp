@@ -1,5 +1,6 @@
 #include "app/cli/Instalacion.h"
 #include "app/cli/Ordenes_Sesion.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "formats/Formato_Nuevo.h"
 
@@ -14,7 +15,7 @@ int Orden_Formato_Nuevo(const Contexto& c, const QStringList& palabras)
     const Instalacion instalacion(c);
     instalacion.Elegir_Maquina(maquina);
     instalacion.Comprobar_Operacion(ope, "D");
-    if (maquina == u"NV400") {
+    if (Familia_De(maquina).serie == Serie::Nivel) {
         c.Mensaje("Los formatos del nivel todavía no se crean en esta versión");
         return RECHAZADO;
     }

@@ -80,11 +80,6 @@ Panel_Campos::Panel_Campos(const QString& subir, const QString& bajar)
     connect(BtnBajar, &QPushButton::clicked, this, [this] { Mover(&Dos_Listas::Bajar); });
 }
 
-QList<QWidget*> Panel_Campos::Piezas_En_Orden() const
-{
-    return {List1, BtnAgregar, BtnQuitar, List2, BtnSubir, BtnBajar};
-}
-
 void Panel_Campos::Atar(Dos_Listas* de)
 {
     listas = de;
