@@ -3,6 +3,7 @@
 #include "conversions/Fichero_Lista.h"
 #include "conversions/Peticiones_Conversion.h"
 #include "conversions/Tabla_Funciones.h"
+#include "core/Estado_Global.h"
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
 
@@ -68,8 +69,7 @@ QString Funcion_De(const Flujo_LandXML& flujo, const QString& origen)
 
 Peticiones_Conversion& Peticiones_De_Conversion()
 {
-    static Peticiones_Conversion unicas;
-    return unicas;
+    return Estado_Global::Unico<Peticiones_Conversion>();
 }
 
 QStringList Tomar_Lista()

@@ -1,5 +1,6 @@
 #include "export/Dialogo_Exportar.h"
 
+#include "core/Estado_Global.h"
 #include "core/ModEstTotal.h"
 #include "export/Peticiones_Exportar.h"
 #include "formats/ModFormatos.h"
@@ -35,8 +36,7 @@ bool Es_Formato_De_Dibujo(const QString& formato)
 
 Peticiones_Exportar& Peticiones_De_Exportar()
 {
-    static Peticiones_Exportar peticiones;
-    return peticiones;
+    return Estado_Global::Unico<Peticiones_Exportar>();
 }
 
 Dialogo_Exportar::Dialogo_Exportar(const Trabajo_Exportar& t) : trabajo(t)

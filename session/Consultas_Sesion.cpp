@@ -1,16 +1,14 @@
 #include "session/Consultas_Sesion.h"
 
+#include "core/Estado_Global.h"
 #include "core/ModEstTotal.h"
+#include "core/Texto_SQL.h"
 #include "core/Sesiones.h"
 
 bool Tipo_Ficheros_Puntos = false;
+[[maybe_unused]] static const bool anotado = Estado_Global::Anotar(Tipo_Ficheros_Puntos);
 
 namespace {
-
-QString Doblar(const QString& texto)
-{
-    return Reemplazar(texto, "'", "''");
-}
 
 // What ties a line to its row of `Identificadores`, so that each line is listed once.
 QString Condicion_Descripcion(const Sesion_Elegida& sesion)

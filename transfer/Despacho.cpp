@@ -1,6 +1,7 @@
 #include "transfer/Despacho.h"
 
 #include "core/Ayuda.h"
+#include "core/Estado_Global.h"
 #include "core/ModEstTotal.h"
 #include "transfer/Descarga.h"
 #include "transfer/Peticiones_Transfer.h"
@@ -90,8 +91,7 @@ void Lanzar_Serie_B(const QString& maquina, int operacion, const QString& tipo_o
 
 Peticiones_Transfer& Peticiones_De_Transfer()
 {
-    static Peticiones_Transfer unicas;
-    return unicas;
+    return Estado_Global::Unico<Peticiones_Transfer>();
 }
 
 QList<Operacion_Ofrecida> Operaciones_Ofrecidas(const QString& tipo_ope)
