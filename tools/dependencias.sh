@@ -3,7 +3,7 @@
 # Usage: tools/dependencias.sh construir|probar
 set -euo pipefail
 construir=(cmake ninja-build g++ mold qt6-base-dev libqt6serialport6-dev libqt6svg6-dev
-           libgl1-mesa-dev libsqlite3-dev)
+           libgl1-mesa-dev libsqlite3-dev qt6-translations-l10n)
 probar=(python3-xlrd mdbtools libxlsxwriter-dev libbenchmark-dev libxml2-utils)
 case "${1:-}" in
 construir) paquetes=("${construir[@]}") ;;
