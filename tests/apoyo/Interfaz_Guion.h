@@ -37,6 +37,9 @@ public:
         Aviso value(qsizetype i) const { return Mirar().value(i); }
         const Aviso& first() const { return Mirar().constFirst(); }
         const Aviso& last() const { return Mirar().constLast(); }
+        const Aviso& constFirst() const { return first(); }
+        const Aviso& constLast() const { return last(); }
+        QList<Aviso> mid(qsizetype desde) const { return Mirar().mid(desde); }
         auto begin() const { return Mirar().constBegin(); }
         auto end() const { return Mirar().constEnd(); }
         /// Texts of the boxes that nobody has looked at.
