@@ -1,47 +1,20 @@
 #include "core/Basico.h"
 
 #include "core/Error_Ejecucion.h"
+#include "core/Numero_Escrito.h"
 
 #include <cmath>
 #include <limits>
 
 namespace {
 
-bool Es_Cifra(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
 // Number in the Spanish form, made plain ("1.234,5" -> "1234.5"); empty when it is no number.
 QByteArray Numero_Llano(const QString& texto)
 {
+    constexpr Grafia ESPANOLA{.marca = u',', .blancos_tras_signo = true, .puntos_de_miles = true};
     const QStringView t = QStringView(texto).trimmed();
-    QByteArray llano;
-    qsizetype i = 0;
-    if (i < t.size() && (t[i] == u'+' || t[i] == u'-')) llano += t[i++] == u'-' ? '-' : '+';
-    while (i < t.size() && t[i] == u' ') ++i;
-    bool cifras = false, coma = false;
-    for (; i < t.size(); ++i) {
-        if (Es_Cifra(t[i])) {
-            llano += t[i].toLatin1();
-            cifras = true;
-        } else if (t[i] == u',' && !coma) {
-            llano += '.';
-            coma = true;
-        } else if (t[i] != u'.' || coma || !cifras) {
-            break;
-        }
-    }
-    if (!cifras) return {};
-    if (i < t.size() && (t[i] == u'e' || t[i] == u'E' || t[i] == u'd' || t[i] == u'D')) {
-        llano += 'e';
-        ++i;
-        if (i < t.size() && (t[i] == u'+' || t[i] == u'-')) llano += t[i++].toLatin1();
-        const qsizetype primera = i;
-        for (; i < t.size() && Es_Cifra(t[i]); ++i) llano += t[i].toLatin1();
-        if (i == primera) return {};
-    }
-    return i == t.size() ? llano : QByteArray();
+    const Numero_Escrito n = Leer_Numero(t, ESPANOLA);
+    return n.Hay() && n.leidos == t.size() ? n.Llano() : QByteArray();
 }
 
 // A decimal reading of at most 15 digits: value = 0.d1d2d3... x 10^punto.
@@ -126,39 +99,9 @@ QString Texto_Fijo(const QString& dibujo, const Decimal15& d)
 
 double Basico::Val(QStringView texto)
 {
-    QByteArray n;
-    enum { Signo, Entera, Decimal, Exponente_Signo, Exponente } estado = Signo;
-    bool cifras = false;
-    qsizetype largo_valido = 0;
-    for (const QChar c : texto) {
-        if (c == u' ' || c == u'\t' || c == u'\n') continue;
-        if (Es_Cifra(c)) {
-            if (estado == Signo) estado = Entera;
-            if (estado == Exponente_Signo) estado = Exponente;
-            cifras = true;
-        } else if ((c == u'+' || c == u'-') && estado == Signo && n.isEmpty()) {
-            n += c.toLatin1();
-            continue;
-        } else if (c == u'.' && estado <= Entera) {
-            estado = Decimal;
-        } else if ((c == u'e' || c == u'E' || c == u'd' || c == u'D') && cifras &&
-                   estado < Exponente_Signo) {
-            estado = Exponente_Signo;
-            n += 'e';
-            continue;
-        } else if ((c == u'+' || c == u'-') && estado == Exponente_Signo && n.endsWith('e')) {
-            n += c.toLatin1();
-            continue;
-        } else {
-            break;
-        }
-        n += c.toLatin1();
-        if (cifras) largo_valido = n.size();
-    }
-    n.truncate(largo_valido);
-    if (n.endsWith('.')) n.chop(1);
+    const Numero_Escrito n = Leer_Numero(texto, {.blancos = true});
     bool bien = false;
-    const double x = n.toDouble(&bien);
+    const double x = n.Hay() ? n.Llano().toDouble(&bien) : 0.0;
     return bien && std::isfinite(x) ? x : 0.0;
 }
 

@@ -118,6 +118,11 @@ Error_Ejecucion::Error_Ejecucion(int n, const QString& detalle)
 {
 }
 
+Error_Ejecucion Error_Ejecucion::Con(int numero, const QString& detalle)
+{
+    return {numero, Descripcion_Error(numero) + QStringLiteral(": ") + detalle};
+}
+
 Error_Ejecucion Error_En_Curso()
 {
     try {
@@ -127,8 +132,7 @@ Error_Ejecucion Error_En_Curso()
     } catch (const std::bad_alloc&) {
         return Error_Ejecucion(7);
     } catch (const std::exception& e) {
-        return Error_Ejecucion(51, Descripcion_Error(51) + QStringLiteral(": ") +
-                                       QString::fromUtf8(e.what()));
+        return Error_Ejecucion::Con(51, QString::fromUtf8(e.what()));
     } catch (...) {
         return Error_Ejecucion(51);
     }

@@ -11,6 +11,9 @@ public:
     explicit Error_Ejecucion(int numero);
     /// @param detalle  replaces the general description, e.g. the reason the system gave
     Error_Ejecucion(int numero, const QString& detalle);
+    /// @param detalle  what the failure is about (a file, a field, the system's reason): it stands
+    ///                 behind the general description and ": "
+    static Error_Ejecucion Con(int numero, const QString& detalle);
 
     const char* what() const noexcept override { return texto_what.constData(); }
 

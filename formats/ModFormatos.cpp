@@ -1,19 +1,18 @@
 #include "formats/ModFormatos.h"
 
+#include "core/Estado_Global.h"
 #include "core/Familia.h"
 #include "core/Sucesos.h"
+#include "core/Texto_SQL.h"
 #include "formats/Nombre_Formato.h"
 #include "session/Identificador.h"
 
 QStringList Campos_Exportar = QStringList(MAX_CAMPOS, QString());
 bool Incluir_Cabeceras = false;
+[[maybe_unused]] static const bool anotadas =
+    Estado_Global::Anotar(Campos_Exportar) && Estado_Global::Anotar(Incluir_Cabeceras);
 
 namespace {
-
-QString Doblar(const QString& texto)
-{
-    return Reemplazar(texto, "'", "''");
-}
 
 // Takes an identifier into the next free slot unless it stands in one; an empty one stands in every
 // free slot.

@@ -1,20 +1,14 @@
 #include "session/Consultas_Sesion.h"
 
+#include "core/Estado_Global.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
+#include "core/Texto_SQL.h"
 #include "core/Sesiones.h"
 #include "session/Identificador.h"
 
 bool Tipo_Ficheros_Puntos = false;
-
-namespace {
-
-QString Doblar(const QString& texto)
-{
-    return Reemplazar(texto, "'", "''");
-}
-
-} // namespace
+[[maybe_unused]] static const bool anotado = Estado_Global::Anotar(Tipo_Ficheros_Puntos);
 
 bool Es_Fichero_De_Puntos(const QString& wope)
 {

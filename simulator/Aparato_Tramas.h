@@ -38,7 +38,6 @@ private:
     void Enviar_Trama(int n);
     void Seguir_Envio(char c);
     void Siguiente();
-    void Acabar_Envio();
 
     void Cerrar_Trama();
     void Contestar_Bloque();

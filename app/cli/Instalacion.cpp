@@ -1,6 +1,7 @@
 #include "app/cli/Instalacion.h"
 
 #include "core/Configuracion.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 
 Instalacion::Instalacion(const Contexto& c) : contexto(c), interfaz(c)
@@ -30,8 +31,10 @@ void Instalacion::Elegir_Modelo(const QString& nombre) const
 
 void Instalacion::Elegir_Maquina(const QString& clave) const
 {
-    if (!QStringList{"KRT300", "KRT800", "NV400", "PX7"}.contains(clave)) {
-        contexto.Mensaje("No existe la máquina " + clave + ": KRT300, KRT800, NV400 o PX7");
+    QStringList claves = Claves_Familias();
+    if (!claves.contains(clave)) {
+        const QString ultima = claves.takeLast();
+        contexto.Mensaje("No existe la máquina " + clave + ": " + claves.join(", ") + " o " + ultima);
         throw Orden_Rechazada{};
     }
     Clave_Estacion = clave;
