@@ -336,9 +336,8 @@ void Decodificador::Guardar(QString& valor, QStringView linea, Valor&& sacar)
 void Decodificador::Linea(QStringView linea, QStringList& valores)
 {
     // The level's lines are all of one kind; so is any other session's while it is in force.
-    const Registro& registro = Preparar(suma.familia.serie == Serie::Nivel
-                                            ? QStringView(u"1")
-                                            : Id_De_Linea(linea, familia, ope));
+    const Registro& registro = Preparar(
+        suma.familia.serie == Serie::Nivel ? QStringView(u"1") : Id_De_Linea(linea, familia, ope));
     if (familia.serie == Serie::A) {
         const QStringView recortada = Sin_Blancos(linea);
         for (const Paso& paso : registro.pasos)
@@ -351,8 +350,9 @@ void Decodificador::Linea(QStringView linea, QStringList& valores)
         for (const Paso& paso : registro.pasos) {
             QString& valor = valores[paso.lugar];
             const QStringView token = Vista_Trozo(paso.posicion, *resto, Separador_800(ope));
-            Guardar(valor, linea,
-                    [&] { return Valor_De_Token(token, *paso.campo, paso.sumador).value_or(valor); });
+            Guardar(valor, linea, [&] {
+                return Valor_De_Token(token, *paso.campo, paso.sumador).value_or(valor);
+            });
         }
     } else if (familia.serie == Serie::Nivel && !registro.filas->empty()) {
         Cortar_NV400(linea.toString(), nombres, valores);
