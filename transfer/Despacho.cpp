@@ -1,8 +1,10 @@
 #include "transfer/Despacho.h"
 
 #include "core/Ayuda.h"
+#include "core/Estado_Global.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
+#include "session/Filtro_Extensiones.h"
 #include "transfer/enlace/Descarga.h"
 #include "transfer/nv400/Subida_Nivel.h"
 #include "transfer/Peticiones_Transfer.h"
@@ -131,8 +133,7 @@ void Lanzar_Carga(const Familia& familia, int operacion)
 
 Peticiones_Transfer& Peticiones_De_Transfer()
 {
-    static Peticiones_Transfer unicas;
-    return unicas;
+    return Estado_Global::Unico<Peticiones_Transfer>();
 }
 
 QList<Operacion_Ofrecida> Operaciones_Ofrecidas(const QString& tipo_ope)
@@ -157,31 +158,10 @@ void Lanzar_Operacion(const QString& maquina, int operacion, const QString& tipo
         Lanzar_Carga(familia, operacion);
 }
 
-QString Filtro_Extensiones(const QString& maquina, int operacion, const QString& tipo_ope)
-{
-    Conjunto_Registros operaciones = Base_Datos->OpenRecordset("KRT2");
-    operaciones.Index("PrimaryKey");
-    operaciones.Seek({maquina, operacion, tipo_ope});
-    if (operaciones.NoMatch()) {
-        Interfaz_Actual().Mensaje("No hay extensiones definidas para esta operación", Icono::Critico);
-        Interfaz_Actual().Terminar(1);
-        return {};
-    }
-    Conjunto_Registros tipos = Base_Datos->OpenRecordset("CONVERT");
-    tipos.Index("PrimaryKey");
-    QString filtro;
-    for (const QString& clave : operaciones.Texto("Conv").split(u',')) {
-        tipos.Seek({clave});
-        if (!tipos.NoMatch())
-            filtro += u'|' + Basico::Trim(tipos.Texto("descripcion")) + u'|' +
-                      Basico::Trim(tipos.Texto("ext"));
-    }
-    return filtro.isEmpty() ? QStringLiteral("") : filtro.mid(1);
-}
-
 Texto_Recordatorio Leer_Recordatorio()
 {
-    return {"Conecte el aparato al puerto " + Puerto + " y configúrelo con los siguientes parámetros:",
+    return {"Conecte el aparato al puerto " + Puerto +
+                " y configúrelo con los siguientes parámetros:",
             {"Velocidad: " + Velocidad, "Bits de Datos: " + Bits_Datos, "Paridad: " + Paridad,
              "Bit de Parada: " + Bits_Parada}};
 }

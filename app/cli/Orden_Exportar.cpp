@@ -11,14 +11,16 @@ namespace {
 QStringList Palabras_Tipo()
 {
     QStringList palabras;
-    for (const Salida_Exportar* salida : Salidas_Por_Palabra()) palabras << salida->palabra;
+    for (const Salida_Exportar* salida : Salidas_Por_Palabra())
+        palabras << salida->palabra;
     return palabras;
 }
 
 QStringList Palabras_Separador()
 {
     QStringList palabras;
-    for (const Fila_Separador& fila : Separadores()) palabras << fila.palabra;
+    for (const Fila_Separador& fila : Separadores())
+        palabras << fila.palabra;
     return palabras;
 }
 
@@ -35,7 +37,7 @@ struct Pedido {
     const Salida_Exportar* salida;
     int separador;
     bool titulos;
-    std::optional<QStringList> desplazamiento;  // X, Y, Z as typed
+    std::optional<QStringList> desplazamiento; // X, Y, Z as typed
 };
 
 Pedido Leer_Pedido(const QStringList& palabras)

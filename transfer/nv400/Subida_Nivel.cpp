@@ -1,7 +1,7 @@
 #include "transfer/nv400/Subida_Nivel.h"
 
-#include "conversions/Flujo_Conversion.h"
-#include "conversions/Tabla_Funciones.h"
+#include "conversions/biblioteca/Flujo_Conversion.h"
+#include "conversions/biblioteca/Tabla_Funciones.h"
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
 
