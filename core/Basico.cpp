@@ -240,7 +240,7 @@ std::optional<double> Basico::Numero_O_Nada(QStringView texto)
     qsizetype cuantas = 0, decimales = -1;
     bool llano = t.size() <= CIFRAS_EXACTAS;
     for (qsizetype i = negativo ? 1 : 0; llano && i < t.size(); ++i) {
-        if (Es_Cifra(t[i])) {
+        if (t[i] >= u'0' && t[i] <= u'9') {
             cifras = cifras * 10 + quint64(t[i].unicode() - u'0');
             ++cuantas;
             if (decimales >= 0) ++decimales;

@@ -47,8 +47,8 @@ bool Recorrer(const Camino_Formato& camino, const Contexto& contexto)
     if (!formato.Ver()) return false;
     const qsizetype indice = formato.nombres.indexOf(camino.formato);
     if (indice < 0) {
-        contexto.Mensaje("No existe el formato " + camino.formato + " para la sesión; los hay: " +
-                         formato.nombres.join(", "));
+        contexto.Mensaje("No existe el formato " + camino.formato +
+                         " para la sesión; los hay: " + formato.nombres.join(", "));
         return false;
     }
     formato.Elegir(int(indice));

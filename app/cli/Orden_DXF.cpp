@@ -143,7 +143,6 @@ int Orden_DXF_Fichero(const Contexto& c, const QStringList& palabras)
     const QString fichero = Leer_Salida(a);
     const Instalacion instalacion(c);
     const Ajustes_DXF ajustes = Leer_Ajustes(a);
-    return Dibujar(
-        Dibujo_De_Texto(entrada, fichero, Separadores()[std::size_t(indice)].caracter), modo,
-        ajustes);
+    return Dibujar(Dibujo_De_Texto(entrada, fichero, Separadores()[std::size_t(indice)].caracter),
+                   modo, ajustes);
 }

@@ -1,9 +1,11 @@
-#include "app/cli/Camino_Formato.h"
 #include "app/cli/Instalacion.h"
 #include "app/cli/Ordenes_Export.h"
 #include "app/cli/Ordenes_Sesion.h"
 #include "core/ModEstTotal.h"
 #include "export/Dialogo_Exportar.h"
+#include "formats/Formato_Existente.h"
+#include "session/Desplazamiento.h"
+#include "session/Peticiones_Sesion.h"
 #include "session/Separadores.h"
 
 namespace {
@@ -22,6 +24,13 @@ QStringList Palabras_Separador()
     for (const Fila_Separador& fila : Separadores())
         palabras << fila.palabra;
     return palabras;
+}
+
+// "a, b o c"
+QString Enumerar(QStringList palabras)
+{
+    const QString ultima = palabras.takeLast();
+    return palabras.isEmpty() ? ultima : palabras.join(", ") + " o " + ultima;
 }
 
 const Salida_Exportar& Salida_De_Palabra(const QString& palabra)
@@ -56,9 +65,58 @@ Pedido Leer_Pedido(const QStringList& palabras)
     if (p.separador < 0)
         throw Error_Uso{"El separador es " + Enumerar(Palabras_Separador()) + ": " + separador};
     if (p.fichero.isEmpty()) throw Error_Uso{"Falta el nombre del fichero de salida"};
-    p.desplazamiento = Leer_Desplazamiento(a);
+    if (a.Hay("desplazamiento")) {
+        p.desplazamiento = a.Opcion("desplazamiento").split(u',');
+        if (p.desplazamiento->size() != 3)
+            throw Error_Uso{"El desplazamiento se escribe X,Y,Z: " + a.Opcion("desplazamiento")};
+        for (const QString& eje : *p.desplazamiento)
+            if (Teclear_Desplazamiento(eje) != eje)
+                throw Error_Uso{"El desplazamiento \"" + eje +
+                                "\" no es un número con punto decimal"};
+    }
     return p;
 }
+
+// Answers for the dialogs of the road while it lives: the offsets and the output come from the words.
+class Respuestas {
+public:
+    Respuestas(const Pedido& pedido, const Contexto& contexto, bool& hecho)
+        : formatos(Peticiones_De_Formatos()), sesion(Peticiones_De_Sesion())
+    {
+        Offset_Exportar = pedido.desplazamiento.has_value();
+        Peticiones_De_Sesion().Pedir_Desplazamientos = [&pedido](bool x, bool y, bool z,
+                                                                 const QString& forma) {
+            const QStringList& d = *pedido.desplazamiento;
+            // A box that is disabled stays empty.
+            Poner_Desplazamientos(x ? d[0] : QString(), y ? d[1] : QString(), z ? d[2] : QString(),
+                                  forma);
+            return true;
+        };
+        Peticiones_De_Formatos().Abrir_Exportar = [&](const Trabajo_Exportar& trabajo) {
+            Dialogo_Exportar dialogo(trabajo);
+            dialogo.Elegir_Opcion(pedido.salida->opcion);
+            dialogo.caracter = pedido.separador;
+            if (!dialogo.activa[dialogo.opcion]) {
+                contexto.Mensaje("Esta exportación todavía no está disponible en esta versión");
+                return;
+            }
+            if (!dialogo.Proponer_Fichero(pedido.fichero)) return;
+            Avance_Exportar avance;
+            hecho = dialogo.Exportar(avance);
+        };
+    }
+    ~Respuestas()
+    {
+        Peticiones_De_Formatos() = formatos;
+        Peticiones_De_Sesion() = sesion;
+    }
+    Respuestas(const Respuestas&) = delete;
+    Respuestas& operator=(const Respuestas&) = delete;
+
+private:
+    Peticiones_Formatos formatos;
+    Peticiones_Sesion sesion;
+};
 
 } // namespace
 
@@ -74,25 +132,24 @@ int Orden_Exportar(const Contexto& c, const QStringList& palabras)
     const Pedido pedido = Leer_Pedido(palabras);
     const Instalacion instalacion(c);
     const Sesion_Elegida sesion = instalacion.Elegir_Sesion(pedido.id);
+    if (!Comprobar_Hay_Registros(*Base_Datos, sesion.id)) return RECHAZADO;
     const Serie serie = Familia_De(sesion.maquina).serie;
     if (serie == Serie::Nivel && !pedido.salida->escribir_nivel) {
         c.Mensaje("La exportación del nivel todavía no está disponible en esta versión");
         return RECHAZADO;
     }
     bool hecho = false;
-    Camino_Formato camino{sesion, pedido.formato, "E", pedido.desplazamiento};
-    camino.cambiar = [&](Formato_Existente& formato) { formato.cabeceras = pedido.titulos; };
-    camino.abrir = [&](const Trabajo_Exportar& trabajo) {
-        Dialogo_Exportar dialogo(trabajo);
-        dialogo.Elegir_Opcion(pedido.salida->opcion);
-        dialogo.caracter = pedido.separador;
-        if (!dialogo.activa[dialogo.opcion]) {
-            c.Mensaje("Esta exportación todavía no está disponible en esta versión");
-            return;
-        }
-        if (!dialogo.Proponer_Fichero(pedido.fichero)) return;
-        Avance_Exportar avance;
-        hecho = dialogo.Exportar(avance);
-    };
-    return Recorrer(camino, c) && hecho ? HECHO : RECHAZADO;
+    const Respuestas respuestas(pedido, c, hecho);
+    Formato_Existente formato(sesion, "E");
+    if (!formato.Ver()) return RECHAZADO;
+    const qsizetype indice = formato.nombres.indexOf(pedido.formato);
+    if (indice < 0) {
+        c.Mensaje("No existe el formato " + pedido.formato +
+                  " para la sesión; los hay: " + formato.nombres.join(", "));
+        return RECHAZADO;
+    }
+    formato.Elegir(int(indice));
+    formato.cabeceras = pedido.titulos;
+    formato.Aceptar([] {});
+    return hecho ? HECHO : RECHAZADO;
 }

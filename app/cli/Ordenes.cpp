@@ -37,6 +37,8 @@ const QList<Orden>& Ordenes()
         {"dxf", Uso_DXF(), Orden_DXF},
         {"dxf-fichero", Uso_DXF_Fichero(), Orden_DXF_Fichero},
         {"imprimir", Uso_Imprimir(), Orden_Imprimir, true},
+        {"plano", "plano ID --salida FICHERO.png|FICHERO.pdf|FICHERO.svg [--escala N]", Orden_Plano,
+         true},
         {"borrar", "borrar ID", Orden_Borrar},
         {"compactar", "compactar", Orden_Compactar},
         {"convertidor", "convertidor FUNCION ARGUMENTO...", Orden_Convertidor},

@@ -15,5 +15,8 @@ QString Uso_DXF_Fichero();
 int Orden_Imprimir(const Contexto& contexto, const QStringList& palabras);
 QString Uso_Imprimir();
 
+/// plano: the points of a session as a sheet.
+int Orden_Plano(const Contexto& contexto, const QStringList& palabras);
+
 /// The words of `exportar` for the help: its kinds and separators are those that there are.
 QString Uso_Exportar();

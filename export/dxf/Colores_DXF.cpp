@@ -41,7 +41,7 @@ Color_RGB Color_De_Numero(int numero)
 std::span<const Color_Con_Nombre> Colores_Con_Nombre()
 {
     static const Color_Con_Nombre colores[] = {
-        {1, "rojo"},    {2, "amarillo"}, {3, "verde"},        {4, "cian"},       {5, "azul"},
+        {1, "rojo"},    {2, "amarillo"}, {3, "verde"},       {4, "cian"},       {5, "azul"},
         {6, "magenta"}, {7, "blanco"},   {8, "gris oscuro"}, {9, "gris claro"},
     };
     return colores;

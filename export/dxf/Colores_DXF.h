@@ -6,7 +6,7 @@
 
 /// The colours that drawing programs give to their colour numbers.
 
-/// Parts 0 to 255.
+/// Components, 0 to 255.
 struct Color_RGB {
     int rojo = 0, verde = 0, azul = 0;
     bool operator==(const Color_RGB&) const = default;

@@ -34,7 +34,8 @@ QString Texto_Cierre(qint64 omitidos, const QList<int>& cortas)
 {
     QString texto = QStringLiteral("Sesión Exportada");
     if (omitidos > 0)
-        texto += QStringLiteral("\rPuntos sin coordenadas, que no se han dibujado: %1").arg(omitidos);
+        texto +=
+            QStringLiteral("\rPuntos sin coordenadas, que no se han dibujado: %1").arg(omitidos);
     if (cortas.isEmpty()) return texto;
     QStringList numeros;
     for (const int linea : cortas.mid(0, LINEAS_NOMBRADAS))
@@ -59,14 +60,9 @@ Origen_Dibujo Dibujo_De_Sesion(const Trabajo_Exportar& trabajo)
     const auto leer = [trabajo](Avance_Exportar& avance) -> std::optional<Lista_Puntos> {
         const std::shared_ptr<Base> bd = Base::Abrir(Fichero_MDB);
         const Opciones_Exportar opciones;
-        const Origen_Exportar origen{*bd,
-                                     trabajo.id,
-                                     trabajo.maquina,
-                                     trabajo.ope,
-                                     trabajo.formato,
-                                     Cargar_Campos_Exportar(),
-                                     opciones,
-                                     avance};
+        const Origen_Exportar origen{*bd,         trabajo.id,      trabajo.maquina,
+                                     trabajo.ope, trabajo.formato, Cargar_Campos_Exportar(),
+                                     opciones,    avance};
         return Lista_Puntos{Modo_En_Vigor().formatear(origen), {}};
     };
     return {leer, trabajo.fichero};

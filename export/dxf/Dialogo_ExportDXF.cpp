@@ -7,10 +7,9 @@
 
 void Dialogo_ExportDXF::Elegir_Entrada()
 {
-    const auto elegido =
-        Interfaz_Actual().Pedir_Fichero({.titulo = "Cargar Fichero ...",
-                                         .filtro = "Todos los Archivos (*.*)|*.*",
-                                         .carpeta = En_Instalacion("ficheros")});
+    const auto elegido = Interfaz_Actual().Pedir_Fichero({.titulo = "Cargar Fichero ...",
+                                                          .filtro = "Todos los Archivos (*.*)|*.*",
+                                                          .carpeta = En_Instalacion("ficheros")});
     if (elegido && !elegido->nombre.isEmpty()) entrada = elegido->nombre;
 }
 

@@ -106,9 +106,8 @@ std::optional<Lista_Puntos> Leer_Lista_Puntos(const QByteArray& bytes, const QSt
     lista.datos.campos = lector.Cortar(cabecera, *separador);
     const QString falta = Columnas_Punto::De(lista.datos.campos).Falta();
     if (!falta.isEmpty())
-        throw Error_Ejecucion(3265, QStringLiteral("Línea %1: falta el título \"%2\"")
-                                        .arg(primera + 1)
-                                        .arg(falta));
+        throw Error_Ejecucion(
+            3265, QStringLiteral("Línea %1: falta el título \"%2\"").arg(primera + 1).arg(falta));
     const qsizetype columnas = lista.datos.campos.size();
     lista.datos.filas.resize(std::size_t(columnas));
     for (qsizetype i = primera + 1; i < lineas.size(); ++i) {

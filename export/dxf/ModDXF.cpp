@@ -78,9 +78,9 @@ Dibujante_DXF::Dibujante_DXF(const Ajustes_DXF& ajustes, Modo_DXF modo)
     Codigo_De_Grupo(altura_letra, 1);
     pie = "\r\n";
     Grupo_DXF(pie, 50, u"0");
-    Grupo_DXF(pie, 51,
-              Basico::Formato(QString(ajustes.inclinacion).replace(u'.', u','),
-                              QStringLiteral("#0")));
+    Grupo_DXF(
+        pie, 51,
+        Basico::Formato(QString(ajustes.inclinacion).replace(u'.', u','), QStringLiteral("#0")));
 }
 
 void Dibujante_DXF::Poner_Marca(QStringView capa, int color, bool con_cota)

@@ -2,7 +2,6 @@
 
 #include "core/Basico.h"
 #include "core/Error_Ejecucion.h"
-#include "core/ModEstTotal.h"
 
 namespace {
 

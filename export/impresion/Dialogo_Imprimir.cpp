@@ -1,5 +1,6 @@
 #include "export/impresion/Dialogo_Imprimir.h"
 
+#include "core/Estado_Global.h"
 #include "core/Ficheros.h"
 #include "core/Ficheros_Propios.h"
 #include "core/ModEstTotal.h"
@@ -9,8 +10,7 @@
 
 Peticiones_Impresion& Peticiones_De_Impresion()
 {
-    static Peticiones_Impresion peticiones;
-    return peticiones;
+    return Estado_Global::Unico<Peticiones_Impresion>();
 }
 
 Dialogo_Imprimir::Dialogo_Imprimir(const Trabajo_Exportar& trabajo,
@@ -18,14 +18,9 @@ Dialogo_Imprimir::Dialogo_Imprimir(const Trabajo_Exportar& trabajo,
     : bd(Base::Abrir(Fichero_MDB)), nombre(trabajo.formato),
       con_marca(Modo_En_Vigor().campos_con_marca)
 {
-    const Origen_Exportar origen{*bd,
-                                 trabajo.id,
-                                 trabajo.maquina,
-                                 trabajo.ope,
-                                 trabajo.formato,
-                                 Cargar_Campos_Exportar(),
-                                 opciones,
-                                 avance};
+    const Origen_Exportar origen{*bd,         trabajo.id,      trabajo.maquina,
+                                 trabajo.ope, trabajo.formato, Cargar_Campos_Exportar(),
+                                 opciones,    avance};
     datos = Modo_En_Vigor().formatear(origen);
     parametros.cabeceras = Incluir_Cabeceras;
 }

@@ -24,8 +24,8 @@ struct Peticiones_Impresion {
     /// @throws Error_Ejecucion 482 when the printer fails
     std::function<void(const Impreso&)> Imprimir = [](const Impreso&) {};
     /// Writes a PDF file, whole or not at all. @throws Error_Ejecucion as `Ficheros::Escribir`
-    std::function<void(const Impreso&, const QString& fichero)> Guardar_PDF =
-        [](const Impreso&, const QString&) {};
+    std::function<void(const Impreso&, const QString& fichero)> Guardar_PDF = [](const Impreso&,
+                                                                                 const QString&) {};
 };
 Peticiones_Impresion& Peticiones_De_Impresion();
 

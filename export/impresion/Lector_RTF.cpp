@@ -116,7 +116,8 @@ private:
             ++i;
         Palabra palabra{QByteArrayView(rtf).sliced(desde, i - desde)};
         const qsizetype numero = i;
-        while (i < rtf.size() && ((rtf[i] >= '0' && rtf[i] <= '9') || (i == numero && rtf[i] == '-')))
+        while (i < rtf.size() &&
+               ((rtf[i] >= '0' && rtf[i] <= '9') || (i == numero && rtf[i] == '-')))
             ++i;
         if (i > numero) palabra.numero = rtf.mid(numero, i - numero).toInt();
         if (i < rtf.size() && rtf[i] == ' ') ++i;

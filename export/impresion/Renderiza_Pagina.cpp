@@ -36,8 +36,8 @@ void Poner_Cabeza(QByteArray& rtf, const Parametros_Hoja& p)
     if (p.con_titulo) linea(RTF::TITULO, p.titulo);
     if (p.con_subtitulo) linea(RTF::SUBTITULO, p.subtitulo);
     if (p.trabajo)
-        linea(RTF::SUBTITULO, "Trabajo:  " + p.trabajo->trabajo + "   Nombre:  " +
-                                  p.trabajo->nombre + "   ");
+        linea(RTF::SUBTITULO,
+              "Trabajo:  " + p.trabajo->trabajo + "   Nombre:  " + p.trabajo->nombre + "   ");
 }
 
 void Poner_Cabeceras(QByteArray& rtf, const QStringList& titulos,

@@ -8,7 +8,8 @@
 /// Words that text follows.
 namespace RTF {
 inline constexpr char ABRIR[] =
-    "{\\rtf1\\ansi\\deff0\\deftab720{\\fonttbl{\\f0\\fswiss MS Sans Serif;}{\\f1\\froman\\fcharset2 "
+    "{\\rtf1\\ansi\\deff0\\deftab720{\\fonttbl{\\f0\\fswiss MS Sans "
+    "Serif;}{\\f1\\froman\\fcharset2 "
     "Symbol;}{\\f2\\fmodern\\fprq1 Courier New;}{\\f3\\froman Times New Roman;}}";
 inline constexpr char COLORES[] = "{\\colortbl\\red0\\green0\\blue0;}";
 inline constexpr char TITULO[] = "\\deflang1034\\pard\\qc\\plain\\f2\\fs28\\b ";

@@ -7,8 +7,10 @@
 #include "export/ui/FrmImpDat.h"
 #include "export/ui/FrmImpEdtCol.h"
 #include "export/ui/FrmImpFormato.h"
+#include "export/ui/FrmPlano.h"
 #include "export/ui/Impresora.h"
 #include "export/ui/Pintor_Pagina.h"
+#include "session/ui/frmDescargas.h"
 
 void Conectar_Dialogos_Exportar()
 {
@@ -27,6 +29,9 @@ void Conectar_Dialogos_Exportar()
     };
     Peticiones_De_Exportar().Mostrar_DXF = [](const Origen_Dibujo& origen) {
         Dialogos::Unico<FrmDXF>().Mostrar_Con(origen);
+    };
+    Puertas_De_Descargas().Ver_Plano = [](const Sesion_Elegida& sesion) {
+        Dialogos::Unico<FrmPlano>().Ver(sesion);
     };
     Peticiones_De_Exportar().Abrir_DXF = [](const Trabajo_Exportar& trabajo) {
         Peticiones_De_Exportar().Mostrar_DXF(Dibujo_De_Sesion(trabajo));

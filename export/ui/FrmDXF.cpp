@@ -234,8 +234,7 @@ void FrmDXF::Mostrar_Muestra()
 
 Textos_DXF FrmDXF::Textos() const
 {
-    return {CbFormato->currentText(), TxAltura->text(), TxInclinacion->text(),
-            TxDecimales->text()};
+    return {CbFormato->currentText(), TxAltura->text(), TxInclinacion->text(), TxDecimales->text()};
 }
 
 void FrmDXF::Mostrar_Con(const Origen_Dibujo& nuevo)

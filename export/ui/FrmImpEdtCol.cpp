@@ -5,12 +5,12 @@
 #include "core/ui/Piezas.h"
 #include "session/ui/Rejilla.h"
 
+#include <QAction>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-FrmImpEdtCol::FrmImpEdtCol()
-    : Ventana(QStringLiteral("FrmImpEdtCol")), MSF(Hacer_Rejilla("MSF"))
+FrmImpEdtCol::FrmImpEdtCol() : Ventana(QStringLiteral("FrmImpEdtCol")), MSF(Hacer_Rejilla("MSF"))
 {
     setWindowTitle(QStringLiteral("Editar Cabeceras de Campos"));
     QPushButton* const BtnAce = Piezas::Boton("BtnAce", "&Aceptar");

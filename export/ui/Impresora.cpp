@@ -1,5 +1,6 @@
 #include "export/ui/Impresora.h"
 
+#include "core/Error_Ejecucion.h"
 #include "export/ui/Pintor_Pagina.h"
 
 #include <QPrinter>

@@ -23,12 +23,12 @@ QFont Letra(const Tramo_RTF& tramo)
     letra.setFixedPitch(true);
     letra.setBold(tramo.negrita);
     letra.setUnderline(tramo.subrayado);
+    letra.setHintingPreference(QFont::PreferNoHinting);
     letra.setPixelSize(GRANDE);
-    const double avance = QFontMetricsF(letra).horizontalAdvance(u'0');
+    const double avance = QFontMetricsF(letra).horizontalAdvance(u'0') / GRANDE;
     const double tamano = tramo.medios_puntos / 2.0;
-    letra.setPointSizeF(tamano);
-    letra.setPixelSize(std::max(1, int(tamano)));
-    letra.setStretch(std::clamp(qRound(ANCHO_LETRA * GRANDE / avance * 100), 50, 200));
+    letra.setPixelSize(std::max(1, qRound(tamano)));
+    letra.setLetterSpacing(QFont::AbsoluteSpacing, (ANCHO_LETRA - avance) * tamano);
     return letra;
 }
 

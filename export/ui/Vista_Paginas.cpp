@@ -75,7 +75,8 @@ void Vista_Paginas::paintEvent(QPaintEvent*)
     pintor.setRenderHint(QPainter::TextAntialiasing);
     pintor.fillRect(viewport()->rect(), palette().color(QPalette::Dark));
     const double escala = Escala(), arriba = verticalScrollBar()->value();
-    for (qsizetype i = qsizetype(std::max(0.0, (arriba - HUECO) / Paso())); i < paginas.size(); ++i) {
+    for (qsizetype i = qsizetype(std::max(0.0, (arriba - HUECO) / Paso())); i < paginas.size();
+         ++i) {
         const double y = double(i) * Paso() + HUECO - arriba;
         if (y > viewport()->height()) break;
         pintor.save();

@@ -9,6 +9,7 @@
 #include "core/ui/Piezas.h"
 #include "session/ui/FrmDatos.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
@@ -33,6 +34,10 @@ frmDescargas::frmDescargas()
             {c.titulo, c.campo, [c](const QString& valor) { return Texto_Celda(c, valor); }});
     Data1->Poner_Columnas(columnas);
     Atar_Rejilla(DBGrid1, Data1);
+    auto* const ver_plano = new QAction(QStringLiteral("Ver plano"), DBGrid1);
+    DBGrid1->addAction(ver_plano);
+    DBGrid1->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(ver_plano, &QAction::triggered, this, &frmDescargas::BtnPlano_Click);
     auto* const caja = new QHBoxLayout(this);
     caja->addWidget(DBGrid1, 1);
     caja->addWidget(Hacer_Botones());
@@ -64,6 +69,8 @@ QWidget* frmDescargas::Hacer_Botones()
          [this] { Exporta_o_Imprime_Formato_Existente("E"); }},
         {u"BtnPrn", u"&Imprimir Fichero", u"Imprime la sesión seleccionada",
          [this] { Exporta_o_Imprime_Formato_Existente("I"); }},
+        {u"BtnPlano", u"Ver &plano", u"Dibuja los puntos de la sesión seleccionada",
+         [this] { BtnPlano_Click(); }},
         {u"BtnExpBru", u"Guardar Como...", u"Guardar datos del fichero seleccionado",
          [this] { BtnExpBru_Click(); }},
         {u"BtnImpBrud1", u"Importar de Disco", u"Importar Fichero en Bruto",
@@ -117,6 +124,15 @@ void frmDescargas::BtnExpBru_Click()
         Puertas_De_Descargas().Guardar_Bruto(*sesion);
     else
         Interfaz_Actual().Pitar();
+}
+
+void frmDescargas::BtnPlano_Click()
+{
+    const auto sesion = Elegida();
+    if (!sesion)
+        Interfaz_Actual().Pitar();
+    else if (Comprobar_Hay_Registros(*Base_Datos, sesion->id))
+        Puertas_De_Descargas().Ver_Plano(*sesion);
 }
 
 void frmDescargas::BtnEliminar_Click()

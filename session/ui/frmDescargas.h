@@ -17,6 +17,8 @@ struct Puertas_Descargas {
     std::function<void(const std::optional<Sesion_Elegida>&)> Formato_Nuevo;
     /// Raw export of a session.
     std::function<void(const Sesion_Elegida&)> Guardar_Bruto;
+    /// The plan of a session's points, here and in `FrmDatos`.
+    std::function<void(const Sesion_Elegida&)> Ver_Plano = [](const Sesion_Elegida&) {};
     /// Raw import.
     std::function<void()> Importar_Bruto;
 };
@@ -39,6 +41,7 @@ private:
     void BtnVerdatos_Click();
     void BtnExpBru_Click();
     void BtnEliminar_Click();
+    void BtnPlano_Click();
 
     Modelo_Conjunto* Data1;
     QTableView* DBGrid1;

@@ -37,14 +37,21 @@ void TestOrdenesDibujo::init()
         {"NXYZ", {"Punto", "Coordenada X", "Coordenada Y", "Coordenada Z"}},
         {"PLANO", {"Punto", "Coordenada X", "Coordenada Y"}}};
     for (const auto& [nombre, campos] : formatos) {
-        base->Fila("Formatos1", {{"Nombre", nombre}, {"Maquina", "KRT300"}, {"cabeceras", "NO"},
-                                 {"Modificable", "SI"}, {"ope", 1}, {"Ids", "x y z "}});
+        base->Fila("Formatos1", {{"Nombre", nombre},
+                                 {"Maquina", "KRT300"},
+                                 {"cabeceras", "NO"},
+                                 {"Modificable", "SI"},
+                                 {"ope", 1},
+                                 {"Ids", "x y z "}});
         for (qsizetype i = 0; i < campos.size(); ++i)
-            base->Fila("Formatos2", {{"Nombre", nombre}, {"Maquina", "KRT300"}, {"sec", i},
-                                     {"Campo", campos[i]}});
+            base->Fila(
+                "Formatos2",
+                {{"Nombre", nombre}, {"Maquina", "KRT300"}, {"sec", i}, {"Campo", campos[i]}});
     }
     Poner_Sesion(*base, 1, "KRT300", 1,
-                 {{"P1", " x+001234567"}, {"P1", " y-000000500"}, {"P1", " z+000010250"},
+                 {{"P1", " x+001234567"},
+                  {"P1", " y-000000500"},
+                  {"P1", " z+000010250"},
                   {"P2", " x+000001000"}});
 }
 
@@ -63,10 +70,10 @@ void TestOrdenesDibujo::dxf_dibuja_la_sesion()
 
 void TestOrdenesDibujo::las_opciones_llegan_al_dibujo()
 {
-    const Salida hecho = En_La_Base({"dxf", "1", "--formato", "NXYZ", "--modo", "ambos", "--salida",
-                                     base->Ruta("a.dxf"), "--altura", "0.5", "--etiquetas", "6",
-                                     "--inclinacion", "-10", "--decimales", "1", "--colores",
-                                     "11,12,13,14,15"});
+    const Salida hecho =
+        En_La_Base({"dxf", "1", "--formato", "NXYZ", "--modo", "ambos", "--salida",
+                    base->Ruta("a.dxf"), "--altura", "0.5", "--etiquetas", "6", "--inclinacion",
+                    "-10", "--decimales", "1", "--colores", "11,12,13,14,15"});
     QCOMPARE(hecho.estado, int(HECHO));
     const QByteArray dibujo = base->Leer("a.dxf");
     for (const char* grupo :
@@ -88,8 +95,8 @@ void TestOrdenesDibujo::los_desplazamientos_se_suman()
 void TestOrdenesDibujo::un_fichero_que_existe_se_pregunta()
 {
     base->Escribir("a.dxf", "antes");
-    const QStringList orden = {"dxf", "1",        "--formato", "NXYZ", "--modo",
-                               "2d",  "--salida", base->Ruta("a.dxf")};
+    const QStringList orden = {"dxf",    "1",  "--formato", "NXYZ",
+                               "--modo", "2d", "--salida",  base->Ruta("a.dxf")};
     QCOMPARE(En_La_Base(orden).estado, int(RECHAZADO));
     QCOMPARE(base->Leer("a.dxf"), QByteArray("antes"));
     QCOMPARE(En_La_Base(QStringList{"--si"} + orden).estado, int(HECHO));
@@ -102,7 +109,9 @@ void TestOrdenesDibujo::dxf_dice_que_falta_data()
     QTest::addColumn<int>("estado");
     QTest::addColumn<QString>("mensaje");
     const QStringList bien = {"1", "--formato", "NXYZ", "--modo", "2d"};
-    const auto sin = [](const QString& texto) { return QStringList{"--salida", "x.dxf"} + texto.split(' '); };
+    const auto sin = [](const QString& texto) {
+        return QStringList{"--salida", "x.dxf"} + texto.split(' ');
+    };
     QTest::newRow("modo") << sin("1 --formato NXYZ --modo 4d") << int(MAL_USO)
                           << "El modo es 2d, 3d o ambos: 4d";
     QTest::newRow("sin modo") << sin("1 --formato NXYZ") << int(MAL_USO) << "modo";
@@ -121,8 +130,7 @@ void TestOrdenesDibujo::dxf_dice_que_falta_data()
                              << "No existe el formato NADA";
     QTest::newRow("sin cota") << sin("1 --formato PLANO --modo 2d") << int(RECHAZADO)
                               << "Falta el campo \"Coordenada Z\"";
-    QTest::newRow("lista sin fichero")
-        << QStringList{"otra"} << int(MAL_USO) << "";
+    QTest::newRow("lista sin fichero") << QStringList{"otra"} << int(MAL_USO) << "";
 }
 
 void TestOrdenesDibujo::dxf_dice_que_falta()
@@ -139,8 +147,8 @@ void TestOrdenesDibujo::dxf_fichero_dibuja_la_lista()
 {
     base->Escribir("l.txt", "Punto Coordenada X Coordenada Y Coordenada Z\r\n\r\n"
                             "P1    1.5          2            3\r\nP2    1            2\r\n");
-    const QStringList orden = {"dxf-fichero", base->Ruta("l.txt"), "--modo", "3d", "--salida",
-                               base->Ruta("b.dxf"), "--separador"};
+    const QStringList orden = {"dxf-fichero", base->Ruta("l.txt"), "--modo",     "3d",
+                               "--salida",    base->Ruta("b.dxf"), "--separador"};
     const Salida hecho = En_La_Base(orden + QStringList{"espacio"});
     QCOMPARE(hecho.estado, int(HECHO));
     QVERIFY(hecho.mensajes.contains("no se han dibujado: 4\n"));

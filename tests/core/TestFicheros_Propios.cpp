@@ -18,8 +18,9 @@ void TestFicheros_Propios::lo_propio_no_se_pisa()
 {
     const Base_De_Prueba base;
     QDir(Ruta_Aplicacion).mkpath("ficheros");
-    for (const char* propio : {"MDB/EstTotal.mdb", "MDB/otra.bak", "DAT/Database.mdb",
-                               "EstTotal.ini", "esttotal.INI", "DXF.Ini", "ficheros/../Posicion.ini"})
+    for (const char* propio :
+         {"MDB/EstTotal.mdb", "MDB/otra.bak", "DAT/Database.mdb", "EstTotal.ini", "esttotal.INI",
+          "DXF.Ini", "ficheros/../Posicion.ini"})
         QVERIFY2(Es_Fichero_Propio(base.Ruta(propio)), propio);
     for (const char* ajeno : {"ficheros/a.dxf", "a.dxf", "MDB.dxf", "ficheros/EstTotal.ini"})
         QVERIFY2(!Es_Fichero_Propio(base.Ruta(ajeno)), ajeno);

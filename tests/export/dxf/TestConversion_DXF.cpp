@@ -1,7 +1,7 @@
 #include "core/Ficheros.h"
+#include "export/Dialogo_Exportar.h"
 #include "export/dxf/Conversion_DXF.h"
 #include "export/dxf/Dialogo_ExportDXF.h"
-#include "export/Dialogo_Exportar.h"
 #include "export/Peticiones_Exportar.h"
 #include "formats/ModFormatos.h"
 #include "session/Peticiones_Sesion.h"
@@ -64,8 +64,12 @@ void TestConversion_DXF::init()
     Poner_Instrumentos(*base);
     Clave_Estacion = "KRT300";
     Poner_Sesion(*base, 1, "KRT300", 1,
-                 {{"P1", " x+001234567"}, {"P1", " y-000000500"}, {"P1", " z+000010250"},
-                  {"P1", "cARBOL"}, {"P2", " x+000001000"}, {"P2", " y+000002000"},
+                 {{"P1", " x+001234567"},
+                  {"P1", " y-000000500"},
+                  {"P1", " z+000010250"},
+                  {"P1", "cARBOL"},
+                  {"P2", " x+000001000"},
+                  {"P2", " y+000002000"},
                   {"P2", " z+000000000"}});
     Poner_Campos_Exportar({"Punto", "Coordenada X", "Coordenada Y", "Coordenada Z", "Código"});
 }
@@ -108,8 +112,12 @@ void TestConversion_DXF::los_desplazamientos_llegan_al_dibujo()
 void TestConversion_DXF::lo_omitido_se_cuenta()
 {
     Poner_Sesion(*base, 2, "KRT300", 1,
-                 {{"P1", " x+001234567"}, {"P1", " y-000000500"}, {"P1", " z+000010250"},
-                  {"P2", " x+000001000"}, {"P2", " y+000002000"}, {"P3", "cSOLO"}});
+                 {{"P1", " x+001234567"},
+                  {"P1", " y-000000500"},
+                  {"P1", " z+000010250"},
+                  {"P2", " x+000001000"},
+                  {"P2", " y+000002000"},
+                  {"P3", "cSOLO"}});
     Trabajo_Exportar trabajo = Trabajo();
     trabajo.id = 2;
     QVERIFY(Dibujar(Dibujo_De_Sesion(trabajo)));

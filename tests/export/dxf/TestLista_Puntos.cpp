@@ -75,9 +75,8 @@ void TestLista_Puntos::entre_blancos_el_nombre_mas_largo_primero()
         Leer("COORDENADA Z / COTA Altura Prisma raro Coordenada Y PUNTO Coordenada X Código\r\n"
              "3 1.5 r 2 P1 1 A\r\n",
              {"Altura", "Altura Prisma"});
-    QCOMPARE(lista.datos.campos,
-             (QStringList{"COORDENADA Z / COTA", "Altura Prisma", "raro", "Coordenada Y", "PUNTO",
-                          "Coordenada X", "Código"}));
+    QCOMPARE(lista.datos.campos, (QStringList{"COORDENADA Z / COTA", "Altura Prisma", "raro",
+                                              "Coordenada Y", "PUNTO", "Coordenada X", "Código"}));
     QCOMPARE(Fila(lista, 0), (QStringList{"3", "1.5", "r", "2", "P1", "1", "A"}));
 }
 
@@ -99,9 +98,8 @@ void TestLista_Puntos::se_pregunta_cuando_ninguno_vale()
 
 void TestLista_Puntos::las_lineas_cortas_se_nombran()
 {
-    const Lista_Puntos lista =
-        Leer("Punto Coordenada X Coordenada Y Coordenada Z Codigo\r\n\r\n"
-             "P1 1 2 3 A\r\nP2 1 2 3\r\n\r\nP3\r\nP4 x y z B\r\n");
+    const Lista_Puntos lista = Leer("Punto Coordenada X Coordenada Y Coordenada Z Codigo\r\n\r\n"
+                                    "P1 1 2 3 A\r\nP2 1 2 3\r\n\r\nP3\r\nP4 x y z B\r\n");
     QCOMPARE(lista.lineas_cortas, (QList<int>{4, 6}));
     QCOMPARE(lista.datos.Numero_De_Filas(), std::size_t(2));
     QCOMPARE(Fila(lista, 1), (QStringList{"P4", "x", "y", "z", "B"}));

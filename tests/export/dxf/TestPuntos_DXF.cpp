@@ -67,8 +67,9 @@ void TestPuntos_DXF::los_campos_se_hallan_por_su_nombre_data()
     QTest::addColumn<QStringList>("campos");
     QTest::addColumn<int>("cota");
     QTest::addColumn<int>("codigo");
-    QTest::newRow("propios")
-        << QStringList{"Punto", "Coordenada X", "Coordenada Y", "Coordenada Z", "Código"} << 3 << 4;
+    QTest::newRow("propios") << QStringList{"Punto", "Coordenada X", "Coordenada Y", "Coordenada Z",
+                                            "Código"}
+                             << 3 << 4;
     QTest::newRow("cota") << QStringList{"Coordenada Z / Cota", "Coordenada X", "Coordenada Y"} << 0
                           << -1;
     QTest::newRow("las dos") << QStringList{"Coordenada Z / Cota", "Coordenada Z", "Coordenada X",
@@ -182,8 +183,8 @@ void TestPuntos_DXF::otra_cuenta_da_lo_mismo()
                {QString(RAIZ_FUENTES) + "/tests/export/dxf/comprobar_dxf.py",
                 carpeta.filePath("dibujo.dxf"), carpeta.filePath("tabla.txt"),
                 QStringList{"2d", "3d", "ambos"}[modo], QString::number(formato),
-                QString::number(altura), inclinacion, QString::number(decimales),
-                "11,12,13,14,255", formato == 1 ? "audit" : ""});
+                QString::number(altura), inclinacion, QString::number(decimales), "11,12,13,14,255",
+                formato == 1 ? "audit" : ""});
     QVERIFY2(otra.waitForFinished(60000), "python3 did not run");
     QVERIFY2(otra.exitCode() == 0,
              (otra.readAllStandardOutput() + otra.readAllStandardError()).constData());

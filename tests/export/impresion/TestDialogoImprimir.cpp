@@ -20,10 +20,7 @@ private Q_SLOTS:
     void guardar_segun_la_extension();
 
 private:
-    Dialogo_Imprimir Hacer()
-    {
-        return Dialogo_Imprimir({1, "KRT300", 1, "NXYZ"}, {}, callado);
-    }
+    Dialogo_Imprimir Hacer() { return Dialogo_Imprimir({1, "KRT300", 1, "NXYZ"}, {}, callado); }
     Peticiones_Impresion& Pide() { return Peticiones_De_Impresion(); }
 
     Avance_Exportar callado;

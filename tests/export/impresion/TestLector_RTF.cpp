@@ -45,8 +45,7 @@ void TestLector_RTF::parrafos_y_tramos()
                             "\\par \\par \\pard\\plain\\f0\\fs0\\b \r\n"));
     QCOMPARE(parrafos.size(), 4);
     QVERIFY(parrafos[0].centrado && !parrafos[1].centrado);
-    QCOMPARE(parrafos[0].tramos,
-             (QList<Tramo_RTF>{{"Hola", "Courier New", 28, true, false}}));
+    QCOMPARE(parrafos[0].tramos, (QList<Tramo_RTF>{{"Hola", "Courier New", 28, true, false}}));
     QCOMPARE(parrafos[1].tramos, (QList<Tramo_RTF>{{"X", "Courier New", 16, true, true},
                                                    {"   Y", "Courier New", 16, true, false}}));
     QVERIFY(parrafos[1].Subrayado() && !parrafos[0].Subrayado());

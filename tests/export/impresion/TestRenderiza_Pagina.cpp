@@ -16,9 +16,7 @@ Datos_Formateados Tabla()
 {
     Datos_Formateados datos;
     datos.campos = QStringList{"Punto", "Coordenada X", "Código"};
-    datos.filas = {{"P1", "PUNTO22", "3"},
-                   {"-1000.500", "", "20.000"},
-                   {"ÁRBOL{1}", "a\\b", "Ñ"}};
+    datos.filas = {{"P1", "PUNTO22", "3"}, {"-1000.500", "", "20.000"}, {"ÁRBOL{1}", "a\\b", "Ñ"}};
     Igualar_Columnas(datos.filas);
     return datos;
 }
@@ -144,8 +142,7 @@ void TestRenderiza_Pagina::las_columnas_se_renombran()
     QVERIFY(parrafos[1].Texto().trimmed().startsWith("Nº"));
     QVERIFY(parrafos[1].Subrayado());
     // Its column is as wide as the new title.
-    QCOMPARE(parrafos[2].Texto().indexOf("ÁRBOL"),
-             7 + 1 + p.columnas[1].size() + 1);
+    QCOMPARE(parrafos[2].Texto().indexOf("ÁRBOL"), 7 + 1 + p.columnas[1].size() + 1);
 }
 
 void TestRenderiza_Pagina::la_hoja_se_tumba_desde_111()

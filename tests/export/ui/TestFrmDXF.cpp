@@ -132,7 +132,8 @@ void TestFrmDXF::los_ajustes_se_guardan_al_cerrar()
         Hijo<QPushButton>(frm, "Color", 6).click();
         QCOMPARE(Hijo<QSpinBox>(frm, "TxColor").value(), 6);
     });
-    QCOMPARE(sala->Leer("DXF.Ini"), QByteArray("7\r\n3\r\n30\r\n1\r\n6\r\n4\r\n\r\n0,5\r\n15\r\n1\r\n"));
+    QCOMPARE(sala->Leer("DXF.Ini"),
+             QByteArray("7\r\n3\r\n30\r\n1\r\n6\r\n4\r\n\r\n0,5\r\n15\r\n1\r\n"));
     Con_Dialogo([](FrmDXF& frm) {
         QCOMPARE(Hijo<QComboBox>(frm, "CbFormato").currentText(), QString("4"));
         QCOMPARE(Hijo<QLineEdit>(frm, "TxAltura").text(), QString("0,5"));
@@ -195,7 +196,8 @@ void TestFrmDXF::ver_al_terminar_arranca_el_visor()
 
 void TestFrmDXF::una_lista_pasa_a_este_dialogo()
 {
-    sala->Escribir("ficheros/l.txt", "Punto,Coordenada X,Coordenada Y,Coordenada Z\r\nP1,1,2,3\r\n");
+    sala->Escribir("ficheros/l.txt",
+                   "Punto,Coordenada X,Coordenada Y,Coordenada Z\r\nP1,1,2,3\r\n");
     sala->interfaz.ficheros = {Fichero_Elegido{sala->Ruta("ficheros/l.txt")},
                                Fichero_Elegido{sala->Ruta("ficheros/b.dxf")}};
     auto& lista = Dialogos::Unico<ExportDXF>();

@@ -207,7 +207,8 @@ void TestFrmImpFormato::diez_mil_filas_no_se_hacen_esperar()
 {
     QList<Linea_De_Prueba> lineas;
     for (int i = 0; i < 10000; ++i)
-        lineas << Linea_De_Prueba{QString::number(i), QStringLiteral(" y+000123%1").arg(i, 4, 10, QChar('0'))};
+        lineas << Linea_De_Prueba{QString::number(i),
+                                  QStringLiteral(" y+000123%1").arg(i, 4, 10, QChar('0'))};
     Poner_Sesion(*sala, 2, "KRT300", 1, lineas);
     Al_Abrirse abierta(
         [&](QWidget& w) {
