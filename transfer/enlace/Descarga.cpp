@@ -69,7 +69,7 @@ void Descarga::BtnIniciar()
 
 void Descarga::Tic()
 {
-    if (en_aviso) return;
+    if (en_aviso || En_Aviso()) return;
     if (!familia->sondeo.isEmpty()) Enviar(familia->sondeo);
     if (++intentos == INTENTOS_MAXIMOS) Error_De_Cable();
 }
@@ -90,7 +90,7 @@ void Descarga::Error_De_Cable()
 
 void Descarga::Evento()
 {
-    if (Iniciar_Habilitado() || en_aviso || procesando) return;
+    if (Iniciar_Habilitado() || en_aviso || En_Aviso() || procesando) return;
     Recibir_Byte();
 }
 
