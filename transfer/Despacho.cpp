@@ -1,6 +1,7 @@
 #include "transfer/Despacho.h"
 
 #include "core/Ayuda.h"
+#include "core/Estado_Global.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "session/Filtro_Extensiones.h"
@@ -125,8 +126,7 @@ void Lanzar_Carga(const Familia& familia, int operacion, const QString& filtro)
 
 Peticiones_Transfer& Peticiones_De_Transfer()
 {
-    static Peticiones_Transfer unicas;
-    return unicas;
+    return Estado_Global::Unico<Peticiones_Transfer>();
 }
 
 QList<Operacion_Ofrecida> Operaciones_Ofrecidas(const QString& tipo_ope)

@@ -51,8 +51,7 @@ void Comprobar_Pagina(const QByteArray& bytes)
 
 QStringList Leer_Lineas_Envio(const QString& fichero)
 {
-    if (!FileExist(fichero) && !QFileInfo(fichero).isDir())
-        throw Error_Ejecucion(53, Descripcion_Error(53) + QStringLiteral(": ") + fichero);
+    if (!FileExist(fichero) && !QFileInfo(fichero).isDir()) throw Error_Ejecucion::Con(53, fichero);
     Comprobar_Pagina(Ficheros::Leer(fichero));
     return Ficheros::Leer_Lineas(fichero);
 }
