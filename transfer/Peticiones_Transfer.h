@@ -1,5 +1,7 @@
 #pragma once
 
+#include "transfer/enlace/Recepcion.h"
+
 #include <functional>
 #include <QString>
 
@@ -25,6 +27,13 @@ struct Peticiones_Transfer {
     std::function<void()> Mostrar_Descarga = [] {};
     /// Receives a code library of series A, from the question for its destination on.
     std::function<void(int operacion)> Recibir_Libreria = [](int) {};
+    /// Stores a code library that was received; its destination and name are those of the reception.
+    std::function<Resultado_Recepcion(const Datos_Recepcion& datos)> Guardar_Libreria =
+        [](const Datos_Recepcion&) { return Resultado_Recepcion(); };
+    /// As `Dialogo_Descarga` and `Mostrar_Descarga`, for the dialog of a reception that begins among
+    /// the libraries.
+    std::function<Descarga*()> Dialogo_Recepcion = []() -> Descarga* { return nullptr; };
+    std::function<void()> Mostrar_Recepcion = [] {};
     /// The conversation of the sending dialog, as for `Dialogo_Descarga`.
     std::function<Envio*()> Dialogo_Envio = []() -> Envio* { return nullptr; };
     /// Shows the sending dialog modally, and unloads it when it ends.

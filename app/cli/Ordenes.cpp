@@ -42,6 +42,7 @@ const QList<Orden>& Ordenes()
         {"descargar",
          "descargar --modelo NOMBRE --ope N --puerto DISPOSITIVO --nombre NOMBRE [--velocidad V]",
          Orden_Descargar},
+        {"enviar", Uso_Enviar(), Orden_Enviar},
         {"rescates", "rescates", Orden_Rescates},
         {"rescatar", "rescatar FICHERO --modelo NOMBRE --ope N --nombre NOMBRE", Orden_Rescatar},
         {"tabla",

@@ -30,6 +30,7 @@
 #include "transfer/Peticiones_Transfer.h"
 #include "transfer/ui/FrmIni.h"
 #include "transfer/ui/FrmSplash.h"
+#include "transfer/ui/Frmsplash1.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -98,6 +99,17 @@ void Transferencias(Escenario& e)
     De<QLabel>(splash, "Rayo").show();
     e.Retratar(*splash.Marco(), "FrmSplash");
     splash.Descargar();
+    auto& envio = Dialogos::Unico<Frmsplash1>();
+    envio.Mostrar();
+    De<QLabel>(envio, "Label1").setText("Enviando Datos...");
+    De<QLabel>(envio, "LblCuenta")
+        .setText("Bloques enviados: 8 de 12; rechazos: 1; repeticiones: 1");
+    De<QProgressBar>(envio, "ProgressBar1").setRange(0, 12);
+    De<QProgressBar>(envio, "ProgressBar1").setValue(8);
+    De<QPushButton>(envio, "BtnIniciar").setEnabled(false);
+    De<QLabel>(envio, "Rayo").show();
+    e.Retratar(*envio.Marco(), "Frmsplash1");
+    envio.Descargar();
 }
 
 void Sesiones(Escenario& e)

@@ -3,6 +3,7 @@
 #include "core/ModEstTotal.h"
 #include "core/ModLOG.h"
 #include "core/Reloj.h"
+#include "core/Sucesos.h"
 #include "transfer/Series.h"
 
 #include <QPointer>
@@ -164,9 +165,10 @@ void Envio::Cerrar_Cuenta(bool hecho)
 {
     const double segundos = double(cronometro.elapsed()) / 1000;
     resultado.hecho = hecho;
-    resultado.resumen = emisor->Resumen() + ", " + Basico::Formato(segundos, "0.0") + " segundos";
+    resultado.resumen = emisor->Resumen() + "; segundos: " + Basico::Formato(segundos, "0.0");
     Trazar({resultado.resumen});
     Q_EMIT cuenta_cambiada(resultado.resumen);
+    Q_EMIT Sucesos::Unico().envio_acabado(resultado.resumen);
     emisor.reset();
     traza.clear();
 }

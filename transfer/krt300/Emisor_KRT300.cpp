@@ -109,7 +109,7 @@ Paso_Envio Emisor_KRT300::Vencer()
 
 QString Emisor_KRT300::Resumen() const
 {
-    return QStringLiteral("%1 de %2 bloques enviados, %3 tramas rechazadas, %4 repetidas")
+    return QStringLiteral("Bloques enviados: %1 de %2; rechazos: %3; repeticiones: %4")
         .arg(bloque - 1)
         .arg(Maximo())
         .arg(rechazos)

@@ -58,7 +58,7 @@ Paso_Envio Emisor_KRT800::Acabar() const
 
 QString Emisor_KRT800::Resumen() const
 {
-    return QStringLiteral("%1 de %2 caracteres enviados").arg(enviados).arg(bytes.size());
+    return QStringLiteral("Caracteres enviados: %1 de %2").arg(enviados).arg(bytes.size());
 }
 
 QStringList Emisor_KRT800::Traza_Pendiente() const

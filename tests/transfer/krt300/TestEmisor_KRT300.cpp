@@ -58,7 +58,7 @@ void TestEmisor_KRT300::los_puntos_van_trama_a_trama()
     QCOMPARE(p.etiqueta, QString("Enviando Datos..."));
     QCOMPARE(p.barra, 0);
     p = e.Siguiente_Envio(ACK);
-    QCOMPARE(p.envia, Trama(DOS_PUNTOS.toLatin1(), '0', "102"));
+    QCOMPARE(p.envia, Trama(DOS_PUNTOS.toLatin1(), '0', "048"));
     QCOMPARE(p.barra, 1);
     QCOMPARE(p.fin, Fin_Envio::Sigue);
     p = e.Siguiente_Envio(ACK);
@@ -225,15 +225,15 @@ void TestEmisor_KRT300::el_resumen_cuenta()
 {
     Emisor_KRT300 e(Puntos(QString(200, 'a')));
     e.Empezar_Envio();
-    QCOMPARE(e.Resumen(), QString("0 de 2 bloques enviados, 0 tramas rechazadas, 0 repetidas"));
+    QCOMPARE(e.Resumen(), QString("Bloques enviados: 0 de 2; rechazos: 0; repeticiones: 0"));
     e.Siguiente_Envio(ACK);
     e.Siguiente_Envio(ACK);
     e.Siguiente_Envio(NAK);
     e.Siguiente_Envio(ACK);
-    QCOMPARE(e.Resumen(), QString("2 de 2 bloques enviados, 1 tramas rechazadas, 1 repetidas"));
+    QCOMPARE(e.Resumen(), QString("Bloques enviados: 2 de 2; rechazos: 1; repeticiones: 1"));
     for (int i = 0; i < 6; ++i)
         e.Siguiente_Envio(NAK);
-    QCOMPARE(e.Resumen(), QString("2 de 2 bloques enviados, 7 tramas rechazadas, 6 repetidas"));
+    QCOMPARE(e.Resumen(), QString("Bloques enviados: 2 de 2; rechazos: 7; repeticiones: 6"));
 }
 
 PRUEBA(TestEmisor_KRT300)

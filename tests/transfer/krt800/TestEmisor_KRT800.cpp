@@ -16,7 +16,7 @@ private Q_SLOTS:
 
 void TestEmisor_KRT800::caracter_a_caracter()
 {
-    Emisor_KRT800 e({4, {}, "P1,\xD1\r\n"});
+    Emisor_KRT800 e({4, {}, "P1,Ñ\r\n"});
     QCOMPARE(e.Plazo(), 0);
     QCOMPARE(e.Maximo(), 6);
     Paso_Envio p = e.Empezar_Envio();
@@ -35,8 +35,8 @@ void TestEmisor_KRT800::caracter_a_caracter()
     QCOMPARE(p.envia, QByteArray("\4"));
     QCOMPARE(p.barra, 6);
     QCOMPARE(p.fin, Fin_Envio::Hecho);
-    QCOMPARE(p.traza, QStringList({QString("P1,\xD1\r\n"), QString("\4")}));
-    QCOMPARE(e.Resumen(), QString("6 de 6 caracteres enviados"));
+    QCOMPARE(p.traza, QStringList({QString("P1,Ñ\r\n"), QString("\4")}));
+    QCOMPARE(e.Resumen(), QString("Caracteres enviados: 6 de 6"));
 }
 
 void TestEmisor_KRT800::el_fin_de_transmision_va_una_vez_data()
@@ -106,7 +106,7 @@ void TestEmisor_KRT800::a_medias_queda_su_traza()
     e.Seguir();
     e.Seguir();
     QCOMPARE(e.Traza_Pendiente(), QStringList{"ab"});
-    QCOMPARE(e.Resumen(), QString("2 de 6 caracteres enviados"));
+    QCOMPARE(e.Resumen(), QString("Caracteres enviados: 2 de 6"));
 }
 
 PRUEBA(TestEmisor_KRT800)

@@ -437,7 +437,13 @@ void TestTransferencias_Ui::cerrar_a_medias_libera_el_puerto()
     FrmSplash& splash = Empezar();
     QTest::mouseClick(&Hijo<QPushButton>(splash, "BtnIniciar"), Qt::LeftButton);
     puerto->Llegan(Trama("_+P1        "));
+    sala->interfaz.respuestas = {false, true};
     QTest::keyClick(&splash, Qt::Key_Escape);
+    QVERIFY(splash.isVisible());
+    QVERIFY(puerto->abierto);
+    QTest::keyClick(&splash, Qt::Key_Escape);
+    QCOMPARE(sala->Tomar_Avisos(),
+             QStringList(2, "La transferencia no ha terminado, ¿ Desea abandonarla ?"));
     QVERIFY(!Dialogos::Cargado<FrmSplash>());
     QVERIFY(!puerto->abierto);
     QCOMPARE(sala->Columna("SELECT ID FROM Sesiones"), QStringList());
