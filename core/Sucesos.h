@@ -19,6 +19,8 @@ Q_SIGNALS:
     void sesiones_cambiadas();
     /// A format was stored, changed or deleted.
     void formatos_cambiados();
+    /// A code library was stored, changed or deleted.
+    void librerias_cambiadas();
     /// The database was closed and opened again: cached rows no longer hold.
     void base_reabierta();
 
