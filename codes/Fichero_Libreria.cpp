@@ -82,7 +82,10 @@ bool Es_Del_Programa(const QString& fichero)
     for (const QString& propio :
          {Fichero_MDB, En_Instalacion("MDB/esttotal.bak"), En_Instalacion("DAT/Database.mdb"),
           En_Instalacion("EstTotal.ini"), Fichero_Posicion()})
-        if (destino == QFileInfo(propio)) return true;
+        if (const QFileInfo otro(propio);
+            destino.absoluteFilePath() == otro.absoluteFilePath() ||
+            (destino.exists() && destino.canonicalFilePath() == otro.canonicalFilePath()))
+            return true;
     return false;
 }
 
