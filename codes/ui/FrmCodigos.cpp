@@ -81,7 +81,7 @@ FrmCodigos::FrmCodigos() : Ventana(QStringLiteral("FrmCodigos")), MSF(Hacer_Reji
     });
     modelo.Cargar();
     Mostrar_Todo();
-    resize(640, 460);
+    resize(640, 430);
 }
 
 void FrmCodigos::Hacer()
@@ -161,21 +161,24 @@ void FrmCodigos::Codigo_Tecleado(int fila, int columna)
 
 bool FrmCodigos::eventFilter(QObject* objeto, QEvent* evento)
 {
-    if (objeto == MSF && evento->type() == QEvent::KeyPress) {
-        const int tecla = static_cast<QKeyEvent*>(evento)->key();
-        const char* const boton = tecla == Qt::Key_Insert   ? "BtnIns"
-                                  : tecla == Qt::Key_Delete ? "BTnEli"
-                                                            : nullptr;
-        if (boton) {
-            findChild<QPushButton*>(boton)->click();
-            return true;
-        }
-        if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
-            if (MSF->currentItem()) MSF->editItem(MSF->item(MSF->currentRow(), COLUMNA_CODIGO));
-            return true;
-        }
+    // The box of a cell hands on the keys that it has no use for.
+    if (objeto != MSF || evento->type() != QEvent::KeyPress ||
+        MSF->isPersistentEditorOpen(MSF->currentItem()))
+        return Ventana::eventFilter(objeto, evento);
+    switch (static_cast<QKeyEvent*>(evento)->key()) {
+    case Qt::Key_Insert:
+        findChild<QPushButton*>("BtnIns")->click();
+        return true;
+    case Qt::Key_Delete:
+        findChild<QPushButton*>("BTnEli")->click();
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (MSF->currentItem()) MSF->editItem(MSF->item(MSF->currentRow(), COLUMNA_CODIGO));
+        return true;
+    default:
+        return Ventana::eventFilter(objeto, evento);
     }
-    return Ventana::eventFilter(objeto, evento);
 }
 
 void FrmCodigos::closeEvent(QCloseEvent* evento)

@@ -39,7 +39,7 @@ frmCodigos800::frmCodigos800()
         modelo.Actualizar();
         Mostrar_Todo();
     });
-    resize(680, 460);
+    resize(680, 430);
 }
 
 void frmCodigos800::Hacer()
