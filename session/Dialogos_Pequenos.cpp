@@ -16,12 +16,10 @@ constexpr double LIMITE = 10000000;
 
 QStringList Nombres_Separador()
 {
-    return {"<Espacio>", "<Coma (,)>", "<Tabulación>"};
-}
-
-QString Tag_Separador()
-{
-    return QStringList{" ", ",", "\t"}.join(QChar(SEP_LISTA));
+    QStringList nombres;
+    for (const Fila_Separador& fila : Separadores())
+        nombres << fila.pregunta;
+    return nombres;
 }
 
 Nodo_Coordenada Arbol_Coordenadas(const QString& lista)
@@ -31,7 +29,7 @@ Nodo_Coordenada Arbol_Coordenadas(const QString& lista)
         Nodo_Coordenada nodo{Trozo(1, punto, SEP_CAMPO), PUNTO, {}};
         for (int eje = 0; eje < 3; ++eje) {
             const QString valor = Trozo(eje + 2, punto, SEP_CAMPO);
-            const bool cabe = std::fabs(Basico::Val(Reemplazar(valor, ",", "."))) < LIMITE;
+            const bool cabe = std::fabs(Basico::Val(valor)) < LIMITE;
             nodo.hijos.append(
                 {QStringList{"X: ", "Y: ", "Z: "}[eje] + valor, cabe ? CABE : DESBORDA, {}});
         }

@@ -12,7 +12,8 @@ namespace {
 int Orden_Ayuda(const Contexto& c, const QStringList&)
 {
     c.Linea("miraldos-cli [--dir DIRECTORIO] [--si] ORDEN ...");
-    for (const Orden& o : Ordenes()) c.Linea("  " + o.uso);
+    for (const Orden& o : Ordenes())
+        c.Linea("  " + o.uso);
     return HECHO;
 }
 
@@ -31,10 +32,7 @@ const QList<Orden>& Ordenes()
          "formato-nuevo --maquina CLAVE --ope N --nombre NOMBRE --campos \"A,B,C\" [--titulos]",
          Orden_Formato_Nuevo},
         {"formato-borrar", "formato-borrar --maquina CLAVE --nombre NOMBRE", Orden_Formato_Borrar},
-        {"exportar",
-         "exportar ID --formato NOMBRE --tipo txf|txt --salida FICHERO "
-         "[--separador espacio|coma|tabulacion] [--titulos] [--desplazamiento X,Y,Z]",
-         Orden_Exportar},
+        {"exportar", Uso_Exportar(), Orden_Exportar},
         {"borrar", "borrar ID", Orden_Borrar},
         {"compactar", "compactar", Orden_Compactar},
         {"convertidor", "convertidor FUNCION ARGUMENTO...", Orden_Convertidor},
@@ -67,7 +65,8 @@ void Contexto::Fila(const QStringList& campos) const
 {
     QStringList limpios = campos;
     for (QString& campo : limpios)
-        for (const char16_t c : {u'\t', u'\r', u'\n'}) campo.replace(QChar(c), u' ');
+        for (const char16_t c : {u'\t', u'\r', u'\n'})
+            campo.replace(QChar(c), u' ');
     Linea(limpios.join(u'\t'));
 }
 

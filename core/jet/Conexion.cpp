@@ -35,7 +35,7 @@ QString Nombre_Unico(const QString& fichero)
 
 Error_Ejecucion Con_Detalle(int numero, const QString& detalle)
 {
-    return Error_Ejecucion(numero, Descripcion_Error(numero) + QStringLiteral(": ") + detalle);
+    return Error_Ejecucion::Con(numero, detalle);
 }
 
 int Numero_Restriccion(const char* mensaje, int extendido)
@@ -231,7 +231,7 @@ Error_Ejecucion Conexion::Error(int codigo) const
     case SQLITE_ERROR:
         return Error_De_Texto(mensaje);
     default:
-        return Error_Ejecucion(51, Descripcion_Error(51) + QStringLiteral(": ") + mensaje);
+        return Error_Ejecucion::Con(51, mensaje);
     }
 }
 

@@ -1,11 +1,12 @@
 #include "core/Ayuda.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "tests/apoyo/Base_De_Prueba.h"
 #include "tests/apoyo/Interfaz_Guion.h"
 #include "tests/apoyo/Prueba.h"
 #include "tests/apoyo/Puerto_Memoria.h"
-#include "transfer/Descarga.h"
 #include "transfer/Despacho.h"
+#include "transfer/enlace/Descarga.h"
 #include "transfer/Peticiones_Transfer.h"
 
 // Which operation starts what, and the common order of a download.
@@ -23,8 +24,6 @@ private Q_SLOTS:
     void el_puerto_que_falla_no_muestra_el_dialogo();
     void el_nivel_no_pide_nombre();
     void una_segunda_pita_y_muestra_la_que_corre();
-    void el_filtro_sale_de_conv_data();
-    void el_filtro_sale_de_conv();
     void sin_fila_termina_el_programa();
     void la_carga_desconocida_se_dice();
     void el_recordatorio_tiene_sus_cuatro_lineas();
@@ -60,18 +59,22 @@ void TestDespacho::init()
     p.Mostrar_Pasos = [this](const QString& tipo, const QString& ope) {
         pasos << "ayuda " + tipo + ope + " paso " + QString::number(Paso_Ayuda);
     };
-    p.Dialogo_Descarga = [this](bool cargar) -> Descarga* {
-        if (!descarga && cargar) {
+    p.Dialogo_Descarga = [this]() -> Descarga* {
+        if (!descarga) {
             auto nuevo = std::make_unique<Puerto_Memoria>();
             puerto = nuevo.get();
             descarga = std::make_unique<Descarga>(std::move(nuevo));
+            connect(descarga.get(), &Descarga::reclamada, this, [this] { pasos << "reclamada"; });
         }
         return descarga.get();
     };
-    p.Mostrar_Descarga = [this] { pasos << (puerto->Abierto() ? "abierto, descarga" : "descarga"); };
+    p.Mostrar_Descarga = [this] {
+        pasos << (puerto->Abierto() ? "abierto, descarga" : "descarga");
+    };
     for (const QString maquina : {"KRT300", "PX7", "KRT800", "NV400"})
         for (const QString tipo : {"D", "C"})
-            for (int ope = 0; ope < 12; ++ope) Fila(maquina, ope, tipo, "");
+            for (int ope = 0; ope < 12; ++ope)
+                Fila(maquina, ope, tipo, "");
 }
 
 void TestDespacho::cleanup()
@@ -85,8 +88,9 @@ void TestDespacho::cleanup()
 
 void TestDespacho::Fila(const QString& maquina, int ope, const QString& tipo, const QString& conv)
 {
-    Base_Datos->Execute("INSERT INTO KRT2 (Nombre, OPE, TipOpe, DESOPE, Conv) VALUES (?, ?, ?, ?, ?)",
-                        {maquina, ope, tipo, "Operación " + QString::number(ope), conv});
+    Base_Datos->Execute(
+        "INSERT INTO KRT2 (Nombre, OPE, TipOpe, DESOPE, Conv) VALUES (?, ?, ?, ?, ?)",
+        {maquina, ope, tipo, "Operación " + QString::number(ope), conv});
 }
 
 void TestDespacho::las_listas_salen_de_la_base()
@@ -138,24 +142,39 @@ void TestDespacho::que_arranca_cada_operacion_data()
     QTest::addColumn<QString>("maquina");
     QTest::addColumn<int>("ope");
     QTest::addColumn<QString>("tipo");
-    QTest::addColumn<QString>("ayuda");  // empty: no download starts
+    QTest::addColumn<QString>("ayuda"); // empty: no download starts
     QTest::addColumn<int>("avisos");
-    QTest::newRow("KRT300 0") << "KRT300" << 0 << "D" << "ayuda D0 paso 1" << 0;
-    QTest::newRow("KRT300 1") << "KRT300" << 1 << "D" << "ayuda D1 paso 1" << 0;
-    QTest::newRow("KRT300 11 es 1") << "KRT300" << 11 << "D" << "ayuda D1 paso 1" << 0;
-    QTest::newRow("PX7 0") << "PX7" << 0 << "D" << "ayuda D0 paso 1" << 0;
-    QTest::newRow("KRT300 5 nada") << "KRT300" << 5 << "D" << "" << 0;
-    QTest::newRow("KRT300 libreria") << "KRT300" << 2 << "D" << "" << 1;
-    QTest::newRow("KRT300 carga") << "KRT300" << 1 << "C" << "" << 1;
-    QTest::newRow("KRT300 carga rara") << "KRT300" << 5 << "C" << "" << 0;
-    QTest::newRow("KRT800 5") << "KRT800" << 5 << "D" << "ayuda D5 paso 1" << 0;
-    QTest::newRow("KRT800 carga 6") << "KRT800" << 6 << "C" << "" << 1;
-    QTest::newRow("NV400 0") << "NV400" << 0 << "D" << "ayuda D0 paso 1" << 0;
-    QTest::newRow("NV400 1 nada") << "NV400" << 1 << "D" << "" << 0;
+    QTest::newRow("KRT300 0") << "KRT300" << 0 << "D"
+                              << "ayuda D0 paso 1" << 0;
+    QTest::newRow("KRT300 1") << "KRT300" << 1 << "D"
+                              << "ayuda D1 paso 1" << 0;
+    QTest::newRow("KRT300 11 es 1") << "KRT300" << 11 << "D"
+                                    << "ayuda D1 paso 1" << 0;
+    QTest::newRow("PX7 0") << "PX7" << 0 << "D"
+                           << "ayuda D0 paso 1" << 0;
+    QTest::newRow("KRT300 5 nada") << "KRT300" << 5 << "D"
+                                   << "" << 0;
+    QTest::newRow("KRT300 libreria") << "KRT300" << 2 << "D"
+                                     << "" << 1;
+    QTest::newRow("KRT300 carga") << "KRT300" << 1 << "C"
+                                  << "" << 1;
+    QTest::newRow("KRT300 carga rara") << "KRT300" << 5 << "C"
+                                       << "" << 0;
+    QTest::newRow("KRT800 5") << "KRT800" << 5 << "D"
+                              << "ayuda D5 paso 1" << 0;
+    QTest::newRow("KRT800 carga 6") << "KRT800" << 6 << "C"
+                                    << "" << 1;
+    QTest::newRow("NV400 0") << "NV400" << 0 << "D"
+                             << "ayuda D0 paso 1" << 0;
+    QTest::newRow("NV400 1 nada") << "NV400" << 1 << "D"
+                                  << "" << 0;
     // The level's upload asks for its file, and tells that this one isn't there and why.
-    QTest::newRow("NV400 carga") << "NV400" << 1 << "C" << "" << 2;
-    QTest::newRow("otra") << "OTRA" << 0 << "D" << "" << 0;
-    QTest::newRow("tipo raro") << "KRT800" << 0 << "X" << "" << 0;
+    QTest::newRow("NV400 carga") << "NV400" << 1 << "C"
+                                 << "" << 2;
+    QTest::newRow("otra") << "OTRA" << 0 << "D"
+                          << "" << 0;
+    QTest::newRow("tipo raro") << "KRT800" << 0 << "X"
+                               << "" << 0;
 }
 
 void TestDespacho::que_arranca_cada_operacion()
@@ -166,9 +185,11 @@ void TestDespacho::que_arranca_cada_operacion()
     QFETCH(QString, ayuda);
     QFETCH(int, avisos);
     Clave_Estacion = maquina;
-    interfaz->ficheros = {Fichero_Elegido{base->Ruta("no.asc"), 1}};
+    // Only an upload of the level asks for its file.
+    const bool pide_fichero = Familia_De(maquina).carga == Carga::Fichero && tipo == u"C";
+    if (pide_fichero) interfaz->ficheros = {Fichero_Elegido{base->Ruta("no.asc"), 1}};
     Lanzar_Operacion(maquina, ope, tipo);
-    QCOMPARE(interfaz->peticiones.size(), maquina == u"NV400" && tipo == u"C" ? 1 : 0);
+    QCOMPARE(interfaz->peticiones.size(), qsizetype(pide_fichero));
     QCOMPARE(pasos.filter("ayuda").join(""), ayuda);
     QCOMPARE(pasos.contains("abierto, descarga"), !ayuda.isEmpty());
     QCOMPARE(interfaz->avisos.size(), avisos);
@@ -184,7 +205,7 @@ void TestDespacho::sin_nombre_no_se_abre_el_puerto()
 
 void TestDespacho::el_puerto_que_falla_no_muestra_el_dialogo()
 {
-    Peticiones_De_Transfer().Dialogo_Descarga(true);
+    Peticiones_De_Transfer().Dialogo_Descarga();
     puerto->error_al_abrir = 8002;
     Lanzar_Operacion("KRT300", 0, "D");
     QCOMPARE(interfaz->avisos.size(), 1);
@@ -205,31 +226,8 @@ void TestDespacho::una_segunda_pita_y_muestra_la_que_corre()
     pasos.clear();
     Lanzar_Operacion("KRT300", 1, "D");
     QCOMPARE(interfaz->pitidos, 1);
-    QCOMPARE(pasos, QStringList{"abierto, descarga"});
-}
-
-void TestDespacho::el_filtro_sale_de_conv_data()
-{
-    QTest::addColumn<QString>("conv");
-    QTest::addColumn<QString>("filtro");
-    QTest::newRow("dos") << "ASC,TXT" << "ASCII (*.asc)|*.asc|Texto (*.txt)|*.txt";
-    QTest::newRow("una desconocida") << "NADA,TXT" << "Texto (*.txt)|*.txt";
-    QTest::newRow("vacio") << "" << "";
-}
-
-void TestDespacho::el_filtro_sale_de_conv()
-{
-    QFETCH(QString, conv);
-    QFETCH(QString, filtro);
-    Base_Datos->Execute("DELETE FROM KRT2");
-    const QString clave = Base_Datos->OpenRecordset("CONVERT").Columnas().first();
-    for (const QStringList& f : {QStringList{"ASC", " ASCII (*.asc) ", "*.asc "},
-                                 QStringList{"TXT", "Texto (*.txt)", " *.txt"}})
-        Base_Datos->Execute("INSERT INTO CONVERT (" + clave + ", descripcion, ext) VALUES (?, ?, ?)",
-                            {f[0], f[1], f[2]});
-    Fila("KRT300", 1, "C", conv);
-    QCOMPARE(Filtro_Extensiones("KRT300", 1, "C"), filtro);
-    QVERIFY(interfaz->avisos.isEmpty());
+    QCOMPARE(pasos, QStringList{"reclamada"});
+    QVERIFY(descarga->En_Marcha());
 }
 
 void TestDespacho::sin_fila_termina_el_programa()
@@ -262,8 +260,9 @@ void TestDespacho::el_recordatorio_tiene_sus_cuatro_lineas()
     Paridad = "None";
     Bits_Parada = "1";
     const Texto_Recordatorio t = Leer_Recordatorio();
-    QCOMPARE(t.frase,
-             QString("Conecte el aparato al puerto COM3 y configúrelo con los siguientes parámetros:"));
+    QCOMPARE(
+        t.frase,
+        QString("Conecte el aparato al puerto COM3 y configúrelo con los siguientes parámetros:"));
     QCOMPARE(t.datos[0], QString("Velocidad: 9600"));
     QCOMPARE(t.datos[3], QString("Bit de Parada: 1"));
 }
