@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/librerias.md
+
 #include "codes/Librerias.h"
 
 /// What a code may hold, and the form in which a library of series A keeps its codes.

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/librerias.md
+
 #include "codes/Librerias.h"
 
 /// Libraries as text files: one line a code, in the page of the instruments, closed by CR LF.

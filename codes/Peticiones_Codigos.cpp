@@ -1,5 +1,6 @@
 #include "codes/Peticiones_Codigos.h"
 
+#include "core/Estado_Global.h"
 #include "core/Interfaz.h"
 
 namespace {
@@ -25,6 +26,5 @@ Peticiones_Codigos Iniciales()
 
 Peticiones_Codigos& Peticiones_De_Codigos()
 {
-    static Peticiones_Codigos peticiones = Iniciales();
-    return peticiones;
+    return Estado_Global::Unico(Iniciales);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/librerias.md
+
 #include "codes/Librerias.h"
 
 /// The texts that an upload of a code library sends.

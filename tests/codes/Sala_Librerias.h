@@ -16,8 +16,6 @@ public:
     {
         Clave_Estacion = "KRT300";
         Nombre_Estacion = "KRT300-1";
-        antes = Peticiones_De_Codigos();
-        antes_transfer = Peticiones_De_Transfer();
         Peticiones_De_Codigos().Enviar = [this](const QString& t) { enviados << t; };
         Peticiones_De_Codigos().Recibir_En_FrmSplash = [this](const Destino_Libreria& d) {
             en_splash << d;
@@ -36,11 +34,6 @@ public:
         Crear_Libreria(*Base_Datos, Librerias_De(Serie::B), "CAR", "Obra lineal",
                        {{"EJE", 2, "EJES"}, {"BORDE", 1, "CALZADA"}});
         Crear_Libreria(*Base_Datos, Librerias_De(Serie::B), "NADA", "Sin códigos");
-    }
-    ~Sala_Librerias()
-    {
-        Peticiones_De_Codigos() = antes;
-        Peticiones_De_Transfer() = antes_transfer;
     }
     Sala_Librerias(const Sala_Librerias&) = delete;
     Sala_Librerias& operator=(const Sala_Librerias&) = delete;
@@ -81,8 +74,4 @@ public:
     QStringList enviados; ///< texts handed to the sending dialog
     QList<Destino_Libreria> en_splash, en_splash2;
     QStringList pasos; ///< step helps shown: type and operation
-
-private:
-    Peticiones_Codigos antes;
-    Peticiones_Transfer antes_transfer;
 };

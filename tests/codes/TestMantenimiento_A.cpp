@@ -405,6 +405,7 @@ void TestMantenimiento_A::enviar()
     QCOMPARE(sala->pasos.size(), 1);
     // What is on the screen goes out.
     QVERIFY(sala->enviados[1].startsWith("_:001VISTO     "));
+    QCOMPARE(sala->Tomar_Avisos().size(), 1);
 }
 
 void TestMantenimiento_A::enviar_sin_nada_data()
@@ -486,6 +487,7 @@ void TestMantenimiento_A::recibida_se_ensena()
     sala->interfaz.respuestas = {true};
     sala->interfaz.textos = {QString("NUEVA")};
     m->Recibir();
+    QCOMPARE(sala->Tomar_Avisos().size(), 1);
     m->Actualizar();
     QCOMPARE(m->Codigo(), QString("GEN"));
     QVERIFY(Guardar_Libreria("_:001EJE       _", Destino::Base, "NUEVA").Completa());

@@ -89,8 +89,7 @@ void TestRecepcion_Libreria::a_fichero_deja_la_base()
     const Sala_Librerias sala;
     sala.Escribir("l.txt", "lo de antes, más largo que lo nuevo");
     const QSignalSpy avisos(&Sucesos::Unico(), &Sucesos::librerias_cambiadas);
-    QVERIFY(Guardar_Libreria("_:007ARBOL     _:002X`SEÑAL  _",
-                             Destino::Fichero, sala.Ruta("l.txt"))
+    QVERIFY(Guardar_Libreria("_:007ARBOL     _:002X`SEÑAL  _", Destino::Fichero, sala.Ruta("l.txt"))
                 .Completa());
     QCOMPARE(sala.Leer("l.txt"), QByteArray("007ARBOL\r\n002SE\xD1"
                                             "AL\r\n"));

@@ -88,8 +88,12 @@ void TestDialogos_Codigos::init()
 
 void TestDialogos_Codigos::cleanup()
 {
-    sala->interfaz.respuestas.assign(4, true);
+    QCOMPARE(sala->interfaz.respuestas.size(), std::size_t(0));
+    // A dialog that was left with changes asks once more.
+    sala->interfaz.respuestas.assign(2, true);
     Limpiar_Ventanas();
+    sala->interfaz.respuestas.clear();
+    sala->interfaz.avisos.clear();
     area.reset();
     sala.reset();
 }
