@@ -21,6 +21,8 @@ Q_SIGNALS:
     void envio_acabado(const QString& cuenta);
     /// A format was stored, changed or deleted.
     void formatos_cambiados();
+    /// A code library was stored, changed or deleted.
+    void librerias_cambiadas();
     /// The database was closed and opened again: cached rows no longer hold.
     void base_reabierta();
 

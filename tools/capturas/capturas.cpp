@@ -3,6 +3,10 @@
 
 #include "app/ventanas/Aplicacion.h"
 #include "app/ventanas/Visor_Ayuda.h"
+#include "codes/Peticiones_Codigos.h"
+#include "codes/ui/Dialogos_Codigos.h"
+#include "codes/ui/FrmCodigos.h"
+#include "codes/ui/frmCodigos800.h"
 #include "conversions/ui/Dialogos_Conversion.h"
 #include "conversions/ui/frmConvEst.h"
 #include "core/Ayuda.h"
@@ -38,6 +42,7 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTableView>
 
 namespace {
@@ -211,6 +216,37 @@ void Conversiones(Escenario& e)
     frm->Descargar();
 }
 
+void Codigos(Escenario& e)
+{
+    Escenario::Modelo("KRT-310");
+    Mostrar_Librerias();
+    auto& serie_a = Dialogos::Unico<FrmCodigos>();
+    De<QLineEdit>(serie_a, "TxtBuscar").setText("bor");
+    Q_EMIT De<QLineEdit>(serie_a, "TxtBuscar").textEdited("bor");
+    e.Retratar(*serie_a.Marco(), "FrmCodigos");
+    e.Retratar_Modal(
+        "FrmCREDLib1", [&] { De<QPushButton>(serie_a, "BtnNueLib").click(); },
+        [](QWidget& w) {
+            De<QLineEdit>(w, "Text1").setText("VALLE");
+            De<QLineEdit>(w, "Text2").setText("Valle alto, camino y linderos");
+        });
+    serie_a.Descargar();
+    e.Retratar_Modal(
+        "FrmCodRecibir", [] { Peticiones_De_Codigos().Pedir_Destino(); },
+        [](QWidget& w) {
+            w.findChildren<QRadioButton*>("OptDes")[1]->click();
+            De<QLineEdit>(w, "Text1").setText("ficheros/recibida.txt");
+        });
+    Escenario::Modelo("KRT-810");
+    Mostrar_Librerias();
+    auto& serie_b = Dialogos::Unico<frmCodigos800>();
+    e.Retratar(*serie_b.Marco(), "frmCodigos800");
+    e.Retratar_Modal("FrmCodMan800", [&] { De<QPushButton>(serie_b, "BtnEdiCod").click(); });
+    e.Retratar_Modal("frmCodCrear800", [&] { De<QPushButton>(serie_b, "BtnEdi").click(); });
+    serie_b.Descargar();
+    Escenario::Modelo("KRT-310");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -228,5 +264,6 @@ int main(int argc, char** argv)
     Formatos(escenario);
     Exportar(escenario);
     Conversiones(escenario);
+    Codigos(escenario);
     return 0;
 }
