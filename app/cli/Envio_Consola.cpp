@@ -13,7 +13,7 @@ bool Envio_Consola::Correr(const Contexto& c, const std::function<void()>& camin
     envio.Poner_Seguimiento(seguimiento);
     QEventLoop espera;
     QObject::connect(&envio, &Envio::terminada, &espera, &QEventLoop::quit, Qt::QueuedConnection);
-    Peticiones_Transfer de_consola;
+    Peticiones_Transfer de_consola = Peticiones_De_Transfer();
     de_consola.Dialogo_Envio = [&envio] { return &envio; };
     de_consola.Mostrar_Envio = [&] {
         QObject::connect(&envio, &Envio::etiqueta_cambiada, &espera,

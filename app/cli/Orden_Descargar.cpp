@@ -18,7 +18,12 @@ namespace {
 bool Llegar_Al_Dialogo(Descarga& descarga, int ope, const QString& nombre)
 {
     bool mostrado = false;
-    Peticiones_Transfer de_consola;
+    Peticiones_Transfer de_consola = Peticiones_De_Transfer();
+    de_consola.Recibir_Libreria = [](int) {
+        Interfaz_Actual().Mensaje(
+            "Una librería de códigos se recibe con miraldos-cli recibir-libreria",
+            Icono::Informacion);
+    };
     de_consola.Pedir_Nombre_Sesion = [&nombre] { return nombre; };
     de_consola.Dialogo_Descarga = [&descarga] { return &descarga; };
     de_consola.Mostrar_Descarga = [&mostrado] { mostrado = true; };

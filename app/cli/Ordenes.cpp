@@ -53,6 +53,14 @@ const QList<Orden>& Ordenes()
         {"libreria-exportar", "libreria-exportar LIB --serie A|B --salida F",
          Orden_Libreria_Exportar},
         {"libreria-borrar", "libreria-borrar LIB --serie A|B", Orden_Libreria_Borrar},
+        {"enviar-libreria",
+         "enviar-libreria LIBRERIA --modelo NOMBRE --puerto DISPOSITIVO [--seguimiento] "
+         "[--velocidad V]",
+         Orden_Enviar_Libreria},
+        {"recibir-libreria",
+         "recibir-libreria --modelo NOMBRE --puerto DISPOSITIVO --destino base|fichero "
+         "--nombre NOMBRE [--velocidad V]",
+         Orden_Recibir_Libreria},
         {"tabla",
          "tabla ENTRADA SALIDA [--separador tabulacion|coma|espacio] "
          "[--version \"Excel 3.0\"|\"Excel 4.0\"|\"Excel 5.0\"|\"Excel 8.0\"] "

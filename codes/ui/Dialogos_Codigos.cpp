@@ -1,5 +1,6 @@
 #include "codes/ui/Dialogos_Codigos.h"
 
+#include "codes/Enlace_Librerias.h"
 #include "codes/Peticiones_Codigos.h"
 #include "codes/ui/frmCodCrear800.h"
 #include "codes/ui/FrmCodigos.h"
@@ -36,6 +37,7 @@ void Conectar_Dialogos_Codigos()
         Dialogos::Unico<FrmCodMan800>().Mostrar_Con(ficha);
     };
     pide.Pedir_Destino = Pedir_Destino_Libreria;
+    Conectar_Librerias();
 }
 
 void Mostrar_Librerias()

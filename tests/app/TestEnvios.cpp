@@ -18,6 +18,11 @@ private Q_SLOTS:
     void los_que_no_se_arreglan_acaban_con_su_razon();
     void una_libreria_llega_entera_data();
     void una_libreria_llega_entera();
+    void una_libreria_va_vuelve_y_va_igual();
+    void una_libreria_guardada_va_al_KRT800();
+    void una_libreria_se_recibe_en_un_fichero();
+    void las_librerias_que_no_pueden_se_dicen_data();
+    void las_librerias_que_no_pueden_se_dicen();
     void el_nivel_escribe_un_fichero();
     void la_traza_queda_en_su_carpeta();
     void lo_que_no_vale_no_se_envia_data();
@@ -226,6 +231,106 @@ void TestEnvios::una_libreria_llega_entera()
     const QStringList tiene = Guardado();
     QCOMPARE(tiene.mid(0, primeras.size()), primeras);
     QCOMPARE(tiene.size(), cuantas);
+}
+
+// A library that is sent, received and sent again gives the same bytes.
+void TestEnvios::una_libreria_va_vuelve_y_va_igual()
+{
+    Simular("KRT300");
+    Salida s = Cli({"enviar-libreria", "GENERAL", "--modelo", "KRT-310", "--puerto", Ruta("com1")});
+    QVERIFY2(s.estado == 0, qPrintable(s.errores));
+    QVERIFY2(s.texto.startsWith("Bloques enviados: 6 de 6; "), qPrintable(s.texto));
+    const QStringList tiene = Guardado();
+    QCOMPARE(tiene.size(), 50);
+    QCOMPARE(tiene[0], QString(":001ARBOL     "));
+    // The instrument's book is what it sends back.
+    QVERIFY(QFile::rename(Ruta("tiene.txt"), Ruta("libro.txt")));
+    Simular("KRT300", {"--enviar", Ruta("libro.txt")});
+    s = Cli({"recibir-libreria", "--modelo", "KRT-310", "--puerto", Ruta("com1"), "--destino",
+             "base", "--nombre", "VUELTA"});
+    QVERIFY2(s.estado == 0, qPrintable(s.errores));
+    QCOMPARE(s.texto, QString("VUELTA\n"));
+    QVERIFY(simulador->waitForFinished(20000));
+    Simular("KRT300");
+    s = Cli({"enviar-libreria", "VUELTA", "--modelo", "KRT-310", "--puerto", Ruta("com1")});
+    QVERIFY2(s.estado == 0, qPrintable(s.errores));
+    QCOMPARE(Guardado(), tiene);
+    // The name is taken now.
+    s = Cli({"recibir-libreria", "--modelo", "KRT-310", "--puerto", Ruta("com1"), "--destino",
+             "base", "--nombre", "VUELTA"});
+    QCOMPARE(s.estado, 1);
+    QVERIFY(s.errores.contains("La Librería de códigos ya existe en la Base de Datos"));
+}
+
+void TestEnvios::una_libreria_guardada_va_al_KRT800()
+{
+    const QString fichero = Fichero("A,1,X\nB,2,Y\n", "l.txt");
+    Salida s = Cli({"libreria-guardar", "CORTA", "--serie", "B", "--descripcion", "Corta",
+                    "--fichero", fichero});
+    QVERIFY2(s.estado == 0, qPrintable(s.errores));
+    Simular("KRT800");
+    s = Cli({"enviar-libreria", "CORTA", "--modelo", "KRT-810", "--puerto", Ruta("com1"),
+             "--seguimiento"});
+    QVERIFY2(s.estado == 0, qPrintable(s.errores));
+    QCOMPARE(Guardado(), QStringList({"A,1,X", "B,2,Y"}));
+    QCOMPARE(QDir(Ruta("LOG")).entryList({"KRT800_*.LOG"}).size(), 1);
+}
+
+void TestEnvios::una_libreria_se_recibe_en_un_fichero()
+{
+    const QString libro = Fichero(":001ARBOL     \n:002FAROLA    \n:003          \n", "libro.txt");
+    Simular("PX7", {"--enviar", libro});
+    const Salida s = Cli({"recibir-libreria", "--modelo", "PX7", "--puerto", Ruta("com1"),
+                          "--destino", "fichero", "--nombre", Ruta("recibida.txt")});
+    QVERIFY2(s.estado == 0, qPrintable(s.errores));
+    QFile f(Ruta("recibida.txt"));
+    QVERIFY(f.open(QIODevice::ReadOnly));
+    QCOMPARE(f.readAll(), QByteArray("001ARBOL\r\n002FAROLA\r\n"));
+    // The file is what an upload reads.
+    QVERIFY(simulador->waitForFinished(20000));
+    Simular("PX7");
+    QCOMPARE(Enviar("PX7", 2, Ruta("recibida.txt")).estado, 0);
+    QCOMPARE(Guardado().mid(0, 2), QStringList({":001ARBOL     ", ":002FAROLA    "}));
+}
+
+void TestEnvios::las_librerias_que_no_pueden_se_dicen_data()
+{
+    QTest::addColumn<QStringList>("palabras");
+    QTest::addColumn<int>("estado");
+    QTest::addColumn<QString>("razon");
+    QTest::newRow("no existe") << QStringList{"enviar-libreria", "NO",       "--modelo",
+                                              "KRT300",          "--puerto", "p"}
+                               << 1 << "No existe la librería NO de la serie A";
+    QTest::newRow("la del otro") << QStringList{"enviar-libreria", "URBANA",   "--modelo",
+                                                "KRT800",          "--puerto", "p"}
+                                 << 1 << "No existe la librería URBANA de la serie B";
+    QTest::newRow("el nivel") << QStringList{"enviar-libreria", "GENERAL",  "--modelo",
+                                             "NV400",           "--puerto", "p"}
+                              << 1 << "no tiene librerías de códigos";
+    QTest::newRow("sin puerto") << QStringList{"enviar-libreria", "GENERAL", "--modelo", "KRT300"}
+                                << 2 << "puerto";
+    QTest::newRow("el KRT800 no la da")
+        << QStringList{"recibir-libreria", "--modelo", "KRT800",   "--puerto", "p",
+                       "--destino",        "base",     "--nombre", "X"}
+        << 1 << "no ofrece la operación 2";
+    QTest::newRow("destino")
+        << QStringList{"recibir-libreria", "--modelo", "KRT300",   "--puerto", "p",
+                       "--destino",        "papel",    "--nombre", "X"}
+        << 2 << "El destino es base o fichero";
+    QTest::newRow("como descarga") << QStringList{"descargar", "--modelo", "KRT300",   "--ope", "2",
+                                                  "--puerto",  "p",        "--nombre", "X"}
+                                   << 1 << "recibir-libreria";
+}
+
+void TestEnvios::las_librerias_que_no_pueden_se_dicen()
+{
+    QFETCH(QStringList, palabras);
+    QFETCH(int, estado);
+    QFETCH(QString, razon);
+    const Salida s = Cli(palabras);
+    QCOMPARE(s.estado, estado);
+    QVERIFY2(s.errores.contains(razon), qPrintable(s.errores));
+    QCOMPARE(s.texto, QString());
 }
 
 void TestEnvios::el_nivel_escribe_un_fichero()
