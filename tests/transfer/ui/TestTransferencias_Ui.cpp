@@ -208,8 +208,9 @@ void TestTransferencias_Ui::arrastrar_a_su_dibujo_empieza()
     frm.Mostrar();
     Hijo<QListWidget>(frm, "LVD").setCurrentRow(1);
     sala->Fila("CONVERT", {{"clave", "x"}});
+    sala->interfaz.ficheros = {Fichero_Elegido{sala->Ruta("no.txt"), 1}};
     Soltar(Hijo<QLabel>(frm, "Image2"), "LVD");
-    QVERIFY(sala->Tomar_Avisos().join(' ').contains("no está disponible"));
+    QCOMPARE(sala->Tomar_Avisos(), QStringList{"El Fichero especificado no existe"});
 }
 
 void TestTransferencias_Ui::arrastrar_al_otro_dibujo_pita_data()
