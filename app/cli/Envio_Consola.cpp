@@ -9,7 +9,12 @@
 
 bool Envio_Consola::Correr(const Contexto& c, const std::function<void()>& camino) const
 {
-    Envio envio(std::make_unique<Puerto_Qt>(dispositivo));
+    auto puerto = std::make_unique<Puerto_Qt>(dispositivo);
+    Puerto_Qt* const el_puerto = puerto.get();
+    Envio envio(std::move(puerto));
+    // Without a dialog to close, a lost cable ends the order.
+    QObject::connect(el_puerto, &Puerto_Serie::perdido, &envio, &Envio::Abandonar,
+                     Qt::QueuedConnection);
     envio.Poner_Seguimiento(seguimiento);
     QEventLoop espera;
     QObject::connect(&envio, &Envio::terminada, &espera, &QEventLoop::quit, Qt::QueuedConnection);

@@ -60,11 +60,11 @@ void Envio::BtnIniciar()
     Situar_Rayo();
     cronometro.start();
     resultado = {};
+    timer1.setInterval(Reloj_Actual().Espera(emisor->Plazo()));
     const QPointer<Envio> aqui(this);
     Empezar_Traza();
     Hacer(emisor->Empezar_Envio());
-    if (aqui && En_Marcha() && emisor->Plazo() > 0)
-        timer1.start(Reloj_Actual().Espera(emisor->Plazo()));
+    if (aqui && En_Marcha() && emisor->Plazo() > 0) timer1.start();
 }
 
 void Envio::Evento()
