@@ -12,6 +12,8 @@ Resultado_Recepcion Procesar_Recepcion(const Datos_Recepcion& datos)
     if (!serie) return {};
     const std::optional<Resultado_Recepcion> guardada = serie->guardar(datos);
     if (!guardada) return {};
+    // A library is no session: it leaves the database as large as it was.
+    if (Operacion(datos.operacion) == Operacion::Libreria) return *guardada;
     Compactar_BD();
     Q_EMIT Sucesos::Unico().sesiones_cambiadas();
     return *guardada;

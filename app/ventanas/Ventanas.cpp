@@ -1,5 +1,6 @@
 #include "app/ventanas/Ventanas.h"
 
+#include "codes/ui/Dialogos_Codigos.h"
 #include "conversions/ui/Dialogos_Conversion.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
@@ -79,6 +80,7 @@ void Conectar_Dialogos(Interfaz_Qt& interfaz)
     Conectar_Dialogos_Exportar();
     Conectar_Dialogos_Conversion();
     Conectar_Dialogos_Transfer();
+    Conectar_Dialogos_Codigos();
     Conectar_Descargas();
 }
 
@@ -90,6 +92,7 @@ void Conectar_Entradas(FrmMain& principal)
     principal.Al_Elegir("Toolbar1(3)", Mostrar<frmDescargas>("Descargas"));
     principal.Al_Elegir("Formatos", Mostrar<Frmformatos>("Formatos Disponibles"));
     principal.Al_Elegir("Toolbar1(4)", Formatos_De_Toolbar);
+    principal.Al_Elegir("Toolbar1(5)", Mostrar_Librerias);
     principal.Al_Elegir("Mnu_ConvEst", [] { Mostrar_frmConvEst(0); });
     principal.Al_Elegir("Mnu_ConvLandxml", [] { Mostrar_frmConvEst(1); });
 }
