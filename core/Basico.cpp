@@ -53,7 +53,8 @@ std::pair<QByteArray, QByteArray> Redondear(const Decimal15& d, int decimales)
         todo.truncate(largo);
         if (sube) {
             qsizetype i = largo;
-            while (i > 0 && todo[i - 1] == '9') todo[--i] = '0';
+            while (i > 0 && todo[i - 1] == '9')
+                todo[--i] = '0';
             if (i > 0) {
                 ++todo[i - 1];
             } else {
@@ -66,7 +67,8 @@ std::pair<QByteArray, QByteArray> Redondear(const Decimal15& d, int decimales)
     }
     QByteArray entera = todo.left(punto);
     qsizetype ceros = 0;
-    while (ceros < entera.size() && entera[ceros] == '0') ++ceros;
+    while (ceros < entera.size() && entera[ceros] == '0')
+        ++ceros;
     return {entera.mid(ceros), todo.mid(punto)};
 }
 
@@ -74,9 +76,11 @@ QString Texto_Fijo(const QString& dibujo, const Decimal15& d)
 {
     const auto es_marca = [](QChar c) { return c == u'0' || c == u'#' || c == u'.'; };
     qsizetype primera = 0;
-    while (primera < dibujo.size() && !es_marca(dibujo[primera])) ++primera;
+    while (primera < dibujo.size() && !es_marca(dibujo[primera]))
+        ++primera;
     qsizetype ultima = dibujo.size();
-    while (ultima > primera && !es_marca(dibujo[ultima - 1])) --ultima;
+    while (ultima > primera && !es_marca(dibujo[ultima - 1]))
+        --ultima;
     const QString marcas = dibujo.mid(primera, ultima - primera);
     const qsizetype punto = marcas.indexOf(u'.');
     const QString de_entera = punto < 0 ? marcas : marcas.left(punto);
@@ -87,7 +91,8 @@ QString Texto_Fijo(const QString& dibujo, const Decimal15& d)
     const qsizetype minimo = cero < 0 ? 0 : de_entera.size() - cero;
     if (entera.size() < minimo) entera.prepend(QByteArray(minimo - entera.size(), '0'));
     const qsizetype fijos = de_decimal.lastIndexOf(u'0') + 1;
-    while (decimales.size() > fijos && decimales.endsWith('0')) decimales.chop(1);
+    while (decimales.size() > fijos && decimales.endsWith('0'))
+        decimales.chop(1);
 
     QString texto = d.negativo ? QStringLiteral("-") : QString();
     texto += dibujo.left(primera) + QString::fromLatin1(entera);
@@ -137,14 +142,16 @@ QString Basico::Trim(const QString& texto)
 QString Basico::LTrim(const QString& texto)
 {
     qsizetype i = 0;
-    while (i < texto.size() && texto[i] == u' ') ++i;
+    while (i < texto.size() && texto[i] == u' ')
+        ++i;
     return i == 0 ? texto : texto.mid(i);
 }
 
 QString Basico::RTrim(const QString& texto)
 {
     qsizetype n = texto.size();
-    while (n > 0 && texto[n - 1] == u' ') --n;
+    while (n > 0 && texto[n - 1] == u' ')
+        --n;
     return n == texto.size() ? texto : texto.left(n);
 }
 

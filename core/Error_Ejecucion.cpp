@@ -1,7 +1,7 @@
 #include "core/Error_Ejecucion.h"
 
-#include <QList>
 #include <new>
+#include <QList>
 #include <utility>
 
 namespace {
@@ -106,7 +106,8 @@ QString Descripcion_Error(int numero)
 QList<int> Numeros_Error()
 {
     QList<int> numeros;
-    for (const auto& [n, texto] : DESCRIPCIONES) numeros << n;
+    for (const auto& [n, texto] : DESCRIPCIONES)
+        numeros << n;
     return numeros;
 }
 

@@ -3,8 +3,8 @@
 #include "core/Estado_Global.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
-#include "core/Texto_SQL.h"
 #include "core/Sesiones.h"
+#include "core/Texto_SQL.h"
 #include "session/Identificador.h"
 
 bool Tipo_Ficheros_Puntos = false;

@@ -64,7 +64,7 @@ QString Sin_Ceros(QStringView entera)
     return negativo ? u'-' + cifras : cifras;
 }
 
-const QString& Formato_Coordenada()
+const QString& Anchos_De_Coordenada()
 {
     static const QString formato = QString::fromUtf16(FORMATO_COORDENADA);
     return formato;
@@ -74,8 +74,8 @@ std::optional<Sumador> Sumador_De(const Suma& suma, const Fila_Campo& campo)
 {
     const QString* const desplazamiento = suma.desplazamientos.De_Marca(campo.marcas);
     if (!desplazamiento) return std::nullopt;
-    return Sumador(suma.familia, *desplazamiento, Formato_Coordenada(), campo.posdigit,
-                   Formato_Coordenada());
+    return Sumador(suma.familia, *desplazamiento, Anchos_De_Coordenada(), campo.posdigit,
+                   Anchos_De_Coordenada());
 }
 
 // A coordinate's first place is its sign's. Deliberate: what isn't "-" there counts as "+", a digit
@@ -204,8 +204,8 @@ QString Aplicar_Marca(const Suma& suma, const QString& modo, const QString& marc
 {
     const QString* const desplazamiento = suma.desplazamientos.De_Marca(marca);
     if (!desplazamiento) return valor;
-    return Sumar_Desplazamiento(suma.familia, modo, *desplazamiento, Formato_Coordenada(), valor,
-                                posdigit, Formato_Coordenada());
+    return Sumar_Desplazamiento(suma.familia, modo, *desplazamiento, Anchos_De_Coordenada(), valor,
+                                posdigit, Anchos_De_Coordenada());
 }
 
 void Cortar_Campo(const Suma& suma, const QString& linea, int posicion, const Fila_Campo& campo,
@@ -336,9 +336,8 @@ void Decodificador::Guardar(QString& valor, QStringView linea, Valor&& sacar)
 void Decodificador::Linea(QStringView linea, QStringList& valores)
 {
     // The level's lines are all of one kind; so is any other session's while it is in force.
-    const Registro& registro = Preparar(suma.familia.serie == Serie::Nivel
-                                            ? QStringView(u"1")
-                                            : Id_De_Linea(linea, familia, ope));
+    const Registro& registro = Preparar(
+        suma.familia.serie == Serie::Nivel ? QStringView(u"1") : Id_De_Linea(linea, familia, ope));
     if (familia.serie == Serie::A) {
         const QStringView recortada = Sin_Blancos(linea);
         for (const Paso& paso : registro.pasos)
@@ -351,8 +350,9 @@ void Decodificador::Linea(QStringView linea, QStringList& valores)
         for (const Paso& paso : registro.pasos) {
             QString& valor = valores[paso.lugar];
             const QStringView token = Vista_Trozo(paso.posicion, *resto, Separador_800(ope));
-            Guardar(valor, linea,
-                    [&] { return Valor_De_Token(token, *paso.campo, paso.sumador).value_or(valor); });
+            Guardar(valor, linea, [&] {
+                return Valor_De_Token(token, *paso.campo, paso.sumador).value_or(valor);
+            });
         }
     } else if (familia.serie == Serie::Nivel && !registro.filas->empty()) {
         Cortar_NV400(linea.toString(), nombres, valores);

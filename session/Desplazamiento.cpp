@@ -86,8 +86,7 @@ Decimal Sumador::Valor_Sin_Punto(QStringView valor) const
 QString Sumador::Sumar(QStringView valor, bool de_cable) const
 {
     if (valor.isEmpty() || (serie != Serie::A && serie != Serie::B)) return {};
-    const Decimal coordenada =
-        serie == Serie::A ? Valor_Sin_Punto(valor) : Decimal::Prefijo(valor);
+    const Decimal coordenada = serie == Serie::A ? Valor_Sin_Punto(valor) : Decimal::Prefijo(valor);
     const Decimal suma = coordenada + desplazamiento;
     if (!de_cable || serie != Serie::A) return suma.Texto_Fijo(decimales_suma);
     return (suma.Negativo() ? u'-' : u'+') +

@@ -13,8 +13,8 @@ QString SQL_Campos(const QString& maquina, int ope, const QString& datos)
     const Familia& familia = Familia_De(maquina);
     const QString id = Id_Del_Visor(datos, familia, ope).toString();
     return "SELECT * FROM Campos WHERE Maquina = '" + Reemplazar(maquina, "'", "''") + "' AND " +
-           (familia.serie == Serie::B ? "ID" : "Mid(ID,1,1)") + " = '" +
-           Reemplazar(id, "'", "''") + "' ORDER BY Orden";
+           (familia.serie == Serie::B ? "ID" : "Mid(ID,1,1)") + " = '" + Reemplazar(id, "'", "''") +
+           "' ORDER BY Orden";
 }
 
 } // namespace

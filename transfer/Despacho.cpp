@@ -160,7 +160,8 @@ void Lanzar_Operacion(const QString& maquina, int operacion, const QString& tipo
 
 Texto_Recordatorio Leer_Recordatorio()
 {
-    return {"Conecte el aparato al puerto " + Puerto + " y configúrelo con los siguientes parámetros:",
+    return {"Conecte el aparato al puerto " + Puerto +
+                " y configúrelo con los siguientes parámetros:",
             {"Velocidad: " + Velocidad, "Bits de Datos: " + Bits_Datos, "Paridad: " + Paridad,
              "Bit de Parada: " + Bits_Parada}};
 }

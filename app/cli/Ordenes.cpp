@@ -11,7 +11,8 @@ namespace {
 int Orden_Ayuda(const Contexto& c, const QStringList&)
 {
     c.Linea("miraldos-cli [--dir DIRECTORIO] [--si] ORDEN ...");
-    for (const Orden& o : Ordenes()) c.Linea("  " + o.uso);
+    for (const Orden& o : Ordenes())
+        c.Linea("  " + o.uso);
     return HECHO;
 }
 
@@ -58,7 +59,8 @@ void Contexto::Fila(const QStringList& campos) const
 {
     QStringList limpios = campos;
     for (QString& campo : limpios)
-        for (const char16_t c : {u'\t', u'\r', u'\n'}) campo.replace(QChar(c), u' ');
+        for (const char16_t c : {u'\t', u'\r', u'\n'})
+            campo.replace(QChar(c), u' ');
     Linea(limpios.join(u'\t'));
 }
 

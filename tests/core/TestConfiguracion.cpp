@@ -450,11 +450,13 @@ void TestConfiguracion::cada_ajuste_tiene_su_fila()
         globales << std::visit([](const auto& l) { return static_cast<const void*>(l.global); },
                                fila.lugar);
     }
-    QCOMPARE(claves.join(u' '), QString("PORT VELOCIDAD BITS PARIDAD STOP HARD KRTNOM KRT FIJO Visible "
-                                        "Recuerde Cargas Exportar Mostrar"));
+    QCOMPARE(claves.join(u' '),
+             QString("PORT VELOCIDAD BITS PARIDAD STOP HARD KRTNOM KRT FIJO Visible "
+                     "Recuerde Cargas Exportar Mostrar"));
     QCOMPARE(globales.size(), claves.size());
-    QCOMPARE(controles.join(u' '), QString("Combo5 Combo1 Combo2 Combo3 Combo4 Combo6 Check1 Check2 "
-                                           "Check3 Check4 Check5 Check6"));
+    QCOMPARE(controles.join(u' '),
+             QString("Combo5 Combo1 Combo2 Combo3 Combo4 Combo6 Check1 Check2 "
+                     "Check3 Check4 Check5 Check6"));
     // Each row, on and off, goes to its own global and key and to no other.
     for (const Ajuste& fila : Tabla_Ajustes()) {
         const auto* const marca = std::get_if<Ajuste_Marca>(&fila.lugar);

@@ -282,8 +282,12 @@ void TestDecodificador::un_nombre_que_nadie_da_queda_vacio()
     QCOMPARE(valores, (QStringList{"ARBOL", "", ""}));
     // The fields of a kind follow `Orden`, whatever the order of their rows.
     for (const int orden : {3, 1, 2})
-        p.Fila("Campos", {{"Maquina", "KRT300"}, {"ID", "o"}, {"Campo", QString::number(orden)},
-                          {"Orden", orden}, {"Digitos", 2}, {"PosDigit", "*"}});
+        p.Fila("Campos", {{"Maquina", "KRT300"},
+                          {"ID", "o"},
+                          {"Campo", QString::number(orden)},
+                          {"Orden", orden},
+                          {"Digitos", 2},
+                          {"PosDigit", "*"}});
     QStringList ordenados(3);
     Decodificar_Linea(*Base_Datos, "oAABBCC", "1", "KRT300", 0, {"1", "2", "3"}, ordenados);
     QCOMPARE(ordenados, (QStringList{"AA", "BB", "CC"}));
@@ -474,11 +478,11 @@ void TestDecodificador::las_columnas_no_listadas_se_decodifican()
     Clave_Estacion = "KRT300";
     QStringList valores = {"v", "v"};
     // "Reserva" is marked "NL": it is no coordinate, and its sign place is treated as one's.
-    Decodificar_Linea(*Base_Datos, "H+012345600012345-7nota", "1", "KRT300", 0,
-                      {"Reserva", "Nota"}, valores);
+    Decodificar_Linea(*Base_Datos, "H+012345600012345-7nota", "1", "KRT300", 0, {"Reserva", "Nota"},
+                      valores);
     QCOMPARE(valores, (QStringList{"-7", "nota"}));
-    Decodificar_Linea(*Base_Datos, "H+01234560001234507nota", "1", "KRT300", 0,
-                      {"Reserva", "Nota"}, valores);
+    Decodificar_Linea(*Base_Datos, "H+01234560001234507nota", "1", "KRT300", 0, {"Reserva", "Nota"},
+                      valores);
     QCOMPARE(valores, (QStringList{"+7", "nota"}));
 
     // A general field with a coordinate's mark gets no offset: it is cut as any other.
@@ -488,8 +492,9 @@ void TestDecodificador::las_columnas_no_listadas_se_decodifican()
     QStringList base = {"v"};
     Decodificar_General(*Base_Datos, "G+001234567", "KRT300", {"Base X"}, base, 0);
     QCOMPARE(base[0], QStringLiteral("1234.567"));
-    Poner_Registro(p, "KRT800", {1}, "BAS", "Base", "G",
-                   {{"Base X", 10, "7,3", "", "", "", "GE"}, {"Base Y", 10, "7,3", "", "", "", "CY"}});
+    Poner_Registro(
+        p, "KRT800", {1}, "BAS", "Base", "G",
+        {{"Base X", 10, "7,3", "", "", "", "GE"}, {"Base Y", 10, "7,3", "", "", "", "CY"}});
     Clave_Estacion = "KRT800";
     Desp_Y = "100";
     const auto item = [](const char* campo) {
@@ -697,8 +702,13 @@ void TestDecodificador::las_filas_absurdas_vacian_lo_suyo()
         const auto campo = [&](const char* id, const QString& nombre, const QVariant& orden,
                                const QVariant& digitos, const QVariant& posdigit,
                                const QVariant& caracter) {
-            p.Fila("Campos", {{"Maquina", maquina}, {"ID", id}, {"Campo", nombre}, {"Orden", orden},
-                              {"Digitos", digitos}, {"PosDigit", posdigit}, {"Caracter", caracter},
+            p.Fila("Campos", {{"Maquina", maquina},
+                              {"ID", id},
+                              {"Campo", nombre},
+                              {"Orden", orden},
+                              {"Digitos", digitos},
+                              {"PosDigit", posdigit},
+                              {"Caracter", caracter},
                               {"Forsalida", nombre == u"Mal" ? "0.#0.##" : ""}});
         };
         // What is wrong with a row empties its own field.
@@ -713,8 +723,8 @@ void TestDecodificador::las_filas_absurdas_vacian_lo_suyo()
         QStringList valores(nombres.size(), "v");
         Decodificar_Linea(*Base_Datos, por_columnas ? "Aabc123499" : "A abc,,1 x,99", "1", maquina,
                           0, nombres, valores);
-        QCOMPARE(valores, por_columnas ? por_anchos
-                                       : QStringList({"abc", "", "1 x", "99", "", ""}));
+        QCOMPARE(valores,
+                 por_columnas ? por_anchos : QStringList({"abc", "", "1 x", "99", "", ""}));
         QStringList generales(nombres.size(), "v");
         Decodificar_General(*Base_Datos, "Aabc123499", maquina, nombres, generales, 0);
         QCOMPARE(generales, por_columnas ? por_anchos : QStringList(nombres.size(), "v"));
