@@ -66,9 +66,8 @@ Copias::Copia Mirar(const QString& fichero)
 
 QString Nombre_Apartada()
 {
-    const QString base =
-        Ruta_MDB + QStringLiteral("/EstTotal_apartada_") +
-        Reloj_Actual().Ahora().toString(QStringLiteral("yyyy-MM-dd_HHmmss"));
+    const QString base = Ruta_MDB + QStringLiteral("/EstTotal_apartada_") +
+                         Reloj_Actual().Ahora().toString(QStringLiteral("yyyy-MM-dd_HHmmss"));
     QString nombre = base + QStringLiteral(".mdb");
     for (int n = 2; QFileInfo::exists(nombre); ++n)
         nombre = base + QStringLiteral("_%1.mdb").arg(n);
@@ -162,7 +161,8 @@ bool Copias::Recuperar_Preguntando(const Copia& copia)
     try {
         const QString aparte = Recuperar(copia.fichero);
         Interfaz_Actual().Mensaje(
-            QStringLiteral("Se ha vuelto a la copia del %1.\r\nLa base de datos de antes está en\r\n%2")
+            QStringLiteral(
+                "Se ha vuelto a la copia del %1.\r\nLa base de datos de antes está en\r\n%2")
                 .arg(Texto(copia), aparte),
             Icono::Informacion);
         return true;

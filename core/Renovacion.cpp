@@ -159,8 +159,7 @@ QString Sello(Base& base)
 
 void Renovar(Base& base, const Esquema::Tabla& tabla, const Filas& nuevas)
 {
-    const Filas propias =
-        Propias(tabla, Leer(base, tabla), nuevas, Sumas(base, tabla.nombre));
+    const Filas propias = Propias(tabla, Leer(base, tabla), nuevas, Sumas(base, tabla.nombre));
     Claves ocupadas(tabla);
     for (const QVariantList& fila : propias)
         ocupadas.Tomar(fila);

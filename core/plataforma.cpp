@@ -98,8 +98,8 @@ bool plataforma::Es_De_Red(const QByteArray& sistema)
 {
     // "fuse." is a folder served by a program, nearly always another machine's; a local disk that
     // is served so calls itself "fuseblk".
-    static constexpr const char* principios[] = {"red",  "nfs",  "cifs", "smb",   "ncp",  "afs",
-                                                 "9p",   "ceph", "coda", "fuse.", "dav",  "gfs",
+    static constexpr const char* principios[] = {"red",  "nfs",  "cifs",   "smb",    "ncp",   "afs",
+                                                 "9p",   "ceph", "coda",   "fuse.",  "dav",   "gfs",
                                                  "ocfs", "gpfs", "lustre", "vboxsf", "prl_fs"};
     for (const char* p : principios)
         if (sistema.startsWith(p)) return true;

@@ -204,8 +204,8 @@ const Esquema::Indice* Esquema::Tabla::Buscar_Indice(const QString& buscado) con
 
 const QList<Esquema::Tabla>& Esquema::Tablas()
 {
-    static const QList<Tabla> tablas = Tablas_De_Referencia() + Tablas_De_Trabajo() +
-                                       Tablas_De_La_Base();
+    static const QList<Tabla> tablas =
+        Tablas_De_Referencia() + Tablas_De_Trabajo() + Tablas_De_La_Base();
     return tablas;
 }
 
@@ -219,7 +219,8 @@ const Esquema::Tabla* Esquema::Buscar_Tabla(const QString& nombre)
 QString Esquema::Es_Fecha(const Columna& columna)
 {
     const QString cifra = QStringLiteral("[0-9]");
-    const QString dibujo = QStringLiteral("%1-%2-%2 %2:%2:%2").arg(cifra.repeated(4), cifra.repeated(2));
+    const QString dibujo =
+        QStringLiteral("%1-%2-%2 %2:%2:%2").arg(cifra.repeated(4), cifra.repeated(2));
     // The form first: what else the date functions take for a moment ("now") is none that was stored.
     return QStringLiteral("CASE WHEN %1 GLOB '%2' THEN strftime('%Y-%m-%d %H:%M:%S',%1)=%1 "
                           "ELSE %1 IS NULL END")

@@ -4,9 +4,9 @@
 
 /// What was found in a database file.
 struct Examen {
-    bool es_base = false;  ///< a database of this program
-    QString defecto;       ///< first fault found, empty when it is sound
-    int version = 0;       ///< of its tables
+    bool es_base = false; ///< a database of this program
+    QString defecto;      ///< first fault found, empty when it is sound
+    int version = 0;      ///< of its tables
     qint64 sesiones = 0;
     bool Sana() const { return es_base && defecto.isEmpty(); }
 };

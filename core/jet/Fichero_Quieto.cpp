@@ -33,10 +33,9 @@ Fichero_Quieto::Fichero_Quieto(const QString& fichero)
     const QString ruta = QFileInfo(fichero).absoluteFilePath();
     const QByteArray uri = "file:" + QByteArray(ruta.startsWith(u'/') ? "" : "/") +
                            QUrl::toPercentEncoding(ruta, "/:") + "?immutable=1";
-    const int r = sqlite3_open_v2(uri.constData(), &base, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI,
-                                  nullptr);
-    if (r == SQLITE_OK)
-        sqlite3_exec(base, "PRAGMA cell_size_check=ON", nullptr, nullptr, nullptr);
+    const int r =
+        sqlite3_open_v2(uri.constData(), &base, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
+    if (r == SQLITE_OK) sqlite3_exec(base, "PRAGMA cell_size_check=ON", nullptr, nullptr, nullptr);
 }
 
 Fichero_Quieto::~Fichero_Quieto()

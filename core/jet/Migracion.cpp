@@ -11,8 +11,8 @@ namespace {
 
 QString Nombre_De_Copia(const QString& fichero, int version)
 {
-    const QString base = QFileInfo(fichero).absolutePath() +
-                         QStringLiteral("/esttotal_version%1").arg(version);
+    const QString base =
+        QFileInfo(fichero).absolutePath() + QStringLiteral("/esttotal_version%1").arg(version);
     QString nombre = base + QStringLiteral(".bak");
     for (int n = 2; QFileInfo::exists(nombre); ++n)
         nombre = base + QStringLiteral("_%1.bak").arg(n);

@@ -164,9 +164,9 @@ void TestMigracion::lo_que_la_de_antes_dejaba_pasar()
 void TestMigracion::una_mas_nueva_no_se_abre()
 {
     Base_Datos.reset();
-    QCOMPARE(Ejecutar(Fichero_MDB, "PRAGMA user_version=" +
-                                       QByteArray::number(Esquema::VERSION + 1)),
-             SQLITE_OK);
+    QCOMPARE(
+        Ejecutar(Fichero_MDB, "PRAGMA user_version=" + QByteArray::number(Esquema::VERSION + 1)),
+        SQLITE_OK);
     const QByteArray antes = p->Leer("MDB/EstTotal.mdb");
     p->Escribir("EstTotal.ini", "PORT=COM1\r\n");
     QVERIFY(!Cargar_Configuracion(Ruta_Aplicacion));
@@ -227,13 +227,13 @@ void Operacion_De(Base& base, int ope, const QString& palabras)
 void TestMigracion::las_filas_entregadas_se_renuevan()
 {
     QVERIFY(Renovar_Entregadas(*Base_Datos, Plantilla("2026", [](Base& b) {
-                                   Modelo(b, "A", "a1");
-                                   Modelo(b, "B", "b1");
-                               })));
+        Modelo(b, "A", "a1");
+        Modelo(b, "B", "b1");
+    })));
     QVERIFY(Renovar_Entregadas(*Base_Datos, Plantilla("2027", [](Base& b) {
-                                   Modelo(b, "C", "c2");
-                                   Modelo(b, "A", "a2");
-                               })));
+        Modelo(b, "C", "c2");
+        Modelo(b, "A", "a2");
+    })));
     QCOMPARE(p->Columna("SELECT Foto FROM KRT"), (QStringList{"c2", "a2"}));
     QCOMPARE(p->Columna("SELECT count(*) FROM Entregadas"), QStringList{"2"});
 }
@@ -251,23 +251,21 @@ void TestMigracion::lo_propio_se_conserva()
     p->Fila("Formatos1", {{"Nombre", "F"}, {"Maquina", "KRT300"}});
     Nueva_Sesion("Obra", 0);
     QVERIFY(Renovar_Entregadas(*Base_Datos, Plantilla("2027", [](Base& b) {
-                                   Modelo(b, "A", "a2");
-                                   Modelo(b, "B", "b2");
-                                   Modelo(b, "Mio", "ajena");
-                                   Operacion_De(b, 1, "Una");
-                                   // The same words under another number.
-                                   Operacion_De(b, 2, "La mía");
-                               })));
-    QCOMPARE(p->Columna("SELECT Nombre || Foto FROM KRT"),
-             (QStringList{"Aa2", "Bmia", "Miom"}));
+        Modelo(b, "A", "a2");
+        Modelo(b, "B", "b2");
+        Modelo(b, "Mio", "ajena");
+        Operacion_De(b, 1, "Una");
+        // The same words under another number.
+        Operacion_De(b, 2, "La mía");
+    })));
+    QCOMPARE(p->Columna("SELECT Nombre || Foto FROM KRT"), (QStringList{"Aa2", "Bmia", "Miom"}));
     QCOMPARE(p->Columna("SELECT OPE FROM OPE"), (QStringList{"1", "90"}));
     QCOMPARE(p->Columna("SELECT Nombre FROM Formatos1"), QStringList{"F"});
     QCOMPARE(Ultima_Sesion(), QStringLiteral("1"));
     // And what he takes back to the delivered form is delivered again.
     Base_Datos->Execute("UPDATE KRT SET Foto = 'b2' WHERE Nombre = 'B'");
-    QVERIFY(Renovar_Entregadas(*Base_Datos, Plantilla("2028", [](Base& b) {
-                                   Modelo(b, "B", "b3");
-                               })));
+    QVERIFY(
+        Renovar_Entregadas(*Base_Datos, Plantilla("2028", [](Base& b) { Modelo(b, "B", "b3"); })));
     QCOMPARE(p->Columna("SELECT Nombre || Foto FROM KRT"), (QStringList{"Bb3", "Miom"}));
 }
 
@@ -275,8 +273,8 @@ void TestMigracion::sin_sumas_se_conserva_lo_que_ya_no_se_entrega()
 {
     Modelo(*Base_Datos, "A", "a0");
     Modelo(*Base_Datos, "Mio", "m");
-    QVERIFY(Renovar_Entregadas(*Base_Datos,
-                               Plantilla("2026", [](Base& b) { Modelo(b, "A", "a1"); })));
+    QVERIFY(
+        Renovar_Entregadas(*Base_Datos, Plantilla("2026", [](Base& b) { Modelo(b, "A", "a1"); })));
     QCOMPARE(p->Columna("SELECT Nombre || Foto FROM KRT"), (QStringList{"Aa1", "Miom"}));
 }
 
@@ -286,8 +284,8 @@ void TestMigracion::una_plantilla_que_no_es_mas_nueva_no_cambia_nada()
     Base_Datos->Execute("DELETE FROM KRT");
     const QString misma = Plantilla("2026", [](Base& b) { Modelo(b, "A", "a2"); });
     QVERIFY(!Renovar_Entregadas(*Base_Datos, misma));
-    QVERIFY(!Renovar_Entregadas(*Base_Datos,
-                                Plantilla("2025", [](Base& b) { Modelo(b, "A", "a2"); })));
+    QVERIFY(
+        !Renovar_Entregadas(*Base_Datos, Plantilla("2025", [](Base& b) { Modelo(b, "A", "a2"); })));
     QVERIFY(!Renovar_Entregadas(*Base_Datos, p->Ruta("DAT/no está.mdb")));
     QVERIFY(!Renovar_Entregadas(*Base_Datos, DATOS_PRUEBA "/core/EstTotal_version0.mdb"));
     QCOMPARE(p->Columna("SELECT count(*) FROM KRT"), QStringList{"0"});

@@ -39,8 +39,7 @@ int main(int argc, char** argv)
         const QString tablas = palabras[1] + QStringLiteral("/DAT/tablas");
         const Juego juego = Leer_Tablas(tablas, faltas);
         Comprobar_Todo(juego, palabras[1], faltas);
-        if (faltas.isEmpty()) 
-            Escribir_Base(juego, palabras[2], faltas, Sello_De(tablas));
+        if (faltas.isEmpty()) Escribir_Base(juego, palabras[2], faltas, Sello_De(tablas));
     } catch (const Error_Ejecucion& e) {
         faltas << Falta{palabras[2], 0, QStringLiteral("(%1) %2").arg(e.numero).arg(e.descripcion)};
     }
