@@ -35,6 +35,8 @@ const QList<Orden>& Ordenes()
         {"exportar", Uso_Exportar(), Orden_Exportar},
         {"borrar", "borrar ID", Orden_Borrar},
         {"compactar", "compactar", Orden_Compactar},
+        {"base", "base", Orden_Base},
+        {"recuperar", "recuperar [COPIA]", Orden_Recuperar},
         {"convertidor", "convertidor FUNCION ARGUMENTO...", Orden_Convertidor},
         {"convertir",
          "convertir ENTRADA SALIDA [--eje N] [--perfil NOMBRE] [--seccion A:B] "
