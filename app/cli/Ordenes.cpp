@@ -1,5 +1,6 @@
 #include "app/cli/Ordenes.h"
 
+#include "app/cli/Ordenes_Brutos.h"
 #include "app/cli/Ordenes_Conversion.h"
 #include "app/cli/Ordenes_Export.h"
 #include "app/cli/Ordenes_Sesion.h"
@@ -34,6 +35,15 @@ const QList<Orden>& Ordenes()
          "exportar ID --formato NOMBRE --tipo txf|txt --salida FICHERO "
          "[--separador espacio|coma|tabulacion] [--titulos] [--desplazamiento X,Y,Z]",
          Orden_Exportar},
+        {"exportar-bruto",
+         "exportar-bruto ID...|--todas --patron \"*.hd6\" --salida FICHERO "
+         "[--separador espacio|coma|tabulacion] [--serie S --mira1 T --mira2 T --operador T "
+         "--empresa T] [--generales]",
+         Orden_Exportar_Bruto},
+        {"importar-bruto",
+         "importar-bruto FICHERO... --modelo NOMBRE --ope N --nombre NOMBRE "
+         "[--formato maquina|lineas]",
+         Orden_Importar_Bruto},
         {"borrar", "borrar ID", Orden_Borrar},
         {"compactar", "compactar", Orden_Compactar},
         {"convertidor", "convertidor FUNCION ARGUMENTO...", Orden_Convertidor},
