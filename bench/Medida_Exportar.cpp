@@ -42,7 +42,7 @@ public:
     bool Exportar() const
     {
         Avance_Exportar avance;
-        return Exportar_Sesion(1, "KRT300", 1, "TxF", "NXYZCOD", fichero, " \u0006N", avance);
+        return Exportar_Sesion(1, "KRT300", 1, "TxF", "NXYZCOD", fichero, {" \u0006N"}, avance);
     }
 
     QString fichero;

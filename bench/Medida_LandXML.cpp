@@ -1,7 +1,7 @@
 // Converting an alignment of a LandXML file of 100 MB, 200 alignments beside big surfaces, against
 // just reading the file's tokens with the same XML reader; and the memory that takes.
 #include "bench/Proporcion.h"
-#include "conversions/Tabla_Funciones.h"
+#include "conversions/biblioteca/Tabla_Funciones.h"
 
 #include <QFile>
 #include <QTemporaryDir>

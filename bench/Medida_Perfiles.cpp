@@ -1,8 +1,8 @@
 // Converting a cross-section file of 10 MB against reading its lines.
 #include "bench/Proporcion.h"
-#include "conversions/Conversion.h"
-#include "conversions/Tabla_Funciones.h"
-#include "conversions/Texto_Fuente.h"
+#include "conversions/biblioteca/Conversion.h"
+#include "conversions/biblioteca/Tabla_Funciones.h"
+#include "conversions/suelo/Texto_Fuente.h"
 #include "core/Ficheros.h"
 
 #include <QTemporaryDir>

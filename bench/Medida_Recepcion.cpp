@@ -4,7 +4,7 @@
 #include "bench/Proporcion.h"
 #include "core/ModEstTotal.h"
 #include "core/Sesiones.h"
-#include "transfer/Proceso_Recepcion.h"
+#include "transfer/krt300/Almacen_KRT300.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>

@@ -64,6 +64,17 @@ int Siguiente_ID()
     return int(ultima) + 1;
 }
 
+void Poner_NPuntos(Base& base, qint64 id, qint64 puntos)
+{
+    Conjunto_Registros sesiones = base.OpenRecordset("Sesiones");
+    sesiones.Index("PrimaryKey");
+    sesiones.Seek({id});
+    if (sesiones.NoMatch()) return;
+    sesiones.Edit();
+    sesiones.Poner("NPuntos", puntos);
+    sesiones.Update();
+}
+
 void Eliminar_Sesion(qint64 id)
 {
     Base& base = Base_Abierta();

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class Base;
+
 /// Inserts a session with the next number, the present date and the model in force.
 /// @return its number as text; empty on an error, 32767 sessions being the limit
 QString Nueva_Sesion(const QString& nombre, int ope);
@@ -11,6 +13,8 @@ QString Nueva_Sesion(const QString& nombre, int ope, const QString& maquina, con
 QString Ultima_Sesion();
 /// Number that the next session would get. @throws Error_Ejecucion 6 above 32767
 int Siguiente_ID();
+/// Notes how many points a session has; a session that isn't there is left alone.
+void Poner_NPuntos(Base& base, qint64 id, qint64 puntos);
 /// Deletes a session's row and then its lines, one transaction.
 void Eliminar_Sesion(qint64 id);
 

@@ -1,6 +1,5 @@
 #include "core/Trozos.h"
 
-#include "core/Ansi.h"
 #include "core/Basico.h"
 
 namespace {
@@ -109,20 +108,6 @@ QString Quitar_Espacios_Dobles(const QString& cadena)
     QString texto = Basico::Trim(cadena);
     while (texto.contains(QStringLiteral("  "))) texto.replace(QStringLiteral("  "), QStringLiteral(" "));
     return texto;
-}
-
-QString Suma_XOR(const QString& cadena)
-{
-    int suma = 0;
-    for (const QChar c : cadena) suma ^= Ansi::Codigo(c);
-    return QStringLiteral("%1").arg(suma, 3, 10, QChar(u'0'));
-}
-
-QChar Suma_Nivel(QStringView cadena)
-{
-    int suma = 0;
-    for (const QChar c : cadena) suma = (suma + Ansi::Codigo(c)) & 63;
-    return QChar(char16_t(suma + 32));
 }
 
 QString Lista_SQL(const QStringList& elementos)

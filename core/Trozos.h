@@ -37,10 +37,5 @@ int Valor_Tras_Caracter(const QString& c, const QString& cadena);
 QString Rellenar_Ceros(const QString& valor, int n);
 /// Trimmed, with each run of blanks reduced to one.
 QString Quitar_Espacios_Dobles(const QString& cadena);
-/// Exclusive or of the character codes, as decimal text of three digits: the transfer check.
-QString Suma_XOR(const QString& cadena);
-/// Checksum character of the level's lines: the sum of the character codes, its low 6 bits plus 32,
-/// so one of the characters 32 to 95.
-QChar Suma_Nivel(QStringView cadena);
 /// All elements but the last, each trimmed, in apostrophes and followed by a blank, joined by ",".
 QString Lista_SQL(const QStringList& elementos);

@@ -5,7 +5,7 @@
 
 static constexpr int ANCHO_COLUMNA_BASE = 80;
 
-Libro_Excel Libro_De_Tabla(const Tabla_Texto& tabla, bool numeros)
+Libro_Excel Libro_De_Tabla(const Tabla_Separada& tabla, bool numeros)
 {
     Libro_Excel libro;
     Hoja_Excel& hoja = libro.Agregar_Hoja(QStringLiteral("hoja1"));
@@ -42,7 +42,7 @@ QByteArray Texto_De_Hoja(const Hoja_Excel& hoja)
     return texto;
 }
 
-void Base_De_Tabla(const Tabla_Texto& tabla, const QString& fichero, const QString& nombre_tabla)
+void Base_De_Tabla(const Tabla_Separada& tabla, const QString& fichero, const QString& nombre_tabla)
 {
     Ajustes_Jet ajustes;
     ajustes.si_existe = Ajustes_Jet::REEMPLAZAR;
@@ -51,7 +51,7 @@ void Base_De_Tabla(const Tabla_Texto& tabla, const QString& fichero, const QStri
     for (const QString& titulo : tabla.titulos)
         columnas << Columna_Texto{titulo, ANCHO_COLUMNA_BASE};
     base.Crear_Tabla(nombre_tabla, columnas);
-    for (const Tabla_Texto::Fila& fila : tabla.filas) {
+    for (const Tabla_Separada::Fila& fila : tabla.filas) {
         QStringList celdas = fila.celdas;
         celdas.resize(tabla.titulos.size());
         try {

@@ -1,35 +1,28 @@
 #include "export/Dialogo_Exportar.h"
 
 #include "core/ModEstTotal.h"
+#include "export/excel/Forma_Excel.h"
+#include "export/GuardarN.h"
 #include "export/Peticiones_Exportar.h"
 #include "formats/ModFormatos.h"
+#include "session/Separadores.h"
 
+#include <optional>
 #include <QFile>
 
 namespace {
 
-// What each option writes: label and extension of its files, kind of the engine.
-struct Clase_Fichero {
-    const char* etiqueta;
-    const char* extension;
-    const char* tipo;
+// What each entry of `VersionExcel` writes.
+struct Entrada_Version {
+    const char16_t* texto;
+    std::optional<Version_Excel> forma; // none: what was in force stays
 };
-constexpr Clase_Fichero CLASES[] = {
-    {"Texto", "Txt", "TxF"}, {"Texto", "Txt", "Txt"},  {"Excel", "xls", "Xls"},
-    {"Autocad", "dxf", ""},  {"Access", "mdb", "mdb"},
+constexpr Entrada_Version VERSIONES[] = {
+    {u"Excel 3.0", Version_Excel::Excel_3}, {u"Excel 4.0", Version_Excel::Excel_4},
+    {u"Excel 95", Version_Excel::Excel_5},  {u"Excel 97", Version_Excel::Excel_8},
+    {u"Excel 2000", std::nullopt},
 };
-
-const Clase_Fichero& Clase_De(int opcion)
-{
-    return CLASES[opcion >= 0 && opcion < Dialogo_Exportar::OPCIONES ? opcion
-                                                                     : Dialogo_Exportar::ACCESS];
-}
-
-// Only these formats hold what a drawing needs; their names are the one thing that tells.
-bool Es_Formato_De_Dibujo(const QString& formato)
-{
-    return QStringList{"NXYZ", "NXYZCOD", "NPXYZ", "NXYZREPLANTEO"}.contains(formato);
-}
+constexpr int VERSION_INICIAL = 3;
 
 } // namespace
 
@@ -41,12 +34,19 @@ Peticiones_Exportar& Peticiones_De_Exportar()
 
 Dialogo_Exportar::Dialogo_Exportar(const Trabajo_Exportar& t) : trabajo(t)
 {
-    for (int i = 0; i < OPCIONES; ++i)
-        activa[std::size_t(i)] = Escritor_De(Clase_De(i).tipo) != nullptr;
-    Tipo_Ficheros_Puntos = Es_Formato_De_Dibujo(trabajo.formato);
-    activa[DXF] = Tipo_Ficheros_Puntos && Peticiones_De_Exportar().Abrir_DXF;
+    for (const Salida_Exportar& salida : Salidas_Exportar()) {
+        if (salida.opcion < 0) continue;
+        activa << Se_Ofrece(salida, trabajo.formato);
+    }
+    Tipo_Ficheros_Puntos = Salida_De("DXF")->formatos.contains(trabajo.formato);
     Reset();
-    Elegir_Opcion(FORMATEADO);
+    Elegir_Opcion(0);
+}
+
+const Salida_Exportar& Dialogo_Exportar::Elegida() const
+{
+    const Salida_Exportar* const salida = Salida_De_Opcion(opcion);
+    return salida ? *salida : *Salida_De("mdb");
 }
 
 void Dialogo_Exportar::Reset()
@@ -61,23 +61,26 @@ void Dialogo_Exportar::Reset()
 
 void Dialogo_Exportar::Agregar_caracteres()
 {
-    caracteres = QStringList{" Espacio ( )", " Coma (,)", " Tabulación (|)"};
-    tag_caracteres = QStringList{" ", ",", "\t"}.join(QChar(SEP_LISTA));
+    caracteres.clear();
+    for (const Fila_Separador& separador : Separadores())
+        caracteres << separador.texto;
+    tag_caracteres = Tag_Separador();
     caracter = 0;
 }
 
 void Dialogo_Exportar::Agregar_versiones()
 {
-    versiones = QStringList{"Excel 3.0", "Excel 4.0", "Excel 95", "Excel 97", "Excel 2000"};
-    version = 3;
-    version_excel = "Excel 8.0";
+    versiones.clear();
+    for (const Entrada_Version& entrada : VERSIONES)
+        versiones << QString::fromUtf16(entrada.texto);
+    Elegir_Version(VERSION_INICIAL);
 }
 
 void Dialogo_Exportar::Elegir_Opcion(int indice)
 {
     opcion = indice;
-    caracter_visible = indice == FORMATEADO || indice == TEXTO;
-    version_visible = indice == EXCEL;
+    caracter_visible = Elegida().pide_separador;
+    version_visible = Elegida().pide_version;
     if (caracter_visible) Agregar_caracteres();
     if (version_visible) Agregar_versiones();
     fichero.clear();
@@ -86,9 +89,10 @@ void Dialogo_Exportar::Elegir_Opcion(int indice)
 
 void Dialogo_Exportar::Elegir_Version(int indice)
 {
-    static const QStringList conexiones = {"Excel 3.0", "Excel 4.0", "Excel 5.0", "Excel 8.0"};
     version = indice;
-    if (indice >= 0 && indice < conexiones.size()) version_excel = conexiones[indice];
+    if (indice < 0 || indice >= int(std::size(VERSIONES))) return;
+    const auto forma = VERSIONES[indice].forma;
+    if (forma) version_excel = QString::fromUtf16(Forma_De(*forma).nombre);
 }
 
 bool Dialogo_Exportar::Proponer_Fichero(const QString& nombre)
@@ -103,11 +107,11 @@ bool Dialogo_Exportar::Proponer_Fichero(const QString& nombre)
 
 void Dialogo_Exportar::Elegir_Fichero()
 {
-    const Clase_Fichero& clase = Clase_De(opcion);
-    const QString patron = QString("*.") + clase.extension;
+    const Salida_Exportar& salida = Elegida();
+    const QString patron = "*." + salida.extension;
     Peticion_Fichero peticion;
     peticion.titulo = "Guardar como ...";
-    peticion.filtro = QString("Archivos ") + clase.etiqueta + '(' + patron + ")|" + patron +
+    peticion.filtro = "Archivos " + salida.etiqueta + '(' + patron + ")|" + patron +
                       "| Todos los Archivos (*.*)|*.*";
     peticion.carpeta = En_Instalacion("ficheros");
     peticion.guardar = true;
@@ -117,13 +121,15 @@ void Dialogo_Exportar::Elegir_Fichero()
     }
 }
 
-QString Dialogo_Exportar::Opciones() const
+Opciones_Exportar Dialogo_Exportar::Opciones() const
 {
-    const QString titulos = Incluir_Cabeceras ? "S" : "N";
-    if (caracter_visible)
-        return Trozo(caracter + 1, tag_caracteres, SEP_LISTA) + QChar(SEP_LISTA) + titulos;
-    if (version_visible) return titulos + QChar(SEP_LISTA) + version_excel;
-    return {};
+    Opciones_Exportar opciones;
+    if (caracter_visible) {
+        const QString separador = Trozo(caracter + 1, tag_caracteres, SEP_LISTA);
+        opciones.texto = Opciones_Texto{separador, Incluir_Cabeceras}.Unir();
+    }
+    if (version_visible) opciones.texto = Opciones_Libro{Incluir_Cabeceras, version_excel}.Unir();
+    return opciones;
 }
 
 bool Dialogo_Exportar::Exportar(Avance_Exportar& avance)
@@ -133,19 +139,20 @@ bool Dialogo_Exportar::Exportar(Avance_Exportar& avance)
         interfaz.Pitar();
         return false;
     }
-    if (opcion == DXF) {
-        if (Peticiones_De_Exportar().Abrir_DXF) Peticiones_De_Exportar().Abrir_DXF(trabajo);
+    const Salida_Exportar& salida = Elegida();
+    if (salida.dialogo) {
+        if (const Abrir_Salida& abrir = salida.dialogo()) abrir(trabajo);
         return false;
     }
     bool hecho = false;
     {
         const Cursor_De_Espera espera;
         interfaz.Repintar();
-        hecho = Exportar_Sesion(trabajo.id, trabajo.maquina, trabajo.ope, Clase_De(opcion).tipo,
+        hecho = Exportar_Sesion(trabajo.id, trabajo.maquina, trabajo.ope, salida.tipo,
                                 trabajo.formato, fichero, Opciones(), avance);
     }
-    if (opcion == FORMATEADO || opcion == TEXTO)
-        interfaz.Ver_Texto(fichero, Clave_Estacion == u"NV400");
+    if (salida.se_muestra)
+        interfaz.Ver_Texto(fichero, Modo_En_Vigor().letra_fija);
     else if (hecho)
         interfaz.Mensaje("Sesión Exportada", Icono::Informacion);
     avance.Etiqueta({});

@@ -1,34 +1,30 @@
 #pragma once
 
-#include "export/GuardarN.h"
-#include "formats/Peticiones_Formatos.h"
-
-#include <array>
+#include "export/Salidas.h"
 
 /// What `FrmExportar` holds: the choice of the kind of file and its name, and the start of the
 /// export. The dialog shows the public members after each call and hands the user's choices back by
 /// the routines below.
 class Dialogo_Exportar {
 public:
-    /// Indexes of `OptFor`; the last has no button of its own.
-    enum Opcion { FORMATEADO, TEXTO, EXCEL, DXF, ACCESS, OPCIONES };
-
     /// Starts the dialog for a session and a format.
     explicit Dialogo_Exportar(const Trabajo_Exportar& trabajo);
 
-    int opcion = FORMATEADO;           ///< the chosen `OptFor`
-    std::array<bool, OPCIONES> activa; ///< which of them are enabled
-    bool caracter_visible = false;     ///< `Caracter` and `Label4`
-    bool version_visible = false;      ///< `VersionExcel` and `Label3`
-    QStringList caracteres;            ///< `Caracter`
-    QString tag_caracteres;            ///< the separators, joined with code 6
-    int caracter = -1;                 ///< its entry
-    QStringList versiones;             ///< `VersionExcel`
-    int version = -1;                  ///< its entry
-    QString version_excel;             ///< `Version_Excel`: connect string
-    QString fichero;                   ///< `Text1`
-    bool elegir_activo = false;        ///< `BtnElegir`
+    int opcion = 0;                ///< the chosen `OptFor`
+    QList<bool> activa;            ///< which of them are enabled
+    bool caracter_visible = false; ///< `Caracter` and `Label4`
+    bool version_visible = false;  ///< `VersionExcel` and `Label3`
+    QStringList caracteres;        ///< `Caracter`
+    QString tag_caracteres;        ///< the separators, joined with code 6
+    int caracter = -1;             ///< its entry
+    QStringList versiones;         ///< `VersionExcel`
+    int version = -1;              ///< its entry
+    QString version_excel;         ///< `Version_Excel`: connect string
+    QString fichero;               ///< `Text1`
+    bool elegir_activo = false;    ///< `BtnElegir`
 
+    /// The row of the chosen `OptFor`; without one, that of the database.
+    const Salida_Exportar& Elegida() const;
     /// `OptFor` click.
     void Elegir_Opcion(int indice);
     /// `VersionExcel` click. "Excel 2000" keeps the connect string that was in force.
@@ -46,7 +42,7 @@ private:
     void Reset();
     void Agregar_caracteres();
     void Agregar_versiones();
-    QString Opciones() const;
+    Opciones_Exportar Opciones() const;
 
     Trabajo_Exportar trabajo;
 };

@@ -1,7 +1,7 @@
 #include "rawfiles/Exportar_Datos.h"
 
 #include "core/ModEstTotal.h"
-#include "rawfiles/Destino.h"
+#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Lineas_Sesion.h"
 
 namespace {
@@ -24,7 +24,7 @@ void Copiar_Lineas(qint64 id, const QString& ruta)
 {
     Lineas_Sesion lineas(id);
     if (!lineas.Siguiente()) return;
-    Destino destino(ruta);
+    Fichero_Destino destino(ruta);
     do
         destino.Linea(lineas.Datos());
     while (lineas.Siguiente());

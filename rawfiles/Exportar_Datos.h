@@ -12,5 +12,5 @@ bool Exportar_Datos(qint64 id, const QString& ruta);
 bool Exportar_Datos_Modo(qint64 id, const QString& ruta, int modo);
 
 /// The lines of a session into a file, none for a session without lines.
-/// @throws Error_Ejecucion as `Destino`
+/// @throws Error_Ejecucion as `Fichero_Destino`
 void Copiar_Lineas(qint64 id, const QString& ruta);

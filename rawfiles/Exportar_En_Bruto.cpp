@@ -1,7 +1,7 @@
 #include "rawfiles/Exportar_En_Bruto.h"
 
 #include "core/ModEstTotal.h"
-#include "rawfiles/Destino.h"
+#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Exportar_Datos.h"
 #include "rawfiles/Exportar_Puntos.h"
 #include "rawfiles/Lineas_Sesion.h"
@@ -33,7 +33,7 @@ std::optional<QString> Pedir_Nombre(const Dialogo_Bruto& dialogo)
 // What was to be replaced goes when there is nothing to put in its place.
 void Retirar_Si_Vacia(qint64 id, const QString& ruta)
 {
-    Destino::Comprobar(ruta);
+    Fichero_Destino::Comprobar(ruta);
     if (!Lineas_Sesion(id).Siguiente()) QFile::remove(ruta);
 }
 

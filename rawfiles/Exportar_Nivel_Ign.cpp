@@ -1,9 +1,9 @@
 #include "rawfiles/Exportar_Nivel_Ign.h"
 
-#include "conversions/Flujo_Conversion.h"
-#include "conversions/Tabla_Funciones.h"
+#include "conversions/biblioteca/Flujo_Conversion.h"
+#include "conversions/biblioteca/Tabla_Funciones.h"
 #include "core/ModEstTotal.h"
-#include "rawfiles/Destino.h"
+#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Exportar_Datos.h"
 #include "rawfiles/Peticiones_Rawfiles.h"
 
@@ -12,7 +12,7 @@
 bool Exportar_Nivel_Ign(qint64 id, const QString& ruta)
 {
     try {
-        Destino::Comprobar(ruta);
+        Fichero_Destino::Comprobar(ruta);
         const QString temporal = En_Instalacion(QStringLiteral("temp.$$$"));
         {
             const Cursor_De_Espera espera;

@@ -2,7 +2,7 @@
 
 #include "core/Ansi.h"
 #include "core/ModEstTotal.h"
-#include "rawfiles/Destino.h"
+#include "rawfiles/Fichero_Destino.h"
 
 namespace {
 
@@ -14,7 +14,7 @@ bool Cabe_En_Una_Linea(const QString& registro)
 void Escribir_Lineas(Registros_Serie_A& registros, const QString& ruta, qint64& partidos)
 {
     if (!registros.Siguiente()) return;
-    Destino destino(ruta);
+    Fichero_Destino destino(ruta);
     do {
         destino.Linea(registros.Registro());
         if (!Cabe_En_Una_Linea(registros.Registro())) ++partidos;
@@ -34,7 +34,7 @@ void Escribir_Maquina(Registros_Serie_A& registros, const QString& ruta, qint64&
                                   Icono::Exclamacion);
         return;
     }
-    Destino destino(ruta);
+    Fichero_Destino destino(ruta);
     destino.Linea(imagen + SEPARADOR_MAQUINA);
     destino.Terminar();
 }

@@ -1,7 +1,7 @@
 #include "rawfiles/Exportar_Ter_Plt.h"
 
 #include "core/ModEstTotal.h"
-#include "rawfiles/Destino.h"
+#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Exportar_Datos.h"
 
 #include <algorithm>
@@ -118,7 +118,7 @@ private:
     QHash<qint64, Indice> indices;
 };
 
-void Escribir_Perfiles(Perfiles& perfiles, Destino& destino)
+void Escribir_Perfiles(Perfiles& perfiles, Fichero_Destino& destino)
 {
     if (perfiles.En_Marcha(0) != CABECERA_TER) destino.Linea(CABECERA_TER);
     // A group is picked with the commas of the last row of the one before: that is the format's
@@ -148,7 +148,7 @@ void Exportar_Ter(qint64 id, const QString& ruta)
 {
     Perfiles perfiles(id);
     if (perfiles.Vacios()) return;
-    Destino destino(ruta);
+    Fichero_Destino destino(ruta);
     Escribir_Perfiles(perfiles, destino);
     destino.Terminar();
 }

@@ -8,7 +8,7 @@
 #include "core/Sucesos.h"
 #include "rawfiles/Lineas_Brutas.h"
 #include "rawfiles/Peticiones_Rawfiles.h"
-#include "transfer/Proceso_Recepcion.h"
+#include "transfer/krt300/Almacen_KRT300.h"
 
 #include <QHash>
 
@@ -144,17 +144,6 @@ void Decir_Perdidas(const Perdidas& perdidas)
                   .arg(perdidas.repetidos));
 }
 
-void Poner_Numero_Puntos(Base& base, const QString& id, qint64 n)
-{
-    Conjunto_Registros sesiones = base.OpenRecordset("Sesiones");
-    sesiones.Index("PrimaryKey");
-    sesiones.Seek({id.toLongLong()});
-    if (sesiones.NoMatch()) return;
-    sesiones.Edit();
-    sesiones.Poner("Npuntos", n);
-    sesiones.Update();
-}
-
 // One row a line, all or none.
 void Guardar_Lineas(const QStringList& lineas, const QString& id,
                     QString (*punto)(const QString& linea))
@@ -196,7 +185,7 @@ Importacion Importar_Lineas(const QString& fichero, const QString& nombre, int o
             const QStringList lineas = Lineas_Brutas(Ficheros::Leer(fichero));
             importacion.sesion = Sesion_Nueva(nombre, ope);
             Guardar_Lineas(lineas, importacion.sesion, punto);
-            Poner_Numero_Puntos(*Base_Datos, importacion.sesion, lineas.size());
+            Poner_NPuntos(*Base_Datos, importacion.sesion.toLongLong(), lineas.size());
             importacion.completa = true;
         }
         Acabar_Importacion();

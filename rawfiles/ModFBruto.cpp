@@ -3,7 +3,7 @@
 #include "core/ModEstTotal.h"
 #include "core/Perfil.h"
 #include "rawfiles/Salidas_Brutas.h"
-#include "transfer/Despacho.h"
+#include "session/Filtro_Extensiones.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "rawfiles/Reconocer_Bruto.h"
 
 #include "core/ModEstTotal.h"
+#include "core/Sumas.h"
 #include "rawfiles/Lineas_Brutas.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
-#include "rawfiles/Destino.h"
+#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/estaciones/Angulos.h"
 #include "rawfiles/estaciones/Bronex.h"
 #include "rawfiles/estaciones/BronexCOD.h"
@@ -72,7 +72,7 @@ bool Plt(const Tarea_Bruta& t, QString& aviso)
 bool Entregar_Temporal(const Tarea_Bruta& t, QString&)
 {
     try {
-        Destino::Comprobar(t.fichero);
+        Fichero_Destino::Comprobar(t.fichero);
         Ficheros::Copiar(t.temporal, t.fichero);
         QFile::remove(t.temporal);
         return true;

@@ -16,12 +16,10 @@ constexpr double LIMITE = 10000000;
 
 QStringList Nombres_Separador()
 {
-    return {"<Espacio>", "<Coma (,)>", "<Tabulación>"};
-}
-
-QString Tag_Separador()
-{
-    return QStringList{" ", ",", "\t"}.join(QChar(SEP_LISTA));
+    QStringList nombres;
+    for (const Fila_Separador& fila : Separadores())
+        nombres << fila.pregunta;
+    return nombres;
 }
 
 Nodo_Coordenada Arbol_Coordenadas(const QString& lista)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "session/Separadores.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -8,8 +10,6 @@
 
 /// Entries of `FrmSelSep`, in order.
 QStringList Nombres_Separador();
-/// The separators themselves joined with code 6, in the same order: the tag of its list.
-QString Tag_Separador();
 
 /// A node of the tree of bad coordinates; `imagen` counts from 1 in the dialog's image list.
 struct Nodo_Coordenada {

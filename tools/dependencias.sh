@@ -1,14 +1,16 @@
 #!/usr/bin/env bash
 # Installs, by Debian package name, what building or testing needs and this machine lacks.
-# Usage: tools/dependencias.sh construir|probar
+# Usage: tools/dependencias.sh construir|probar|revisar
 set -euo pipefail
-construir=(cmake ninja-build g++ mold qt6-base-dev libqt6serialport6-dev libqt6svg6-dev
+construir=(cmake ninja-build g++ mold qt6-base-dev qt6-serialport-dev qt6-svg-dev
            libgl1-mesa-dev libsqlite3-dev)
 probar=(python3-xlrd mdbtools libxlsxwriter-dev libbenchmark-dev libxml2-utils)
+revisar=(git python3 clang clang-format clang-tidy cppcheck)
 case "${1:-}" in
 construir) paquetes=("${construir[@]}") ;;
 probar) paquetes=("${construir[@]}" "${probar[@]}") ;;
-*) echo "usage: $0 construir|probar" >&2; exit 2 ;;
+revisar) paquetes=("${construir[@]}" "${revisar[@]}") ;;
+*) echo "usage: $0 construir|probar|revisar" >&2; exit 2 ;;
 esac
 faltan=()
 for p in "${paquetes[@]}"; do

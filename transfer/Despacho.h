@@ -16,11 +16,6 @@ QList<Operacion_Ofrecida> Operaciones_Ofrecidas(const QString& tipo_ope);
 /// save for an upload to a KRT800, which says so.
 void Lanzar_Operacion(const QString& maquina, int operacion, const QString& tipo_ope);
 
-/// File filter of an operation, from its `Conv` keys: "descripción|patrón" pairs joined by "|".
-/// An operation without a row ends the program after its message: the database doesn't match it.
-/// @return null in that case, for the caller to stop at; empty when `Conv` is
-QString Filtro_Extensiones(const QString& maquina, int operacion, const QString& tipo_ope);
-
 /// What the reminder shows: the sentence and its four lines of settings.
 struct Texto_Recordatorio {
     QString frase;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <functional>
+#include <QString>
 
 class Descarga;
 
@@ -17,10 +17,10 @@ struct Peticiones_Transfer {
     /// Shows the step help of an operation modally; `Paso_Ayuda` has been set.
     std::function<void(const QString& tipo_ope, const QString& ope)> Mostrar_Pasos =
         [](const QString&, const QString&) {};
-    /// The conversation of the download dialog. With `cargar` the dialog is loaded (and not shown) if
-    /// it isn't yet; without, the answer is null when it isn't loaded.
-    std::function<Descarga*(bool cargar)> Dialogo_Descarga = [](bool) -> Descarga* { return nullptr; };
-    /// Shows the download dialog without blocking, or brings it up.
+    /// The conversation of the download dialog, which is loaded (and not shown) if it isn't yet;
+    /// null without such a dialog.
+    std::function<Descarga*()> Dialogo_Descarga = []() -> Descarga* { return nullptr; };
+    /// Shows the download dialog without blocking.
     std::function<void()> Mostrar_Descarga = [] {};
 };
 Peticiones_Transfer& Peticiones_De_Transfer();

@@ -2,13 +2,14 @@
 #include "app/cli/Ordenes_Brutos.h"
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
-#include "rawfiles/Destino.h"
+#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Importar_De_Disco.h"
 #include "rawfiles/ModFBruto.h"
 #include "rawfiles/Peticiones_Rawfiles.h"
 #include "rawfiles/Reconocer_Bruto.h"
 #include "rawfiles/Salidas_Brutas.h"
 #include "session/Peticiones_Sesion.h"
+#include "session/Separadores.h"
 
 #include <QFileInfo>
 #include <QSet>
@@ -23,13 +24,21 @@ const QStringList DATOS_IGN = {"serie", "mira1", "mira2", "operador", "empresa"}
 const QString MARCA_ID = "{id}";
 const QString MARCA_NOMBRE = "{nombre}";
 
-QString Leer_Separador(const QString& palabra)
+QString Palabras_Separador()
 {
-    const QList<std::pair<QString, QString>> separadores = {
-        {"espacio", " "}, {"coma", ","}, {"tabulacion", "\t"}};
-    for (const auto& [nombre, caracter] : separadores)
-        if (nombre == palabra) return caracter;
-    throw Error_Uso{"El separador es espacio, coma o tabulacion: " + palabra};
+    QStringList palabras;
+    for (const Fila_Separador& fila : Separadores())
+        palabras << fila.palabra;
+    return palabras.join("|");
+}
+
+QString Leer_Separador(const Argumentos& a)
+{
+    const QString palabra = a.Opcion("separador", Separadores().front().palabra);
+    const int indice = Indice_Separador(palabra);
+    if (indice < 0)
+        throw Error_Uso{"El separador es " + Palabras_Separador() + ": " + palabra};
+    return Separadores()[std::size_t(indice)].caracter;
 }
 
 struct Pedido {
@@ -52,7 +61,7 @@ Pedido Leer_Pedido(const QStringList& palabras)
     p.patron = a.Obligada("patron");
     p.fichero = a.Obligada("salida");
     if (p.fichero.isEmpty()) throw Error_Uso{"Falta el nombre del fichero de salida"};
-    p.separador = Leer_Separador(a.Opcion("separador", "espacio"));
+    p.separador = Leer_Separador(a);
     for (const QString& dato : DATOS_IGN)
         p.datos_ign << a.Opcion(dato);
     return p;
@@ -163,7 +172,7 @@ bool Exportar_Cada_Una(const Contexto& c, const Pedido& p, const QList<Sesion_El
 // One file for all of them, which appears when the last one went well.
 bool Exportar_Juntas(const Pedido& p, const QList<Sesion_Elegida>& sesiones)
 {
-    Destino::Comprobar(p.fichero);
+    Fichero_Destino::Comprobar(p.fichero);
     const QTemporaryDir carpeta;
     QByteArray todo;
     for (const Sesion_Elegida& s : sesiones) {
@@ -199,6 +208,13 @@ bool Importar(const Contexto& c, const QString& fichero, const QString& nombre, 
 }
 
 } // namespace
+
+QString Uso_Exportar_Bruto()
+{
+    return "exportar-bruto ID...|--todas --patron \"*.hd6\" --salida FICHERO [--separador " +
+           Palabras_Separador() +
+           "] [--serie S --mira1 T --mira2 T --operador T --empresa T] [--generales]";
+}
 
 int Orden_Exportar_Bruto(const Contexto& c, const QStringList& palabras)
 {

@@ -1,79 +1,36 @@
 #include "app/cli/Ordenes_Conversion.h"
-#include "conversions/Conversion.h"
-#include "conversions/Lectores_LandXML.h"
+#include "conversions/biblioteca/Caminos.h"
+#include "conversions/biblioteca/Conversion.h"
 
 #include <QFileInfo>
 
 namespace {
-
-constexpr const char* ALINEACION = "alineacion";
-constexpr const char* RASANTE = "rasante";
-constexpr const char* TRANSVERSAL = "transversal";
-constexpr const char* PUNTOS = "puntos";
-
-/// Which function turns the files of one extension into those of another. The first row that fits
-/// is taken, so that an extension of two meanings is an alignment unless --clase tells otherwise.
-struct Camino {
-    const char* clase;
-    const char* entradas; ///< extensions, parted by blanks; empty: any
-    const char* salidas;
-    const char* funcion;
-};
-constexpr Camino CAMINOS[] = {
-    {ALINEACION, "plt", "ssh hal", "aclipplt2krt"},
-    {ALINEACION, "eje", "ssh hal", "aqtr2krt"},
-    {ALINEACION, "asc", "ssh hal", "aistram2krt"},
-    {ALINEACION, "res", "ssh hal", "aistramList2krt"},
-    {ALINEACION, "htr", "ssh hal", "ahtrazado2krt"},
-    {ALINEACION, "txt", "ssh hal", "amxroad2krt"},
-    {ALINEACION, "ali", "ssh hal", "aispol2krt"},
-    {ALINEACION, "xml", "ssh hal", "alandxml2krt"},
-    {ALINEACION, "eje", "xml", "aQSV2LandXML"},
-    {ALINEACION, "plt", "xml", "aclipplt2LandXML"},
-    {ALINEACION, "asc", "xml", "aistram2LandXML"},
-    {ALINEACION, "txt", "xml", "aistramList2LandXML"},
-    {ALINEACION, "res ali htr", "xml", "aispol2LandXML"},
-    {RASANTE, "alz txt", "ssv", "ristram2krt"},
-    {RASANTE, "ras", "ssv", "rqsv2krt"},
-    {RASANTE, "xml", "ssv", "rlandxml2krt"},
-    {RASANTE, "ras", "xml", "rqsv2landxml"},
-    {RASANTE, "alz txt", "xml", "ristram2landxml"},
-    {TRANSVERSAL, "trv ter plt", "ssp", "cliptrv2krt"},
-    {TRANSVERSAL, "tra", "ssp", "qtr2krt"},
-    {TRANSVERSAL, "rep", "ssp", "clip2krt"},
-    {TRANSVERSAL, "per trm", "ssp", "istram2krt"},
-    {TRANSVERSAL, "asc", "ssp", "htrazado2krt"},
-    {TRANSVERSAL, "mxr", "ssp", "mxroad2krt"},
-    {TRANSVERSAL, "xml", "ssp", "tralandxml2krt"},
-    {TRANSVERSAL, "plt trv ter", "xml", "traclip2landxml"},
-    {TRANSVERSAL, "rep", "xml", "tracliptrv2landxml"},
-    {TRANSVERSAL, "tra", "xml", "traqsv2landxml"},
-    {TRANSVERSAL, "trm", "xml", "traistram2landxml"},
-    {TRANSVERSAL, "per asc", "xml", "trahtrazado2lamdxml"},
-    {PUNTOS, "", "krt", "puntos2krt"},
-    {PUNTOS, "", "x", "puntos2nivel"},
-    {PUNTOS, "", "tpc", "lectkrt2bronex"},
-};
 
 QString Extension(const QString& ruta)
 {
     return QFileInfo(ruta).suffix().toLower();
 }
 
-bool Esta(const QString& extension, const char* lista)
+/// @return the row of that word, or null
+const Fila_Clase* Clase_Llamada(const QString& palabra)
 {
-    return QString::fromLatin1(lista).split(u' ').contains(extension);
+    for (const Fila_Clase& c : Clases_De_Conversion())
+        if (palabra == QLatin1String(c.palabra)) return &c;
+    return nullptr;
 }
 
-const Camino& Elegir_Camino(const QString& entrada, const QString& salida, const QString& clase)
+/// The first row that fits: an extension of two meanings is an alignment unless --clase tells
+/// otherwise.
+const Camino& Elegir_Camino(const QString& entrada, const QString& salida, const Fila_Clase* clase)
 {
     const QString de = Extension(entrada), a = Extension(salida);
-    for (const Camino& c : CAMINOS)
-        if ((clase.isEmpty() || clase == QLatin1String(c.clase)) &&
-            (!*c.entradas || Esta(de, c.entradas)) && Esta(a, c.salidas))
+    for (const Camino& c : Caminos())
+        if ((c.lugares & EN_CONSOLA) && (!clase || c.clase == clase->clase) &&
+            (!*c.extension || de == QStringView(c.extension)) && Escribe(c, a))
             return c;
-    throw Error_Uso{QStringLiteral("No hay conversión de \".%1\" a \".%2\"").arg(de, a) +
-                    (clase.isEmpty() ? QString() : " de la clase " + clase)};
+    throw Error_Uso{
+        QStringLiteral("No hay conversión de \".%1\" a \".%2\"").arg(de, a) +
+        (clase ? QStringLiteral(" de la clase ") + QLatin1String(clase->palabra) : QString())};
 }
 
 /// Prints the result of a conversion, and what its report tells.
@@ -86,28 +43,9 @@ int Informar(const Contexto& c, int resultado, const Informe_Lectura& informe)
     return resultado != 0 ? HECHO : RECHAZADO;
 }
 
-/// What must be chosen in a LandXML file with more than one choice.
-struct Eleccion {
-    const char* funcion;
-    const char* opcion;
-    QStringList (*listar)(QIODevice&);
-};
-constexpr Eleccion ELECCIONES[] = {
-    {"alandxml2krt", "eje", Listar_Ejes_LandXML},
-    {"rlandxml2krt", "perfil", Listar_Rasantes_LandXML},
-    {"tralandxml2krt", "seccion", Listar_Secciones_LandXML},
-};
-
-const Eleccion* Eleccion_De(const char* funcion)
-{
-    for (const Eleccion& e : ELECCIONES)
-        if (QLatin1String(funcion) == QLatin1String(e.funcion)) return &e;
-    return nullptr;
-}
-
 /// The only choice of the file when none is named. A file of several is refused: the wrong road
 /// would look as good as the right one.
-std::optional<QString> Unica(const Contexto& c, const Eleccion& e, const QString& entrada)
+std::optional<QString> Unica(const Contexto& c, const Parte_LandXML& e, const QString& entrada)
 {
     QStringList elecciones;
     try {
@@ -121,22 +59,23 @@ std::optional<QString> Unica(const Contexto& c, const Eleccion& e, const QString
         return {};
     }
     if (elecciones.size() == 1)
-        return e.listar == Listar_Ejes_LandXML ? QStringLiteral("0") : elecciones[0];
+        return e.forma == Parte_LandXML::Forma::Indice ? QStringLiteral("0") : elecciones[0];
     c.Mensaje(elecciones.isEmpty()
                   ? QStringLiteral("El fichero no tiene nada de esa clase")
                   : QStringLiteral("Elija con --%1:").arg(QLatin1String(e.opcion)));
     for (qsizetype i = 0; i < elecciones.size(); ++i)
-        c.Mensaje(e.listar == Listar_Ejes_LandXML
+        c.Mensaje(e.forma == Parte_LandXML::Forma::Indice
                       ? QStringLiteral("%1\t%2").arg(i).arg(elecciones[i])
                       : elecciones[i]);
     return {};
 }
 
 /// The arguments that come before source and target.
-QStringList Partes(const Eleccion& e, const QString& eleccion)
+QStringList Partes(const Parte_LandXML& e, const QString& eleccion)
 {
-    if (e.listar == Listar_Ejes_LandXML) return {QString::number(Numero_De(eleccion, "--eje"))};
-    if (e.listar != Listar_Secciones_LandXML) return {eleccion};
+    if (e.forma == Parte_LandXML::Forma::Indice)
+        return {QString::number(Numero_De(eleccion, "--eje"))};
+    if (e.forma != Parte_LandXML::Forma::Dos_Nombres) return {eleccion};
     const qsizetype dos_puntos = eleccion.indexOf(u':');
     if (dos_puntos < 0) throw Error_Uso{"El valor de --seccion no es \"alineación:superficie\""};
     return {eleccion.left(dos_puntos), eleccion.mid(dos_puntos + 1)};
@@ -165,20 +104,20 @@ int Orden_Convertir(const Contexto& c, const QStringList& palabras)
 {
     const Argumentos a(palabras, {"eje", "perfil", "seccion", "clase"});
     const QStringList ficheros = a.Sueltos(2, 2);
-    const QString clase = a.Opcion("clase");
-    if (a.Hay("clase") && !QStringList{ALINEACION, RASANTE, TRANSVERSAL, PUNTOS}.contains(clase))
-        throw Error_Uso{"Clase desconocida: " + clase};
+    const Fila_Clase* const clase = Clase_Llamada(a.Opcion("clase"));
+    if (a.Hay("clase") && !clase) throw Error_Uso{"Clase desconocida: " + a.Opcion("clase")};
     const Camino& camino = Elegir_Camino(ficheros[0], ficheros[1], clase);
-    const Eleccion* eleccion = Eleccion_De(camino.funcion);
-    for (const Eleccion& e : ELECCIONES)
-        if (a.Hay(e.opcion) && &e != eleccion)
-            throw Error_Uso{QStringLiteral("--%1 no vale en esta conversión").arg(e.opcion)};
+    const Parte_LandXML* const parte = camino.parte;
+    for (const Camino& otro : Caminos())
+        if (otro.parte && otro.parte != parte && a.Hay(otro.parte->opcion))
+            throw Error_Uso{
+                QStringLiteral("--%1 no vale en esta conversión").arg(otro.parte->opcion)};
     QStringList argumentos;
-    if (eleccion) {
-        const auto cual = a.Hay(eleccion->opcion) ? std::optional(a.Opcion(eleccion->opcion))
-                                                  : Unica(c, *eleccion, ficheros[0]);
+    if (parte) {
+        const auto cual = a.Hay(parte->opcion) ? std::optional(a.Opcion(parte->opcion))
+                                               : Unica(c, *parte, ficheros[0]);
         if (!cual) return RECHAZADO;
-        argumentos = Partes(*eleccion, *cual);
+        argumentos = Partes(*parte, *cual);
     }
     argumentos << ficheros[0] << ficheros[1];
     c.Linea(QStringLiteral("MyDll_") + QLatin1String(camino.funcion));

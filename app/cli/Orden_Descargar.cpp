@@ -1,11 +1,44 @@
 #include "app/cli/Instalacion.h"
 #include "app/cli/Ordenes_Transfer.h"
 #include "core/ModEstTotal.h"
-#include "transfer/Descarga.h"
-#include "transfer/Puerto_Qt.h"
-#include "transfer/Rescate.h"
+#include "transfer/Despacho.h"
+#include "transfer/enlace/Descarga.h"
+#include "transfer/enlace/Puerto_Qt.h"
+#include "transfer/enlace/Rescate.h"
+#include "transfer/Peticiones_Transfer.h"
 
 #include <QEventLoop>
+#include <QScopeGuard>
+
+namespace {
+
+void Poner_Velocidad(const Argumentos& a, const QString& modelo)
+{
+    const QStringList velocidades = Vel_Puerto.split(u',');
+    if (a.Hay("velocidad"))
+        Velocidad = a.Opcion("velocidad");
+    else if (!velocidades.contains(Velocidad))
+        Velocidad = velocidades.first();
+    if (!velocidades.contains(Velocidad))
+        throw Error_Uso{"El modelo " + modelo + " admite las velocidades " + Vel_Puerto};
+}
+
+// The road of the windows as far as the download dialog: what they ask for, the order has said.
+// @return false when the routing stopped before the dialog, after its message
+bool Llegar_Al_Dialogo(Descarga& descarga, int ope, const QString& nombre)
+{
+    bool mostrado = false;
+    Peticiones_Transfer de_consola;
+    de_consola.Pedir_Nombre_Sesion = [&nombre] { return nombre; };
+    de_consola.Dialogo_Descarga = [&descarga] { return &descarga; };
+    de_consola.Mostrar_Descarga = [&mostrado] { mostrado = true; };
+    const auto antes = std::exchange(Peticiones_De_Transfer(), de_consola);
+    const auto devolver = qScopeGuard([&antes] { Peticiones_De_Transfer() = antes; });
+    Lanzar_Operacion(Clave_Estacion, ope, "D");
+    return mostrado;
+}
+
+} // namespace
 
 int Orden_Descargar(const Contexto& c, const QStringList& palabras)
 {
@@ -19,22 +52,12 @@ int Orden_Descargar(const Contexto& c, const QStringList& palabras)
     const Instalacion instalacion(c);
     instalacion.Elegir_Modelo(modelo);
     instalacion.Comprobar_Operacion(ope, "D");
-    if (ope == 2 && (Clave_Estacion == u"KRT300" || Clave_Estacion == u"PX7")) {
-        c.Mensaje("La descarga de librerías de códigos todavía no está disponible en esta versión");
-        return RECHAZADO;
-    }
-    const QStringList velocidades = Vel_Puerto.split(u',');
-    if (a.Hay("velocidad")) Velocidad = a.Opcion("velocidad");
-    else if (!velocidades.contains(Velocidad)) Velocidad = velocidades.first();
-    if (!velocidades.contains(Velocidad))
-        throw Error_Uso{"El modelo " + modelo + " admite las velocidades " + Vel_Puerto};
+    Poner_Velocidad(a, modelo);
 
     auto puerto = std::make_unique<Puerto_Qt>(dispositivo);
     Puerto_Qt* const el_puerto = puerto.get();
     Descarga descarga(std::move(puerto));
-    if (!descarga.Abrir_Puerto()) return RECHAZADO;
-    // Only the routing knows 11 from 1.
-    descarga.Preparar(ope == 11 ? 1 : ope, nombre);
+    if (!Llegar_Al_Dialogo(descarga, ope, nombre)) return RECHAZADO;
     QEventLoop espera;
     QObject::connect(&descarga, &Descarga::terminada, &espera, &QEventLoop::quit,
                      Qt::QueuedConnection);
@@ -45,11 +68,13 @@ int Orden_Descargar(const Contexto& c, const QStringList& palabras)
                      Qt::QueuedConnection);
     descarga.BtnIniciar();
     espera.exec();
-    for (const QString& sesion : descarga.Resultado().sesiones) c.Linea(sesion);
+    for (const QString& sesion : descarga.Resultado().sesiones)
+        c.Linea(sesion);
     if (descarga.Resultado().completa && !descarga.Resultado().sesiones.isEmpty()) return HECHO;
     descarga.Abandonar();
     if (!Rescates().isEmpty())
-        c.Mensaje("Los datos no se han guardado enteros; lo recibido se conserva (véase miraldos-cli "
-                  "rescates)");
+        c.Mensaje(
+            "Los datos no se han guardado enteros; lo recibido se conserva (véase miraldos-cli "
+            "rescates)");
     return RECHAZADO;
 }

@@ -1,16 +1,48 @@
 #include "app/cli/Instalacion.h"
+#include "app/cli/Ordenes_Export.h"
 #include "app/cli/Ordenes_Sesion.h"
 #include "core/ModEstTotal.h"
 #include "export/Dialogo_Exportar.h"
 #include "formats/Formato_Existente.h"
 #include "session/Desplazamiento.h"
 #include "session/Peticiones_Sesion.h"
+#include "session/Separadores.h"
 
 namespace {
 
+QStringList Palabras_Tipo()
+{
+    QStringList palabras;
+    for (const Salida_Exportar* salida : Salidas_Por_Palabra()) palabras << salida->palabra;
+    return palabras;
+}
+
+QStringList Palabras_Separador()
+{
+    QStringList palabras;
+    for (const Fila_Separador& fila : Separadores()) palabras << fila.palabra;
+    return palabras;
+}
+
+// "a, b o c"
+QString Enumerar(QStringList palabras)
+{
+    const QString ultima = palabras.takeLast();
+    return palabras.isEmpty() ? ultima : palabras.join(", ") + " o " + ultima;
+}
+
+const Salida_Exportar& Salida_De_Palabra(const QString& palabra)
+{
+    for (const Salida_Exportar* salida : Salidas_Por_Palabra())
+        if (salida->palabra.compare(palabra, Qt::CaseInsensitive) == 0) return *salida;
+    throw Error_Uso{"El tipo es " + Enumerar(Palabras_Tipo()) + ": " + palabra};
+}
+
 struct Pedido {
     int id;
-    QString formato, tipo, fichero, separador;
+    QString formato, fichero;
+    const Salida_Exportar* salida;
+    int separador;
     bool titulos;
     std::optional<QStringList> desplazamiento;  // X, Y, Z as typed
 };
@@ -22,13 +54,14 @@ Pedido Leer_Pedido(const QStringList& palabras)
     Pedido p;
     p.id = Numero_De(a.Sueltos(1, 1).first(), "ID");
     p.formato = a.Obligada("formato");
-    p.tipo = a.Obligada("tipo");
+    const QString tipo = a.Obligada("tipo");
     p.fichero = a.Obligada("salida");
-    p.separador = a.Opcion("separador", "espacio");
     p.titulos = a.Hay("titulos");
-    if (p.tipo != u"txf" && p.tipo != u"txt") throw Error_Uso{"El tipo es txf o txt: " + p.tipo};
-    if (!QStringList{"espacio", "coma", "tabulacion"}.contains(p.separador))
-        throw Error_Uso{"El separador es espacio, coma o tabulacion: " + p.separador};
+    p.salida = &Salida_De_Palabra(tipo);
+    const QString separador = a.Opcion("separador", Separadores().front().palabra);
+    p.separador = Indice_Separador(separador);
+    if (p.separador < 0)
+        throw Error_Uso{"El separador es " + Enumerar(Palabras_Separador()) + ": " + separador};
     if (p.fichero.isEmpty()) throw Error_Uso{"Falta el nombre del fichero de salida"};
     if (a.Hay("desplazamiento")) {
         p.desplazamiento = a.Opcion("desplazamiento").split(u',');
@@ -57,10 +90,9 @@ public:
         };
         Peticiones_De_Formatos().Abrir_Exportar = [&](const Trabajo_Exportar& trabajo) {
             Dialogo_Exportar dialogo(trabajo);
-            dialogo.Elegir_Opcion(pedido.tipo == u"txf" ? Dialogo_Exportar::FORMATEADO
-                                                        : Dialogo_Exportar::TEXTO);
-            dialogo.caracter = pedido.separador == u"espacio" ? 0 : pedido.separador == u"coma" ? 1 : 2;
-            if (!dialogo.activa[std::size_t(dialogo.opcion)]) {
+            dialogo.Elegir_Opcion(pedido.salida->opcion);
+            dialogo.caracter = pedido.separador;
+            if (!dialogo.activa[dialogo.opcion]) {
                 contexto.Mensaje("Esta exportación todavía no está disponible en esta versión");
                 return;
             }
@@ -84,13 +116,21 @@ private:
 
 } // namespace
 
+QString Uso_Exportar()
+{
+    return "exportar ID --formato NOMBRE --tipo " + Palabras_Tipo().join('|') +
+           " --salida FICHERO [--separador " + Palabras_Separador().join('|') +
+           "] [--titulos] [--desplazamiento X,Y,Z]";
+}
+
 int Orden_Exportar(const Contexto& c, const QStringList& palabras)
 {
     const Pedido pedido = Leer_Pedido(palabras);
     const Instalacion instalacion(c);
     const Sesion_Elegida sesion = instalacion.Elegir_Sesion(pedido.id);
     if (!Comprobar_Hay_Registros(*Base_Datos, sesion.id)) return RECHAZADO;
-    if (sesion.maquina == u"NV400") {
+    const Serie serie = Familia_De(sesion.maquina).serie;
+    if (serie == Serie::Nivel && !pedido.salida->escribir_nivel) {
         c.Mensaje("La exportación del nivel todavía no está disponible en esta versión");
         return RECHAZADO;
     }

@@ -1,8 +1,8 @@
 #include "app/cli/Instalacion.h"
 #include "app/cli/Ordenes_Transfer.h"
-#include "transfer/Rescate.h"
-
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
+#include "transfer/enlace/Rescate.h"
 
 #include <QFileInfo>
 
@@ -33,9 +33,12 @@ int Orden_Rescatar(const Contexto& c, const QStringList& palabras)
     // A bare name is one of the list's; a path is taken as it stands.
     const QString del_log = En_Instalacion("LOG/" + palabra);
     const QString fichero =
-        !palabra.contains(u'/') && !QFile::exists(palabra) && QFile::exists(del_log) ? del_log : palabra;
+        !palabra.contains(u'/') && !QFile::exists(palabra) && QFile::exists(del_log) ? del_log
+                                                                                     : palabra;
     const Resultado_Recepcion r =
-        Rescatar(fichero, {QString(), nombre, ope == 11 ? 1 : ope, 0, Clave_Estacion, Nombre_Estacion});
-    for (const QString& sesion : r.sesiones) c.Linea(sesion);
+        Rescatar(fichero, {QString(), nombre, Operacion_En_El_Enlace(Familia_Actual(), ope), 0,
+                           Clave_Estacion, Nombre_Estacion});
+    for (const QString& sesion : r.sesiones)
+        c.Linea(sesion);
     return r.completa ? HECHO : RECHAZADO;
 }

@@ -4,19 +4,17 @@
 #include "core/Ficheros.h"
 #include "export/Conversion_Tabla.h"
 #include "export/excel/Fichero_Excel.h"
+#include "session/Separadores.h"
 
 #include <QFileInfo>
 
 namespace {
 
-constexpr std::pair<const char16_t*, char16_t> SEPARADORES[] = {
-    {u"tabulacion", u'\t'}, {u"coma", u','}, {u"espacio", u' '}};
-
 QChar Separador_De(const QString& nombre)
 {
-    for (const auto& [n, c] : SEPARADORES)
-        if (nombre == QStringView(n)) return c;
-    throw Error_Uso{"Separador desconocido: " + nombre};
+    const int indice = Indice_Separador(nombre);
+    if (indice < 0) throw Error_Uso{"Separador desconocido: " + nombre};
+    return Separadores()[std::size_t(indice)].caracter;
 }
 
 Version_Excel Version_De(const QString& nombre)
@@ -33,9 +31,9 @@ void Rechazar_Opciones(const Argumentos& a, const QStringList& opciones, const Q
         if (a.Hay(opcion)) throw Error_Uso{"La opción --" + opcion + " no vale para " + para};
 }
 
-Tabla_Texto Leer_Entrada(const QString& entrada, QChar separador)
+Tabla_Separada Leer_Entrada(const QString& entrada, QChar separador)
 {
-    return Leer_Tabla_Texto(Ficheros::Leer(entrada), separador);
+    return Leer_Tabla_Separada(Ficheros::Leer(entrada), separador);
 }
 
 } // namespace
@@ -58,7 +56,7 @@ int Orden_Tabla(const Contexto&, const QStringList& palabras)
     if (a_libro) {
         Rechazar_Opciones(a, {"tabla"}, "un libro");
         const Version_Excel version = Version_De(a.Opcion("version", "Excel 8.0"));
-        const Tabla_Texto tabla = Leer_Entrada(entrada, separador);
+        const Tabla_Separada tabla = Leer_Entrada(entrada, separador);
         Guardar_Libro(Libro_De_Tabla(tabla, a.Hay("numeros")), salida, version);
         return HECHO;
     }

@@ -31,15 +31,8 @@ const QList<Orden>& Ordenes()
          "formato-nuevo --maquina CLAVE --ope N --nombre NOMBRE --campos \"A,B,C\" [--titulos]",
          Orden_Formato_Nuevo},
         {"formato-borrar", "formato-borrar --maquina CLAVE --nombre NOMBRE", Orden_Formato_Borrar},
-        {"exportar",
-         "exportar ID --formato NOMBRE --tipo txf|txt --salida FICHERO "
-         "[--separador espacio|coma|tabulacion] [--titulos] [--desplazamiento X,Y,Z]",
-         Orden_Exportar},
-        {"exportar-bruto",
-         "exportar-bruto ID...|--todas --patron \"*.hd6\" --salida FICHERO "
-         "[--separador espacio|coma|tabulacion] [--serie S --mira1 T --mira2 T --operador T "
-         "--empresa T] [--generales]",
-         Orden_Exportar_Bruto},
+        {"exportar", Uso_Exportar(), Orden_Exportar},
+        {"exportar-bruto", Uso_Exportar_Bruto(), Orden_Exportar_Bruto},
         {"importar-bruto",
          "importar-bruto FICHERO... --modelo NOMBRE --ope N --nombre NOMBRE "
          "[--formato maquina|lineas]",

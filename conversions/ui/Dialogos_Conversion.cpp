@@ -1,6 +1,6 @@
 #include "conversions/ui/Dialogos_Conversion.h"
 
-#include "conversions/Peticiones_Conversion.h"
+#include "conversions/biblioteca/Peticiones_Conversion.h"
 #include "conversions/ui/EjeLandxml.h"
 #include "conversions/ui/frmConvEst.h"
 #include "core/ui/Dialogos.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Answers the requests of conversions/Peticiones_Conversion.h with the program's dialogs.
+/// Answers the requests of conversions/biblioteca/Peticiones_Conversion.h with the program's dialogs.
 void Conectar_Dialogos_Conversion();
 
 /// Shows `frmConvEst` for conversions to the instrument's form (0) or to LandXML (1).

@@ -1,6 +1,6 @@
 #include "conversions/ui/EjeLandxml.h"
 
-#include "conversions/Flujo_Conversion.h"
+#include "conversions/biblioteca/Flujo_Conversion.h"
 #include "core/ui/Piezas.h"
 
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
 #include "conversions/ui/frmConvEst.h"
 
-#include "conversions/Flujo_Conversion.h"
+#include "conversions/biblioteca/Flujo_Conversion.h"
+#include "conversions/biblioteca/Flujo_Diseno.h"
 #include "core/ui/Piezas.h"
-#include "transfer/Subida_Diseno.h"
 
 #include <QButtonGroup>
 #include <QGroupBox>

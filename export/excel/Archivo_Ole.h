@@ -1,6 +1,6 @@
 #pragma once
 
-#include "export/Campos_Binarios.h"
+#include "export/excel/Campos_Binarios.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "export/Campos_Binarios.h"
+#include "export/excel/Campos_Binarios.h"
 
 /// Layouts and constants of the compound file, with the names of its public description.
 namespace Ole {

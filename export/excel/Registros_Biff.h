@@ -1,6 +1,6 @@
 #pragma once
 
-#include "export/Campos_Binarios.h"
+#include "export/excel/Campos_Binarios.h"
 
 /// The records of a workbook stream: numbers and layouts, with the names of the form's public
 /// documents. A record is a head (number, length of the body) and a body; a body longer than its

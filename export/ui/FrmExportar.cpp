@@ -23,8 +23,6 @@
 
 namespace {
 
-constexpr const char* OPCIONES_TEXTO[] = {"Texto Formateado", "Texto", "Ms-Excel", "DXF (Autocad)",
-                                          "Ms-Access"};
 // The bar counts in thousandths and moves a few times a second: rows come by the ten thousand.
 constexpr int TOPE_BARRA = 1000;
 constexpr qint64 MS_PASADA = 40;
@@ -90,11 +88,12 @@ QGroupBox* FrmExportar::Hacer_Opciones()
     QGroupBox* const grupo = Piezas::Grupo("Tipo de Fichero", "Frame1");
     auto* const opciones = new QVBoxLayout;
     auto* const juego = new QButtonGroup(this);
-    for (int i = 0; i < Dialogo_Exportar::OPCIONES; ++i) {
-        auto* const opcion = new QRadioButton(OPCIONES_TEXTO[i]);
+    for (const Salida_Exportar& salida : Salidas_Exportar()) {
+        if (salida.opcion < 0) continue;
+        auto* const opcion = new QRadioButton(salida.rotulo);
         opcion->setObjectName(QStringLiteral("OptFor"));
-        opcion->setProperty("Index", i);
-        juego->addButton(opcion, i);
+        opcion->setProperty("Index", salida.opcion);
+        juego->addButton(opcion, salida.opcion);
         opciones->addWidget(opcion);
         OptFor << opcion;
     }
@@ -153,11 +152,10 @@ void FrmExportar::Mostrar_Con(const Trabajo_Exportar& trabajo)
 void FrmExportar::Mostrar_Modelo()
 {
     for (int i = 0; i < OptFor.size(); ++i) {
-        OptFor[i]->setEnabled(modelo->activa[std::size_t(i)]);
+        OptFor[i]->setEnabled(modelo->activa[i]);
         OptFor[i]->setChecked(i == modelo->opcion);
+        OptFor[i]->setVisible(modelo->activa[i] || !Salida_De_Opcion(i)->oculta_sin_escritor);
     }
-    // The program's own dialog offers four kinds; the database is there where it can be written.
-    OptFor[Dialogo_Exportar::ACCESS]->setVisible(modelo->activa[Dialogo_Exportar::ACCESS]);
     Llenar(*Caracter, modelo->caracteres, modelo->caracter);
     Caracter->setProperty("Tag", modelo->tag_caracteres);
     Llenar(*VersionExcel, modelo->versiones, modelo->version);

@@ -1,6 +1,6 @@
 #include "rawfiles/estaciones/Angulos.h"
 
-#include "rawfiles/estaciones/Cifras.h"
+#include "rawfiles/estaciones/Redondeo.h"
 #include "rawfiles/estaciones/Disposicion.h"
 
 namespace {
@@ -18,9 +18,9 @@ public:
             celdas[PRISMA] = r.Dato(2);
             celdas[CODIGO] = r.Dato(3);
         } else if (r.clave == u"SD") {
-            celdas[HORIZONTAL] = Cifras::Redondear(r.Dato(1), 4);
-            celdas[VERTICAL] = Cifras::Redondear(r.Dato(2), 4);
-            celdas[DISTANCIA] = Cifras::Redondear(r.Dato(3), 3);
+            celdas[HORIZONTAL] = Redondeo::Redondear(r.Dato(1), 4);
+            celdas[VERTICAL] = Redondeo::Redondear(r.Dato(2), 4);
+            celdas[DISTANCIA] = Redondeo::Redondear(r.Dato(3), 3);
             return true;
         }
         return false;

@@ -1,6 +1,6 @@
 #include "rawfiles/estaciones/Bronex.h"
 
-#include "rawfiles/estaciones/Cifras.h"
+#include "rawfiles/estaciones/Redondeo.h"
 
 namespace {
 
@@ -17,9 +17,9 @@ bool Lector_Bronex::Tomar(const Registro_Serie_B& r)
         celdas[PUNTO] = r.Dato(1);
         celdas[PRISMA] = r.Dato(2);
     } else if (r.clave == u"SD") {
-        celdas[HORIZONTAL] = Cifras::Redondear(r.Dato(1), 4);
-        celdas[VERTICAL] = Cifras::Redondear(r.Dato(2), 4);
-        celdas[DISTANCIA] = Cifras::Redondear(r.Dato(3), 3);
+        celdas[HORIZONTAL] = Redondeo::Redondear(r.Dato(1), 4);
+        celdas[VERTICAL] = Redondeo::Redondear(r.Dato(2), 4);
+        celdas[DISTANCIA] = Redondeo::Redondear(r.Dato(3), 3);
         return true;
     }
     return false;

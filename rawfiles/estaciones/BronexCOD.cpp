@@ -1,9 +1,9 @@
 #include "rawfiles/estaciones/BronexCOD.h"
 
-#include "conversions/Flujo_Conversion.h"
-#include "conversions/Tabla_Funciones.h"
+#include "conversions/biblioteca/Flujo_Conversion.h"
+#include "conversions/biblioteca/Tabla_Funciones.h"
 #include "core/ModEstTotal.h"
-#include "rawfiles/Destino.h"
+#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/estaciones/Bronex.h"
 
 #include <QFile>
@@ -39,7 +39,7 @@ void Escribir_Temporal(const QString& temporal, const QStringList& lineas)
 {
     // What an earlier run left is no session of today.
     QFile::remove(temporal);
-    Destino destino(temporal);
+    Fichero_Destino destino(temporal);
     for (const QString& linea : lineas)
         destino.Linea(linea);
     destino.Terminar();
@@ -53,7 +53,7 @@ bool Exportar_BronexCOD(qint64 id, const QString& ruta)
     const QString separador = Pedir_Separador_Disposicion();
     if (separador.isEmpty()) return false;
     try {
-        Destino::Comprobar(ruta);
+        Fichero_Destino::Comprobar(ruta);
         const QString temporal = En_Instalacion(QStringLiteral("miraldos.$$$"));
         const auto retirar = qScopeGuard([&] { QFile::remove(temporal); });
         Informe_Lectura informe;

@@ -3,8 +3,8 @@
 #include "core/Decimal.h"
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
-#include "rawfiles/Destino.h"
-#include "rawfiles/estaciones/Cifras.h"
+#include "rawfiles/Fichero_Destino.h"
+#include "rawfiles/estaciones/Redondeo.h"
 #include "rawfiles/estaciones/Registro_Serie_B.h"
 
 #include <vector>
@@ -45,7 +45,7 @@ QString Azimut(const Par& atras)
         Decimal::Prefijo(atras.Dato(2)) - Decimal::Prefijo(atras.Dato(3));
     const Decimal azimut =
         diferencia.Negativo() ? diferencia + Decimal::De_Miles(VUELTA * 1000) : diferencia;
-    return Cifras::Redondear(azimut.Texto(), 4);
+    return Redondeo::Redondear(azimut.Texto(), 4);
 }
 
 QString Linea_Estacion(const Par& s, const Par& b)
@@ -68,7 +68,7 @@ QString Linea_Coordenadas(const Par& s, const Par& x)
 
 // Writes what stands at pair i, which moves on over a pair that was taken with it.
 // @return what ends the run; empty when it goes on
-QString Escribir_Par(const std::vector<Par>& pares, std::size_t& i, Destino& destino)
+QString Escribir_Par(const std::vector<Par>& pares, std::size_t& i, Fichero_Destino& destino)
 {
     const Par& par = pares[i];
     const Par& siguiente = pares[i + 1];
@@ -91,7 +91,7 @@ QString Escribir_Par(const std::vector<Par>& pares, std::size_t& i, Destino& des
     return {};
 }
 
-void Convertir(const std::vector<Par>& pares, Destino& destino)
+void Convertir(const std::vector<Par>& pares, Fichero_Destino& destino)
 {
     for (std::size_t i = 0; i + 2 < pares.size(); ++i) {
         const QString fin = Escribir_Par(pares, i, destino);
@@ -117,7 +117,7 @@ bool Exportar_Cartomap(const QString& entrada, const QString& ruta)
     QString mensaje = QStringLiteral("Se produjo un error al convertir a Formato CARTOMAP");
     try {
         const std::vector<Par> pares = Leer_Pares(entrada);
-        std::optional<Destino> destino;
+        std::optional<Fichero_Destino> destino;
         try {
             destino.emplace(ruta);
         } catch (...) {

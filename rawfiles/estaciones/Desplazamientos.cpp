@@ -1,7 +1,7 @@
 #include "rawfiles/estaciones/Desplazamientos.h"
 
 #include "rawfiles/estaciones/Angulos.h"
-#include "rawfiles/estaciones/Cifras.h"
+#include "rawfiles/estaciones/Redondeo.h"
 #include "rawfiles/estaciones/Disposicion.h"
 
 #include <cmath>
@@ -42,7 +42,7 @@ private:
     void Tomar_Visado(const Registro_Serie_B& r)
     {
         const QString punto = r.Dato(1);
-        const bool numero = Cifras::Es_Numero(punto);
+        const bool numero = Redondeo::Es_Numero(punto);
         celdas[CLASE] = numero ? QStringLiteral("P") : QStringLiteral("E");
         celdas[NUMERO] = numero ? punto : QString();
         celdas[NOMBRE] = numero ? QString() : punto;
@@ -51,11 +51,11 @@ private:
 
     void Tomar_Observacion(const Registro_Serie_B& r)
     {
-        celdas[HORIZONTAL] = Cifras::Redondear(r.Dato(1), 4);
-        celdas[VERTICAL] = Cifras::Redondear(r.Dato(2), 4);
+        celdas[HORIZONTAL] = Redondeo::Redondear(r.Dato(1), 4);
+        celdas[VERTICAL] = Redondeo::Redondear(r.Dato(2), 4);
         const QString distancia = r.Dato(3);
         // An offset of a distance or an angle that isn't there would be a false 0.
-        if (!Cifras::Es_Numero(distancia) || !Cifras::Es_Numero(celdas[VERTICAL])) {
+        if (!Redondeo::Es_Numero(distancia) || !Redondeo::Es_Numero(celdas[VERTICAL])) {
             celdas[DISTANCIA] = celdas[OFFSET] = QString();
             return;
         }

@@ -2,7 +2,7 @@
 
 #include "core/Ansi.h"
 #include "core/ModEstTotal.h"
-#include "rawfiles/Destino.h"
+#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Lineas_Sesion.h"
 #include "session/Peticiones_Sesion.h"
 #include "session/Tablas.h"
@@ -99,7 +99,7 @@ bool Exportar_Disposicion(const Disposicion& disposicion, qint64 id, const QStri
         {
             const Cursor_De_Espera espera;
             lineas = Disponer(disposicion, id, separador);
-            if (!lineas.lineas.isEmpty()) Destino::Escribir(ruta, Texto_De(lineas.lineas));
+            if (!lineas.lineas.isEmpty()) Fichero_Destino::Escribir(ruta, Texto_De(lineas.lineas));
         }
         if (lineas.lineas.isEmpty()) {
             Decir_Sin_Registros();

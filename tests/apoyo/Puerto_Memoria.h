@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/Error_Ejecucion.h"
-#include "transfer/Puerto_Serie.h"
+#include "transfer/enlace/Puerto_Serie.h"
 
 /// A serial port in memory: the test puts bytes in and looks at what was sent.
 class Puerto_Memoria : public Puerto_Serie {
@@ -23,13 +23,6 @@ public:
         enviado += bytes;
     }
     qint64 Pendientes() const override { return abierto ? recibido.size() : 0; }
-    std::optional<char> Leer() override
-    {
-        if (recibido.isEmpty()) return std::nullopt;
-        const char c = recibido[0];
-        recibido.remove(0, 1);
-        return c;
-    }
 
     /// Bytes come in over the wire and raise their events.
     void Llegan(const QByteArray& bytes)
@@ -47,4 +40,13 @@ public:
     int error_al_abrir = 0;
     qsizetype falla_tras = -1;
     QByteArray enviado, recibido;
+
+protected:
+    std::optional<char> Sacar_Byte() override
+    {
+        if (recibido.isEmpty()) return std::nullopt;
+        const char c = recibido[0];
+        recibido.remove(0, 1);
+        return c;
+    }
 };

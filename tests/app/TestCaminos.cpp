@@ -1,6 +1,6 @@
 #include "core/Ansi.h"
 #include "core/Ficheros.h"
-#include "core/Trozos.h"
+#include "core/Sumas.h"
 #include "core/jet/Base.h"
 #include "tests/apoyo/Prueba.h"
 

@@ -49,6 +49,10 @@ void TestOrdenes::la_ayuda_lista_cada_orden()
     QByteArray salida;
     QCOMPARE(Correr({"--dir", "/x", "ayuda", "--si"}, &salida), int(HECHO));
     for (const Orden& o : Ordenes()) QVERIFY(salida.contains(o.uso.toUtf8()));
+    // The kinds and the separators are those of their tables.
+    QVERIFY(salida.contains("  exportar ID --formato NOMBRE --tipo txf|txt --salida FICHERO "
+                            "[--separador espacio|coma|tabulacion] [--titulos] "
+                            "[--desplazamiento X,Y,Z]\n"));
 }
 
 void TestOrdenes::los_argumentos_se_cortan()

@@ -133,6 +133,9 @@ void TestOrdenesSesion::exportar_escribe_el_texto_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("alineado") << QStringList{"--tipo", "txf"}
                               << QByteArray("P1  -0.500 1234.567 10.250\r\nP20 2.000  1.000          \r\n");
+    QTest::newRow("el tipo, con mayúsculas")
+        << QStringList{"--tipo", "Txt", "--separador", "coma"}
+        << QByteArray("P1 ,-0.500,1234.567,10.250\r\nP20,2.000 ,1.000   \r\n");
     QTest::newRow("titulos, coma")
         << QStringList{"--tipo", "txf", "--titulos", "--separador", "coma"}
         << QByteArray("Punto,Coordenada X,Coordenada Y,Coordenada Z\r\n\r\n"
@@ -178,6 +181,8 @@ void TestOrdenesSesion::exportar_dice_que_falta_data()
                              << "No existe el formato NADA para la sesión; los hay: NXYZ";
     QTest::newRow("sesion") << con("7", "NXYZ", "txf") << int(RECHAZADO) << "No existe la sesión 7";
     QTest::newRow("vacia") << con("2", "NXYZ", "txf") << int(RECHAZADO) << "No hay datos disponibles!!!";
+    QTest::newRow("nivel") << con("3", "NXYZ", "txf") << int(RECHAZADO)
+                           << "La exportación del nivel todavía no está disponible en esta versión";
     QTest::newRow("tipo") << con("1", "NXYZ", "xls") << int(MAL_USO) << "El tipo es txf o txt: xls";
     QTest::newRow("separador") << con("1", "NXYZ", "txf") + QStringList{"--separador", "raya"}
                                << int(MAL_USO) << "El separador es espacio, coma o tabulacion: raya";
@@ -196,6 +201,7 @@ void TestOrdenesSesion::exportar_dice_que_falta()
     QFETCH(QStringList, palabras);
     QFETCH(int, estado);
     QFETCH(QString, dice);
+    Poner_Sesion(*base, 3, "NV400", 0, {{" ", "g,01,A,"}});
     QCOMPARE(Correr(palabras), estado);
     QVERIFY2(QString::fromUtf8(errores).contains(dice), errores.constData());
     QVERIFY(salida.isEmpty());

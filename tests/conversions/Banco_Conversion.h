@@ -1,6 +1,6 @@
 #pragma once
 
-#include "conversions/Tabla_Funciones.h"
+#include "conversions/biblioteca/Tabla_Funciones.h"
 #include "core/Ficheros.h"
 
 #include <functional>

@@ -10,10 +10,6 @@ private Q_SLOTS:
     void sacar_cambiar_insertar_quitar();
     void reemplazar_no_busca_lo_nuevo();
     void rellenos_y_espacios();
-    void suma_xor_data();
-    void suma_xor();
-    void suma_del_nivel_data();
-    void suma_del_nivel();
     void valores_tras_caracter();
     void lista_sql_deja_el_ultimo();
 };
@@ -85,45 +81,6 @@ void TestTrozos::rellenos_y_espacios()
     QCOMPARE(Quitar_Espacios_Dobles("  a   b "), QString("a b"));
     QVERIFY(Contiene_Caracter("b", "abc"));
     QVERIFY(!Contiene_Caracter("bc", "abc"));
-}
-
-void TestTrozos::suma_xor_data()
-{
-    QTest::addColumn<QString>("texto");
-    QTest::addColumn<QString>("suma");
-    QTest::newRow("vacio") << "" << "000";
-    QTest::newRow("A") << "A" << "065";
-    QTest::newRow("AB") << "AB" << "003";
-    QTest::newRow("por encima de 127") << QStringLiteral("ñ") << "241";
-    QTest::newRow("euro") << QStringLiteral("€") << "128";
-}
-
-void TestTrozos::suma_xor()
-{
-    QFETCH(QString, texto);
-    QFETCH(QString, suma);
-    QCOMPARE(Suma_XOR(texto), suma);
-}
-
-void TestTrozos::suma_del_nivel_data()
-{
-    QTest::addColumn<QString>("texto");
-    QTest::addColumn<char>("suma");
-    // The fixed lines that the level and the program exchange carry their own sums.
-    QTest::newRow("vacio") << "" << ' ';
-    QTest::newRow("principio") << "A,01," << 'Z';
-    QTest::newRow("fin") << "Z," << '&';
-    QTest::newRow("aceptada") << QStringLiteral("\u0006,") << 'R';
-    QTest::newRow("rechazada") << QStringLiteral("\u0015,") << '!';
-    QTest::newRow("punto") << "b,02,P3,MAR,-12500," << 'H';
-    QTest::newRow("codigo de la pagina") << QStringLiteral("€") << ' ';
-}
-
-void TestTrozos::suma_del_nivel()
-{
-    QFETCH(QString, texto);
-    QFETCH(char, suma);
-    QCOMPARE(Suma_Nivel(texto), QChar::fromLatin1(suma));
 }
 
 void TestTrozos::valores_tras_caracter()

@@ -29,11 +29,17 @@ private Q_SLOTS:
 
 static const Trabajo_Exportar TRABAJO{1, "KRT300", 1, "NXYZ"};
 
+static int Opcion(const char* tipo)
+{
+    return Salida_De(tipo)->opcion;
+}
+
 void TestDialogoExportar::empieza_en_texto_formateado()
 {
     const Sala_Global sala;
     const Dialogo_Exportar d(TRABAJO);
-    QCOMPARE(d.opcion, int(Dialogo_Exportar::FORMATEADO));
+    QCOMPARE(d.opcion, 0);
+    QCOMPARE(d.Elegida().tipo, QStringLiteral("TxF"));
     QVERIFY(d.caracter_visible && !d.version_visible && d.elegir_activo && d.fichero.isEmpty());
     QCOMPARE(d.caracteres, (QStringList{" Espacio ( )", " Coma (,)", " Tabulación (|)"}));
     QCOMPARE(d.caracter, 0);
@@ -56,7 +62,7 @@ void TestDialogoExportar::el_dibujo_solo_con_sus_formatos()
     const Sala_Global sala;
     Peticiones_De_Exportar().Abrir_DXF = [](const Trabajo_Exportar&) {};
     const Dialogo_Exportar d({1, "KRT300", 1, formato});
-    QTEST(d.activa[Dialogo_Exportar::DXF], "dibujo");
+    QTEST(d.activa[Opcion("DXF")], "dibujo");
     QTEST(Tipo_Ficheros_Puntos, "dibujo");
 }
 
@@ -66,11 +72,10 @@ void TestDialogoExportar::lo_que_no_se_escribe_no_se_ofrece()
     for (const char* clave : {"KRT300", "NV400"}) {
         Clave_Estacion = clave;
         const Dialogo_Exportar d(TRABAJO);
-        QCOMPARE(d.activa[Dialogo_Exportar::FORMATEADO], Escritor_De("TxF") != nullptr);
-        QCOMPARE(d.activa[Dialogo_Exportar::TEXTO], Escritor_De("Txt") != nullptr);
-        QCOMPARE(d.activa[Dialogo_Exportar::EXCEL], Escritor_De("Xls") != nullptr);
-        QCOMPARE(d.activa[Dialogo_Exportar::ACCESS], Escritor_De("mdb") != nullptr);
-        QVERIFY(!d.activa[Dialogo_Exportar::DXF]);
+        for (const Salida_Exportar& salida : Salidas_Exportar())
+            if (salida.opcion >= 0 && !salida.dialogo)
+                QCOMPARE(d.activa[salida.opcion], Escritor_De(salida.tipo) != nullptr);
+        QVERIFY(!d.activa[Opcion("DXF")]);
     }
     Clave_Estacion = "KRT300";
     QVERIFY(Escritor_De("TxF") && Escritor_De("TXT"));
@@ -82,16 +87,16 @@ void TestDialogoExportar::cada_opcion_muestra_lo_suyo()
     Dialogo_Exportar d(TRABAJO);
     d.fichero = "algo";
     d.caracter = 2;
-    d.Elegir_Opcion(Dialogo_Exportar::TEXTO);
+    d.Elegir_Opcion(Opcion("Txt"));
     QVERIFY(d.caracter_visible && !d.version_visible && d.fichero.isEmpty());
     QCOMPARE(d.caracter, 0);
-    d.Elegir_Opcion(Dialogo_Exportar::EXCEL);
+    d.Elegir_Opcion(Opcion("Xls"));
     QVERIFY(!d.caracter_visible && d.version_visible);
     QCOMPARE(d.versiones,
              (QStringList{"Excel 3.0", "Excel 4.0", "Excel 95", "Excel 97", "Excel 2000"}));
     QCOMPARE(d.versiones[d.version], QStringLiteral("Excel 97"));
     QCOMPARE(d.version_excel, QStringLiteral("Excel 8.0"));
-    d.Elegir_Opcion(Dialogo_Exportar::DXF);
+    d.Elegir_Opcion(Opcion("DXF"));
     QVERIFY(!d.caracter_visible && !d.version_visible && d.elegir_activo);
 }
 
@@ -99,7 +104,7 @@ void TestDialogoExportar::excel_2000_deja_la_version_que_habia()
 {
     const Sala_Global sala;
     Dialogo_Exportar d(TRABAJO);
-    d.Elegir_Opcion(Dialogo_Exportar::EXCEL);
+    d.Elegir_Opcion(Opcion("Xls"));
     QStringList conexiones;
     for (const int i : {0, 1, 2, 4, 3, 4}) {
         d.Elegir_Version(i);
@@ -228,7 +233,7 @@ void TestDialogoExportar::el_separador_sale_del_tag()
     Poner_Campos_Exportar({"Punto", "Código"});
     Incluir_Cabeceras = false;
     Dialogo_Exportar d(TRABAJO);
-    d.Elegir_Opcion(Dialogo_Exportar::TEXTO);
+    d.Elegir_Opcion(Opcion("Txt"));
     d.caracter = caracter;
     d.fichero = p.Ruta("ficheros/s.txt");
     Avance_Exportar avance;
@@ -243,7 +248,7 @@ void TestDialogoExportar::el_dibujo_va_a_su_dialogo()
     QStringList dibujados;
     Peticiones_De_Exportar().Abrir_DXF = [&](const Trabajo_Exportar& t) { dibujados << t.formato; };
     Dialogo_Exportar d(TRABAJO);
-    d.Elegir_Opcion(Dialogo_Exportar::DXF);
+    d.Elegir_Opcion(Opcion("DXF"));
     d.fichero = p.Ruta("ficheros/s.dxf");
     Avance_Exportar avance;
     d.Exportar(avance);

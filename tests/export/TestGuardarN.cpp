@@ -1,4 +1,4 @@
-#include "export/Escritor_Texto.h"
+#include "export/Filas_Marcadas.h"
 #include "export/GuardarN.h"
 #include "formats/ModFormatos.h"
 #include "session/Decodificador.h"
@@ -10,6 +10,12 @@
 #include <random>
 
 namespace {
+
+Datos_Formateados Datos(int id, const QString& maquina, int ope, const QStringList& campos)
+{
+    Avance_Exportar avance;
+    return Formatear_Datos({*Base_Datos, id, maquina, ope, {}, campos, {}, avance});
+}
 
 // The rows as text, cells parted by "|".
 QStringList Filas(const Filas_Exportar& filas)
@@ -26,8 +32,7 @@ QStringList Filas(const Filas_Exportar& filas)
 
 QStringList Formatear(int id, const QString& maquina, int ope, const QStringList& campos)
 {
-    Avance_Exportar avance;
-    return Filas(Formatear_Datos(*Base_Datos, id, maquina, ope, campos, avance).filas);
+    return Filas(Datos(id, maquina, ope, campos).filas);
 }
 
 struct Avance_De_Prueba : Avance_Exportar {
@@ -51,6 +56,7 @@ private Q_SLOTS:
     void una_columna_sin_datos_y_una_fila_sin_nada();
     void los_desplazamientos_llegan_a_las_celdas();
     void sin_campos_no_hay_columnas();
+    void las_columnas_se_hallan_por_su_nombre();
     void igual_que_punto_a_punto_data();
     void igual_que_punto_a_punto();
     void mas_corridas_que_la_tabla_es_el_error_9();
@@ -175,6 +181,22 @@ void TestGuardarN::sin_campos_no_hay_columnas()
     QCOMPARE(Formatear(9, "KRT300", 0, {"Código"}), QStringList());
 }
 
+void TestGuardarN::las_columnas_se_hallan_por_su_nombre()
+{
+    Base_De_Prueba p;
+    Interfaz_Guion guion;
+    Poner_Instrumentos(p);
+    Clave_Estacion = "KRT300";
+    Poner_Sesion(p, 1, "KRT300", 0, {{"1", "cA"}});
+    const Datos_Formateados datos = Datos(1, "KRT300", 0, {"Inventado", "Código", "Punto"});
+    QCOMPARE(datos.campos, (QStringList{"Inventado", "Código", "Punto"}));
+    QCOMPARE(datos.Numero_De_Filas(), std::size_t(1));
+    QCOMPARE(datos.filas[*datos.Columna({u"Código"})].front(), QStringLiteral("A"));
+    QCOMPARE(datos.Columna({u"Coordenada Z", u"Punto", u"Código"}), std::optional<std::size_t>(2));
+    QCOMPARE(datos.Columna({u"Inventado", u"Punto"}), std::optional<std::size_t>(0));
+    QVERIFY(!datos.Columna({u"código", u"Punt"}) && !datos.Columna({}));
+}
+
 void TestGuardarN::igual_que_punto_a_punto_data()
 {
     QTest::addColumn<int>("semilla");
@@ -247,7 +269,7 @@ void TestGuardarN::mas_corridas_que_la_tabla_es_el_error_9()
     Poner_Campos_Exportar({"Código"});
     Avance_Exportar avance;
     const QString fichero = p.Ruta("ficheros/s.txt");
-    QVERIFY(!Exportar_Sesion(1, "KRT300", 0, "TxF", "F", fichero, " \u0006N", avance));
+    QVERIFY(!Exportar_Sesion(1, "KRT300", 0, "TxF", "F", fichero, {" \u0006N"}, avance));
     QCOMPARE(guion.avisos.size(), 1);
     QVERIFY(guion.avisos[0].texto.contains("\r(9) "));
     QCOMPARE(guion.avisos[0].icono, Icono::Critico);
@@ -284,9 +306,7 @@ void TestGuardarN::el_nivel_con_otra_familia_en_uso()
                   {" ", "g,\u0006x,B,"},
                   {" ", "f,02,C,"},
                   {" ", "k,\u0005y,D,"}});
-    Avance_Exportar avance;
-    const Datos_Formateados datos =
-        Formatear_Datos(*Base_Datos, 1, "NV400", 0, {"uno", "dos", "reserva"}, avance);
+    const Datos_Formateados datos = Datos(1, "NV400", 0, {"uno", "dos", "reserva"});
     QCOMPARE(Filas(datos.filas).size(), 3);
     QVERIFY(Filas(datos.filas)[0].startsWith("01|"));
     QVERIFY(Es_Fila_Marcada(datos.filas[0][1]));
@@ -333,7 +353,7 @@ void TestGuardarN::el_avance_va_en_dos_tiempos()
     Poner_Campos_Exportar({"Punto"});
     Avance_De_Prueba avance;
     QVERIFY(
-        Exportar_Sesion(1, "KRT300", 0, "txf", "F", p.Ruta("ficheros/s.txt"), " \u0006N", avance));
+        Exportar_Sesion(1, "KRT300", 0, "txf", "F", p.Ruta("ficheros/s.txt"), {" \u0006N"}, avance));
     QCOMPARE(avance.hechos,
              (QStringList{"Formateando Datos... (1 de 2)", "max 1100", "1024", "1100", "0",
                           "Exportando... (2 de 2)", "max 1100", "1024", "1100", "0"}));
@@ -348,12 +368,8 @@ void TestGuardarN::un_tipo_desconocido_da_falso()
     Poner_Instrumentos(p);
     Clave_Estacion = "KRT300";
     Avance_Exportar avance;
-    QVERIFY(!Exportar_Sesion(1, "KRT300", 0, "pdf", "F", p.Ruta("ficheros/s.txt"), "", avance));
+    QVERIFY(!Exportar_Sesion(1, "KRT300", 0, "pdf", "F", p.Ruta("ficheros/s.txt"), {}, avance));
     QVERIFY(!QFile::exists(p.Ruta("ficheros/s.txt")));
-    QStringList tipos;
-    for (const Salida_Exportar& s : Salidas_Exportar())
-        tipos << s.tipo;
-    QCOMPARE(tipos, (QStringList{"TxF", "Txt", "Xls", "mdb"}));
 }
 
 void TestGuardarN::una_clase_nueva_entra_por_filas_data()

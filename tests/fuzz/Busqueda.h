@@ -1,7 +1,7 @@
 #pragma once
 
-#include "conversions/Informe_Lectura.h"
-#include "conversions/Texto_Fuente.h"
+#include "conversions/suelo/Informe_Lectura.h"
+#include "conversions/suelo/Texto_Fuente.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "conversions/Escritor_Instrumento.h"
-#include "conversions/Escritor_LandXML.h"
-#include "conversions/Lectores_Eje.h"
-#include "conversions/Lectores_Rasante.h"
+#include "conversions/ejes/Lectores_Eje.h"
+#include "conversions/instrumento/Escritor_Instrumento.h"
+#include "conversions/landxml/Escritor_LandXML.h"
+#include "conversions/rasantes/Lectores_Rasante.h"
 #include "tests/fuzz/Busqueda.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "conversions/Escritor_Secciones.h"
-#include "conversions/Lectores_Secciones.h"
+#include "conversions/instrumento/Escritor_Secciones.h"
+#include "conversions/secciones/Lectores_Secciones.h"
 #include "tests/fuzz/Busqueda.h"
 
 /// `Buscar_En_Texto` for a reader of sections: three numbers a line, and no section without points.

@@ -1,4 +1,4 @@
-#include "conversions/Bronex_COD.h"
+#include "conversions/puntos/Bronex_COD.h"
 #include "tests/fuzz/Busqueda.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)

@@ -1,5 +1,5 @@
 // Any file is converted, or refused in a box and nowhere else.
-#include "conversions/ModCLIP.h"
+#include "conversions/instrumento/ModCLIP.h"
 #include "core/Ficheros.h"
 #include "core/Interfaz.h"
 

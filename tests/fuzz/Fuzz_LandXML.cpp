@@ -1,7 +1,7 @@
 // What a file lists can be read by its list, or is refused with a reason.
 
-#include "conversions/Escritor_Secciones.h"
-#include "conversions/Lectores_LandXML.h"
+#include "conversions/instrumento/Escritor_Secciones.h"
+#include "conversions/landxml/Lectores_LandXML.h"
 #include "tests/fuzz/Busqueda_Lector.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)

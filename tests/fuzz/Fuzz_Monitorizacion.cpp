@@ -1,4 +1,4 @@
-#include "conversions/Monitorizacion.h"
+#include "conversions/puntos/Monitorizacion.h"
 #include "tests/fuzz/Busqueda.h"
 
 #include <cstring>

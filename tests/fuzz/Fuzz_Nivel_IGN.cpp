@@ -1,4 +1,4 @@
-#include "conversions/Nivel_IGN.h"
+#include "conversions/puntos/Nivel_IGN.h"
 #include "session/Nivel.h"
 #include "tests/fuzz/Busqueda.h"
 

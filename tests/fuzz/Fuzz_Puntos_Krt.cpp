@@ -1,5 +1,5 @@
-#include "conversions/Escritores_Puntos.h"
-#include "conversions/Lectores_Puntos.h"
+#include "conversions/puntos/Escritores_Puntos.h"
+#include "conversions/puntos/Lectores_Puntos.h"
 #include "tests/fuzz/Busqueda.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t largo)

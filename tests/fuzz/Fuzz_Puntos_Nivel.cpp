@@ -1,7 +1,7 @@
-#include "conversions/Escritores_Puntos.h"
-#include "conversions/Lectores_Puntos.h"
+#include "conversions/puntos/Escritores_Puntos.h"
+#include "conversions/puntos/Lectores_Puntos.h"
 #include "core/Ansi.h"
-#include "core/Trozos.h"
+#include "core/Sumas.h"
 #include "tests/fuzz/Busqueda.h"
 
 // Every line that is made for the level carries the sum that the level will check.

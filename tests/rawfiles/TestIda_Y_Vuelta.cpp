@@ -1,3 +1,4 @@
+#include "core/Familia.h"
 #include "rawfiles/Importar_Bruto.h"
 #include "rawfiles/ModFBruto.h"
 #include "rawfiles/Salidas_Brutas.h"

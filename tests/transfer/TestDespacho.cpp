@@ -4,7 +4,7 @@
 #include "tests/apoyo/Interfaz_Guion.h"
 #include "tests/apoyo/Prueba.h"
 #include "tests/apoyo/Puerto_Memoria.h"
-#include "transfer/Descarga.h"
+#include "transfer/enlace/Descarga.h"
 #include "transfer/Despacho.h"
 #include "transfer/Peticiones_Transfer.h"
 
@@ -23,8 +23,6 @@ private Q_SLOTS:
     void el_puerto_que_falla_no_muestra_el_dialogo();
     void el_nivel_no_pide_nombre();
     void una_segunda_pita_y_muestra_la_que_corre();
-    void el_filtro_sale_de_conv_data();
-    void el_filtro_sale_de_conv();
     void sin_fila_termina_el_programa();
     void la_carga_desconocida_se_dice();
     void el_recordatorio_tiene_sus_cuatro_lineas();
@@ -60,11 +58,12 @@ void TestDespacho::init()
     p.Mostrar_Pasos = [this](const QString& tipo, const QString& ope) {
         pasos << "ayuda " + tipo + ope + " paso " + QString::number(Paso_Ayuda);
     };
-    p.Dialogo_Descarga = [this](bool cargar) -> Descarga* {
-        if (!descarga && cargar) {
+    p.Dialogo_Descarga = [this]() -> Descarga* {
+        if (!descarga) {
             auto nuevo = std::make_unique<Puerto_Memoria>();
             puerto = nuevo.get();
             descarga = std::make_unique<Descarga>(std::move(nuevo));
+            connect(descarga.get(), &Descarga::reclamada, this, [this] { pasos << "reclamada"; });
         }
         return descarga.get();
     };
@@ -184,7 +183,7 @@ void TestDespacho::sin_nombre_no_se_abre_el_puerto()
 
 void TestDespacho::el_puerto_que_falla_no_muestra_el_dialogo()
 {
-    Peticiones_De_Transfer().Dialogo_Descarga(true);
+    Peticiones_De_Transfer().Dialogo_Descarga();
     puerto->error_al_abrir = 8002;
     Lanzar_Operacion("KRT300", 0, "D");
     QCOMPARE(interfaz->avisos.size(), 1);
@@ -205,31 +204,8 @@ void TestDespacho::una_segunda_pita_y_muestra_la_que_corre()
     pasos.clear();
     Lanzar_Operacion("KRT300", 1, "D");
     QCOMPARE(interfaz->pitidos, 1);
-    QCOMPARE(pasos, QStringList{"abierto, descarga"});
-}
-
-void TestDespacho::el_filtro_sale_de_conv_data()
-{
-    QTest::addColumn<QString>("conv");
-    QTest::addColumn<QString>("filtro");
-    QTest::newRow("dos") << "ASC,TXT" << "ASCII (*.asc)|*.asc|Texto (*.txt)|*.txt";
-    QTest::newRow("una desconocida") << "NADA,TXT" << "Texto (*.txt)|*.txt";
-    QTest::newRow("vacio") << "" << "";
-}
-
-void TestDespacho::el_filtro_sale_de_conv()
-{
-    QFETCH(QString, conv);
-    QFETCH(QString, filtro);
-    Base_Datos->Execute("DELETE FROM KRT2");
-    const QString clave = Base_Datos->OpenRecordset("CONVERT").Columnas().first();
-    for (const QStringList& f : {QStringList{"ASC", " ASCII (*.asc) ", "*.asc "},
-                                 QStringList{"TXT", "Texto (*.txt)", " *.txt"}})
-        Base_Datos->Execute("INSERT INTO CONVERT (" + clave + ", descripcion, ext) VALUES (?, ?, ?)",
-                            {f[0], f[1], f[2]});
-    Fila("KRT300", 1, "C", conv);
-    QCOMPARE(Filtro_Extensiones("KRT300", 1, "C"), filtro);
-    QVERIFY(interfaz->avisos.isEmpty());
+    QCOMPARE(pasos, QStringList{"reclamada"});
+    QVERIFY(descarga->En_Marcha());
 }
 
 void TestDespacho::sin_fila_termina_el_programa()

@@ -15,6 +15,7 @@
 #include "core/ui/frmPantalla.h"
 #include "core/ui/FrmProc.h"
 #include "core/ui/Frmutils.h"
+#include "export/GuardarN.h"
 #include "export/ui/FrmExportar.h"
 #include "formats/Formato_Existente.h"
 #include "formats/Formato_Nuevo.h"
@@ -181,7 +182,7 @@ void Exportar(Escenario& e)
     });
     const QString fichero = En_Instalacion("ficheros/linderos.txt");
     Avance_Exportar callado;
-    Exportar_Sesion(2, "KRT300", 1, "TxF", "NXYZCOD", fichero, " \6S", callado);
+    Exportar_Sesion(2, "KRT300", 1, "TxF", "NXYZCOD", fichero, {" \6S"}, callado);
     auto& frm = Dialogos::Unico<FrmTxt>();
     frm.Ver(fichero, false);
     // The folder is this run's; the picture shows the name alone.

@@ -19,10 +19,6 @@ void Conectar_Dialogos_Transfer()
     pide.Mostrar_Pasos = [](const QString& tipo_ope, const QString& ope) {
         Dialogos::Unico<FrmAyuda>().Cargar(tipo_ope, ope);
     };
-    pide.Dialogo_Descarga = [](bool cargar) -> Descarga* {
-        if (cargar) return &Dialogos::Unico<FrmSplash>().Conversacion();
-        FrmSplash* const frm = Dialogos::Cargado<FrmSplash>();
-        return frm ? &frm->Conversacion() : nullptr;
-    };
+    pide.Dialogo_Descarga = [] { return &Dialogos::Unico<FrmSplash>().La_Descarga(); };
     pide.Mostrar_Descarga = [] { Dialogos::Unico<FrmSplash>().Mostrar(); };
 }

@@ -4,7 +4,7 @@
 #include "core/ui/Dialogos.h"
 #include "core/ui/Piezas.h"
 #include "session/ui/frmDescargas.h"
-#include "transfer/Puerto_Qt.h"
+#include "transfer/enlace/Puerto_Qt.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -82,6 +82,7 @@ void FrmSplash::Conectar()
             [this](int lugar) { Rayo->move(Punto_De(LUGARES_RAYO_DESCARGA[lugar])); });
     connect(descarga, &Descarga::ocultar, this, &Ventana::Ocultar);
     connect(descarga, &Descarga::cerrar, this, &Ventana::Descargar);
+    connect(descarga, &Descarga::reclamada, this, &Ventana::Mostrar);
     connect(descarga, &Descarga::mostrar_sesiones, this, [] {
         auto& frm = Dialogos::Unico<frmDescargas>();
         frm.Mostrar();

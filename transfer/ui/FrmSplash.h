@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/ui/Ventana.h"
-#include "transfer/Descarga.h"
+#include "transfer/enlace/Descarga.h"
 
 #include <functional>
 
@@ -13,7 +13,7 @@ class FrmSplash : public Ventana {
 public:
     FrmSplash();
 
-    Descarga& Conversacion() { return *descarga; }
+    Descarga& La_Descarga() { return *descarga; }
 
     /// Makes the port of a dialog that is loaded; another than the machine's for
     /// tests.

@@ -1,5 +1,5 @@
-#include "conversions/Fichero_Lista.h"
-#include "conversions/Peticiones_Conversion.h"
+#include "conversions/biblioteca/Fichero_Lista.h"
+#include "conversions/biblioteca/Peticiones_Conversion.h"
 #include "conversions/ui/Dialogos_Conversion.h"
 #include "conversions/ui/EjeLandxml.h"
 #include "conversions/ui/frmConvEst.h"

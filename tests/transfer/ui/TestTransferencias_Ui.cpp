@@ -1,3 +1,4 @@
+#include "core/Sumas.h"
 #include "core/Sucesos.h"
 #include "core/ui/Dialogos.h"
 #include "core/ui/FrmAyuda.h"
@@ -6,7 +7,6 @@
 #include "tests/apoyo/Prueba.h"
 #include "tests/apoyo/Puerto_Memoria.h"
 #include "tests/apoyo/Sala_Ventanas.h"
-#include "transfer/Recepcion.h"
 #include "transfer/ui/Dialogos_Transfer.h"
 #include "transfer/ui/FrmFic.h"
 #include "transfer/ui/FrmIni.h"
@@ -74,7 +74,6 @@ void TestTransferencias_Ui::init()
     Bits_Datos = "8";
     Paridad = "None";
     Bits_Parada = "1";
-    Recepcion = {};
     puertos = 0;
     Conectar_Dialogos_Transfer();
     FrmSplash::Hacer_Puerto = [this] {
@@ -399,7 +398,7 @@ void TestTransferencias_Ui::el_decimo_sondeo_avisa_y_cierra()
     FrmSplash& splash = Empezar();
     QTest::mouseClick(&Hijo<QPushButton>(splash, "BtnIniciar"), Qt::LeftButton);
     for (int i = 0; i < 10; ++i)
-        splash.Conversacion().Tic();
+        splash.La_Descarga().Tic();
     QCOMPARE(sala->interfaz.avisos.value(0).icono, Icono::Exclamacion);
     QCOMPARE(sala->Tomar_Avisos(),
              QStringList("Error de comunicación ,compruebe que el cable esta bien conectado a su "

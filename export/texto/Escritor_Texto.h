@@ -1,0 +1,12 @@
+#pragma once
+
+#include "export/Tarea_Exportar.h"
+
+// The writers of text files; their options are of the form `Opciones_Texto`.
+
+/// "TXF": columns at fixed places, a cell being left-aligned in the width of its column, never cut.
+bool Escribir_Texto_Formateado(const Tarea_Exportar& tarea);
+
+/// "TXT": only the cells that hold something; an empty one adds nothing, not even a separator, so
+/// that the values behind it move left.
+bool Escribir_Texto_Separado(const Tarea_Exportar& tarea);

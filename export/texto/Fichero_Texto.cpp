@@ -1,0 +1,77 @@
+#include "export/texto/Fichero_Texto.h"
+
+#include "core/Ansi.h"
+#include "core/Ficheros.h"
+
+#include <algorithm>
+#include <QFileInfo>
+
+namespace {
+
+constexpr qsizetype TRAMO = 64 * 1024;
+
+Error_Ejecucion Error_De_Nombre(int numero, const QString& ruta)
+{
+    return Error_Ejecucion(numero, Descripcion_Error(numero) + ": " + ruta);
+}
+
+// Blank, or with a wild card or a control character in it: never the name of a file.
+bool Es_Nombre(const QString& ruta)
+{
+    const auto prohibido = [](QChar c) { return c < u' ' || c == u'*' || c == u'?'; };
+    return !ruta.trimmed().isEmpty() && std::ranges::none_of(ruta, prohibido);
+}
+
+} // namespace
+
+Fichero_Texto::Fichero_Texto(const QString& ruta) : fichero(ruta)
+{
+    if (!Es_Nombre(ruta)) throw Error_De_Nombre(53, ruta);
+    const QFileInfo donde(ruta);
+    if (donde.isDir()) throw Error_De_Nombre(75, ruta);
+    if (!donde.absoluteDir().exists()) throw Error_De_Nombre(76, ruta);
+    if (!fichero.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        throw Ficheros::Error_De(fichero);
+    pendiente.reserve(TRAMO + 1024);
+}
+
+Fichero_Texto::~Fichero_Texto()
+{
+    // What an error elsewhere leaves behind: as far as it got.
+    if (fichero.isOpen()) fichero.write(pendiente);
+}
+
+void Fichero_Texto::Linea(QStringView texto)
+{
+    Agregar(texto);
+    Fin_De_Linea();
+}
+
+void Fichero_Texto::Agregar(QStringView texto)
+{
+    Ansi::Agregar_Bytes(pendiente, texto);
+}
+
+void Fichero_Texto::Fin_De_Linea()
+{
+    pendiente += "\r\n";
+    if (pendiente.size() >= TRAMO) Volcar();
+}
+
+void Fichero_Texto::Cerrar()
+{
+    Volcar();
+    if (!fichero.flush()) throw Ficheros::Error_De(fichero);
+    fichero.close();
+    if (fichero.error() != QFileDevice::NoError) throw Ficheros::Error_De(fichero);
+}
+
+void Fichero_Texto::Volcar()
+{
+    const qint64 escritos = fichero.write(pendiente);
+    if (escritos != pendiente.size()) {
+        pendiente.clear();
+        throw Ficheros::Error_De(fichero);
+    }
+    pendiente.clear();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "transfer/enlace/Recepcion.h"
+
+#include <memory>
+#include <optional>
+
+class Base;
+
+/// Makes a session of KRT800 text, one row a line ended by CR LF, in one transaction; a failure is
+/// reported and rolls everything back. A cancelled one keeps the rows stored so far.
+/// @param numero  receives the session's number, empty when none was made
+/// @return true when every line is stored
+bool Guardar_KRT800(const Datos_Recepcion& datos, QString& numero);
+
+/// The general values in force of a KRT800 session: one item a `Campos` row marked "GE".
+class Globales_KRT800 {
+public:
+    Globales_KRT800(Base& base, const QString& maquina, int operacion);
+    ~Globales_KRT800();
+    /// Takes over the values that `linea` carries.
+    void Campos_Globales(const QString& linea);
+    /// Items joined with code 6, their identifier, field and value with code 5.
+    const QString& DatosG() const;
+
+private:
+    struct Datos;
+    std::unique_ptr<Datos> d;
+};
+
+/// Rewrites the rows of a session of operation 7 so that those of one profile (same first field)
+/// stand together, ordered by their second: each row once, profiles in order of first appearance,
+/// sequence numbers untouched. In one transaction that an error undoes.
+/// @throws Error_Ejecucion 3075 when a line holds an apostrophe
+void Ordenar_Perfiles(Base& base, qint64 id);
+
+/// Stores a finished download of any operation.
+std::optional<Resultado_Recepcion> Guardar_Descarga_KRT800(const Datos_Recepcion& datos);
