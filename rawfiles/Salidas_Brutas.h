@@ -15,7 +15,7 @@ struct Tarea_Bruta {
 };
 
 /// One way out: what is done for a pattern, and what is said when it is done. A new layout is one
-/// file under estaciones/ and one row here.
+/// file under estaciones/ and one row here. docs/formas/ficheros-brutos.md draws the files.
 struct Salida_Bruta {
     Serie serie;
     QString patron; ///< empty: any that has no row of its own
