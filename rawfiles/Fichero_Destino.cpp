@@ -41,6 +41,12 @@ void Fichero_Destino::Comprobar(const QString& ruta)
         throw Error_Ejecucion(70, QStringLiteral("%1 es un fichero del propio programa").arg(ruta));
 }
 
+void Fichero_Destino::Comprobar_Distinto(const QString& origen, const QString& ruta)
+{
+    if (Mismo(origen, ruta))
+        throw Error_Ejecucion(70, QStringLiteral("%1 es el propio origen").arg(ruta));
+}
+
 Fichero_Destino::Fichero_Destino(const QString& donde) : ruta(donde)
 {
     Comprobar(ruta);

@@ -25,6 +25,8 @@ public:
     /// @throws Error_Ejecucion 70 when `ruta` is a file of the program's own: the database, its
     ///         template and backups, settings, the program itself
     static void Comprobar(const QString& ruta);
+    /// @throws Error_Ejecucion 70 when what is written from `origen` would go over it
+    static void Comprobar_Distinto(const QString& origen, const QString& ruta);
 
 private:
     QString ruta, parcial; ///< `parcial` is empty when nothing stood at `ruta`

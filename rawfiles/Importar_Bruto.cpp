@@ -89,8 +89,20 @@ struct Perdidas {
     qint64 repetidos = 0;           // points and general records that were in force already
 };
 
+// The usual case, without a look at each record: the session is the file.
+bool Nada_Se_Pierde(const Registros_Fichero& fichero, qint64 id)
+{
+    if (!fichero.antes.isEmpty()) return false;
+    Registros_Serie_A guardados(id, true);
+    for (const QString& registro : fichero.registros)
+        if (!registro.isEmpty() && (!guardados.Siguiente() || guardados.Registro() != registro))
+            return false;
+    return true;
+}
+
 Perdidas Comparar(const Registros_Fichero& fichero, qint64 id)
 {
+    if (Nada_Se_Pierde(fichero, id)) return {};
     QHash<QString, qint64> guardados;
     for (Registros_Serie_A r(id, true); r.Siguiente();)
         ++guardados[r.Registro()];

@@ -12,8 +12,9 @@
 
 namespace {
 
-// The head of a file tells as much as all of it.
+// The head of a file tells as much as all of it: records, and bytes for them.
 constexpr qsizetype MUESTRA = 2000;
+constexpr qsizetype BYTES_MUESTRA = 256 * 1024;
 
 const QString DE_TODAS_FORMAS = QStringLiteral(" ¿ Desea importarlo de todas formas ?");
 
@@ -115,7 +116,7 @@ QString Defecto_De(const QByteArray& bytes)
 
 QStringList Muestra_De(const QByteArray& bytes, Forma_Bruta& forma)
 {
-    QStringList lineas = Lineas_Brutas(bytes);
+    QStringList lineas = Lineas_Brutas(bytes.left(BYTES_MUESTRA));
     forma = !lineas.isEmpty() && lineas.first().startsWith(SEPARADOR_MAQUINA)
                 ? Forma_Bruta::Maquina
                 : Forma_Bruta::Lineas;

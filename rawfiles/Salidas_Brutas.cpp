@@ -73,6 +73,7 @@ bool Entregar_Temporal(const Tarea_Bruta& t, QString&)
 {
     try {
         Fichero_Destino::Comprobar(t.fichero);
+        Fichero_Destino::Comprobar_Distinto(t.temporal, t.fichero);
         Ficheros::Copiar(t.temporal, t.fichero);
         QFile::remove(t.temporal);
         return true;

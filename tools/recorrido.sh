@@ -46,7 +46,7 @@ sin_envoltura() { # MAQUINA
 
 descargar() { # MAQUINA OPE LIBRETA
   rm -f com1
-  "$instalacion/miraldos-sim" "$1" --enlace "$trabajo/com1" --enviar "$3" --retardo 200 >/dev/null &
+  "$instalacion/miraldos-sim" "$1" --enlace "$trabajo/com1" --enviar "$3" --retardo 200 >>"$trabajo/mensajes" 2>&1 &
   simulador=$!
   for _ in $(seq 100); do [ -e com1 ] && break; sleep 0.1; done
   cli descargar --modelo "$1" --ope "$2" --puerto "$trabajo/com1" --nombre "Recorrido $1"
@@ -55,13 +55,18 @@ descargar() { # MAQUINA OPE LIBRETA
   simulador=
 }
 
-textos() { # SESION FICHERO FORMATO
-  if [ -z "$3" ]; then cli ver "$1" >"$2"; else cli exportar "$1" --formato "$3" --tipo txf --salida "$2"; fi
+textos() { # SESION FICHERO FORMATO: without a format the level's book
+  if [ -z "$3" ]; then
+    cli exportar-bruto "$1" --patron '*.txt' --salida "$2" --serie NV-1 --operador Recorrido
+  else
+    cli exportar "$1" --formato "$3" --tipo txf --salida "$2"
+  fi
 }
 
 recorrer() { # MAQUINA OPE LIBRETA PATRON FORMA FORMATO
   local maquina=$1 ope=$2 libreta="$instalacion/ficheros/$3" patron=$4 forma=$5 formato=$6 sesion vuelta
   echo "$maquina: $3"
+  rm -f ida.* vuelta.*
   sesion=$(descargar "$maquina" "$ope" "$libreta") || fallar "  la descarga ha fallado"
   echo "  descargada como sesión $sesion"
   textos "$sesion" ida.txt "$formato" || fallar "  el texto ha fallado"
@@ -94,7 +99,6 @@ for maquina in "$@"; do
     KRT300) recorrer KRT300 0 campo_krt300.txt '*.hd6' maquina "$(formato_de KRT300 0)" ;;
     PX7) recorrer PX7 0 campo_px7.txt '*.hd6' maquina "$(formato_de PX7 0)" ;;
     KRT800) recorrer KRT800 4 campo_krt800_puntos.txt '*.hd6' lineas "$(formato_de KRT800 4)" ;;
-    # The level's reports go by formats of their own: its lines stand for the text here.
     NV400) recorrer NV400 0 campo_nv400.txt '*.dat' lineas '' ;;
     *) fallar "No hay un recorrido para $maquina" ;;
   esac

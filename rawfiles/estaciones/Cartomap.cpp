@@ -116,9 +116,11 @@ bool Exportar_Cartomap(const QString& entrada, const QString& ruta)
     }
     QString mensaje = QStringLiteral("Se produjo un error al convertir a Formato CARTOMAP");
     try {
+        const Cursor_De_Espera espera;
         const std::vector<Par> pares = Leer_Pares(entrada);
         std::optional<Fichero_Destino> destino;
         try {
+            Fichero_Destino::Comprobar_Distinto(entrada, ruta);
             destino.emplace(ruta);
         } catch (...) {
             mensaje = QStringLiteral("Se produjo un error al abrir el Fichero de Salida");

@@ -199,6 +199,9 @@ void TestModFBruto::el_resto_entrega_el_temporal()
     QVERIFY(sin_nada[0].startsWith("Se produjo un error al exportar un Fichero\r(53) "));
     QCOMPARE(banco->Leer("salida"), QByteArray("lo de antes"));
     banco->Escribir("Miraldos.$$$", "preparado");
+    Elegir(Temporal_Bruto(), int(Patrones_Brutos(sesion).indexOf("*.otr")) + 1);
+    Exportar_Fichero_Bruto(sesion);
+    QVERIFY(banco->Avisos().value(0).contains("(70) "));
     QCOMPARE(Exportar(sesion, "*.otr"), QStringList{"Exportación a Fichero finalizada"});
     QCOMPARE(banco->Leer("salida"), QByteArray("preparado"));
     QVERIFY(!QFileInfo::exists(Temporal_Bruto()));

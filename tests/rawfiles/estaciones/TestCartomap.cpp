@@ -100,6 +100,9 @@ void TestCartomap::una_salida_imposible()
     banco->Escribir("entrada", "JOB A\r\n");
     QVERIFY(!Exportar_Cartomap(banco->Ruta("entrada"), banco->Ruta("no hay/salida")));
     QVERIFY(banco->Avisos().value(0).startsWith("Se produjo un error al abrir el Fichero de Salida\r(76) "));
+    QVERIFY(!Exportar_Cartomap(banco->Ruta("entrada"), banco->Ruta("./entrada")));
+    QVERIFY(banco->Avisos().value(0).startsWith("Se produjo un error al abrir el Fichero de Salida\r(70) "));
+    QCOMPARE(banco->Leer("entrada"), QByteArray("JOB A\r\n"));
 }
 
 void TestCartomap::mas_de_65535_pares()

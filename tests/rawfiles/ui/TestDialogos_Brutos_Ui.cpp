@@ -1,3 +1,4 @@
+#include "core/Familia.h"
 #include "core/ui/Dialogos.h"
 #include "rawfiles/ModFBruto.h"
 #include "rawfiles/ui/Dialogos_Brutos.h"
