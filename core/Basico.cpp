@@ -1,47 +1,20 @@
 #include "core/Basico.h"
 
 #include "core/Error_Ejecucion.h"
+#include "core/Numero_Escrito.h"
 
 #include <cmath>
 #include <limits>
 
 namespace {
 
-bool Es_Cifra(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
 // Number in the Spanish form, made plain ("1.234,5" -> "1234.5"); empty when it is no number.
 QByteArray Numero_Llano(const QString& texto)
 {
+    constexpr Grafia ESPANOLA{.marca = u',', .blancos_tras_signo = true, .puntos_de_miles = true};
     const QStringView t = QStringView(texto).trimmed();
-    QByteArray llano;
-    qsizetype i = 0;
-    if (i < t.size() && (t[i] == u'+' || t[i] == u'-')) llano += t[i++] == u'-' ? '-' : '+';
-    while (i < t.size() && t[i] == u' ') ++i;
-    bool cifras = false, coma = false;
-    for (; i < t.size(); ++i) {
-        if (Es_Cifra(t[i])) {
-            llano += t[i].toLatin1();
-            cifras = true;
-        } else if (t[i] == u',' && !coma) {
-            llano += '.';
-            coma = true;
-        } else if (t[i] != u'.' || coma || !cifras) {
-            break;
-        }
-    }
-    if (!cifras) return {};
-    if (i < t.size() && (t[i] == u'e' || t[i] == u'E' || t[i] == u'd' || t[i] == u'D')) {
-        llano += 'e';
-        ++i;
-        if (i < t.size() && (t[i] == u'+' || t[i] == u'-')) llano += t[i++].toLatin1();
-        const qsizetype primera = i;
-        for (; i < t.size() && Es_Cifra(t[i]); ++i) llano += t[i].toLatin1();
-        if (i == primera) return {};
-    }
-    return i == t.size() ? llano : QByteArray();
+    const Numero_Escrito n = Leer_Numero(t, ESPANOLA);
+    return n.Hay() && n.leidos == t.size() ? n.Llano() : QByteArray();
 }
 
 // A decimal reading of at most 15 digits: value = 0.d1d2d3... x 10^punto.
@@ -80,7 +53,8 @@ std::pair<QByteArray, QByteArray> Redondear(const Decimal15& d, int decimales)
         todo.truncate(largo);
         if (sube) {
             qsizetype i = largo;
-            while (i > 0 && todo[i - 1] == '9') todo[--i] = '0';
+            while (i > 0 && todo[i - 1] == '9')
+                todo[--i] = '0';
             if (i > 0) {
                 ++todo[i - 1];
             } else {
@@ -93,7 +67,8 @@ std::pair<QByteArray, QByteArray> Redondear(const Decimal15& d, int decimales)
     }
     QByteArray entera = todo.left(punto);
     qsizetype ceros = 0;
-    while (ceros < entera.size() && entera[ceros] == '0') ++ceros;
+    while (ceros < entera.size() && entera[ceros] == '0')
+        ++ceros;
     return {entera.mid(ceros), todo.mid(punto)};
 }
 
@@ -101,9 +76,11 @@ QString Texto_Fijo(const QString& dibujo, const Decimal15& d)
 {
     const auto es_marca = [](QChar c) { return c == u'0' || c == u'#' || c == u'.'; };
     qsizetype primera = 0;
-    while (primera < dibujo.size() && !es_marca(dibujo[primera])) ++primera;
+    while (primera < dibujo.size() && !es_marca(dibujo[primera]))
+        ++primera;
     qsizetype ultima = dibujo.size();
-    while (ultima > primera && !es_marca(dibujo[ultima - 1])) --ultima;
+    while (ultima > primera && !es_marca(dibujo[ultima - 1]))
+        --ultima;
     const QString marcas = dibujo.mid(primera, ultima - primera);
     const qsizetype punto = marcas.indexOf(u'.');
     const QString de_entera = punto < 0 ? marcas : marcas.left(punto);
@@ -114,7 +91,8 @@ QString Texto_Fijo(const QString& dibujo, const Decimal15& d)
     const qsizetype minimo = cero < 0 ? 0 : de_entera.size() - cero;
     if (entera.size() < minimo) entera.prepend(QByteArray(minimo - entera.size(), '0'));
     const qsizetype fijos = de_decimal.lastIndexOf(u'0') + 1;
-    while (decimales.size() > fijos && decimales.endsWith('0')) decimales.chop(1);
+    while (decimales.size() > fijos && decimales.endsWith('0'))
+        decimales.chop(1);
 
     QString texto = d.negativo ? QStringLiteral("-") : QString();
     texto += dibujo.left(primera) + QString::fromLatin1(entera);
@@ -126,39 +104,9 @@ QString Texto_Fijo(const QString& dibujo, const Decimal15& d)
 
 double Basico::Val(QStringView texto)
 {
-    QByteArray n;
-    enum { Signo, Entera, Decimal, Exponente_Signo, Exponente } estado = Signo;
-    bool cifras = false;
-    qsizetype largo_valido = 0;
-    for (const QChar c : texto) {
-        if (c == u' ' || c == u'\t' || c == u'\n') continue;
-        if (Es_Cifra(c)) {
-            if (estado == Signo) estado = Entera;
-            if (estado == Exponente_Signo) estado = Exponente;
-            cifras = true;
-        } else if ((c == u'+' || c == u'-') && estado == Signo && n.isEmpty()) {
-            n += c.toLatin1();
-            continue;
-        } else if (c == u'.' && estado <= Entera) {
-            estado = Decimal;
-        } else if ((c == u'e' || c == u'E' || c == u'd' || c == u'D') && cifras &&
-                   estado < Exponente_Signo) {
-            estado = Exponente_Signo;
-            n += 'e';
-            continue;
-        } else if ((c == u'+' || c == u'-') && estado == Exponente_Signo && n.endsWith('e')) {
-            n += c.toLatin1();
-            continue;
-        } else {
-            break;
-        }
-        n += c.toLatin1();
-        if (cifras) largo_valido = n.size();
-    }
-    n.truncate(largo_valido);
-    if (n.endsWith('.')) n.chop(1);
+    const Numero_Escrito n = Leer_Numero(texto, {.blancos = true});
     bool bien = false;
-    const double x = n.toDouble(&bien);
+    const double x = n.Hay() ? n.Llano().toDouble(&bien) : 0.0;
     return bien && std::isfinite(x) ? x : 0.0;
 }
 
@@ -194,14 +142,16 @@ QString Basico::Trim(const QString& texto)
 QString Basico::LTrim(const QString& texto)
 {
     qsizetype i = 0;
-    while (i < texto.size() && texto[i] == u' ') ++i;
+    while (i < texto.size() && texto[i] == u' ')
+        ++i;
     return i == 0 ? texto : texto.mid(i);
 }
 
 QString Basico::RTrim(const QString& texto)
 {
     qsizetype n = texto.size();
-    while (n > 0 && texto[n - 1] == u' ') --n;
+    while (n > 0 && texto[n - 1] == u' ')
+        --n;
     return n == texto.size() ? texto : texto.left(n);
 }
 

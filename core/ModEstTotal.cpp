@@ -49,27 +49,6 @@ bool Existe_ID(const QString& id)
     return datosexport.contains(id);
 }
 
-QString Extraer_ID(const Conjunto_Registros& registros, const QString& maquina, int ope)
-{
-    const QString datos = Basico::Trim(registros.Texto("Datos"));
-    if (maquina != u"KRT800") return datos.left(1);
-    return Basico::Trim(Trozo(1, datos, ope == 4 ? QChar(u',') : QChar(u' ')));
-}
-
-QString Token_ID(const QString& cadena, qint64 n, int ope)
-{
-    return ope == 4 ? QStringLiteral("Punto") : Trozo(n, cadena, u' ');
-}
-
-QString Todos_Los_IDs(int ope, const QStringList& ids)
-{
-    if (ope == 4) return QStringLiteral("Punto");
-    QString todos;
-    for (qsizetype i = 0; i < MAX_IDS; ++i)
-        todos += ids.value(i) + u' ';
-    return todos;
-}
-
 Lista_Combo Llenar_Combo(const QString& sql, const QString& campo_texto, const QString& campo_tag)
 {
     if (!Base_Datos) throw Error_Ejecucion(91);

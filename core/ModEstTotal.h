@@ -3,12 +3,12 @@
 #include "core/Basico.h"
 #include "core/Error_Ejecucion.h"
 #include "core/Interfaz.h"
-#include "core/Trozos.h"
 #include "core/jet/Base.h"
+#include "core/Trozos.h"
 
+#include <memory>
 #include <QString>
 #include <QStringList>
-#include <memory>
 
 // The chief header: the global state, filled at start-up and read by every dialog, and the common
 // routines. Nothing else of the program is global.
@@ -75,18 +75,11 @@ bool FileExist(const QString& fichero);
 void Limpiar_IDs();
 /// @return true if `id` stands in `datosexport`
 bool Existe_ID(const QString& id);
-/// Record identifier of the current row's `Datos`: first character of the trimmed text; for the
-/// KRT800 the first comma token when `ope` is 4, else the first word, trimmed.
-QString Extraer_ID(const Conjunto_Registros& registros, const QString& maquina, int ope);
-/// Token `n` by blanks; for `ope` 4 always "Punto".
-QString Token_ID(const QString& cadena, qint64 n, int ope);
-/// For `ope` 4 "Punto", else all 31 entries of `ids`, each followed by a blank, joined.
-QString Todos_Los_IDs(int ope, const QStringList& ids);
 
 /// Rows of a query for a combo and its tag.
 struct Lista_Combo {
     QStringList textos;
-    QString tag;  ///< values of the tag column joined with code 6, no leading separator
+    QString tag; ///< values of the tag column joined with code 6, no leading separator
 };
 /// Reads a query into texts (column `campo_texto`) and tag (column `campo_tag`).
 Lista_Combo Llenar_Combo(const QString& sql, const QString& campo_texto, const QString& campo_tag);

@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/ioctl.h>
 #include <QFile>
+#include <sys/ioctl.h>
 #include <unistd.h>
 #endif
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Tablas.h"
+#include "session/Columnas_Texto.h"
 
 #include <initializer_list>
 #include <optional>
@@ -8,7 +8,7 @@
 
 /// `Filas_Exportar`, the row table: first index the column, second the row; all cells of a column
 /// of one length.
-using Filas_Exportar = Tabla_Textos;
+using Filas_Exportar = Columnas_Texto;
 
 /// What stage 1 makes of a session.
 struct Datos_Formateados {

@@ -1,5 +1,6 @@
 #include "export/Dialogo_Exportar.h"
 
+#include "core/Estado_Global.h"
 #include "core/ModEstTotal.h"
 #include "export/excel/Forma_Excel.h"
 #include "export/GuardarN.h"
@@ -28,8 +29,7 @@ constexpr int VERSION_INICIAL = 3;
 
 Peticiones_Exportar& Peticiones_De_Exportar()
 {
-    static Peticiones_Exportar peticiones;
-    return peticiones;
+    return Estado_Global::Unico<Peticiones_Exportar>();
 }
 
 Dialogo_Exportar::Dialogo_Exportar(const Trabajo_Exportar& t) : trabajo(t)

@@ -1,12 +1,12 @@
 #include "formats/Formato_Existente.h"
 
+#include "core/Familia.h"
 #include "formats/Formato_Nuevo.h"
-#include "session/Desplazamiento.h"
-#include "session/Peticiones_Sesion.h"
 
 Formato_Existente::Formato_Existente(const Sesion_Elegida& s, const QString& d)
-    : titulo("Formatos Disponibles para [" + s.wope + "]"), sesion(s), destino(d)
+    : sesion(s), destino(d)
 {
+    titulo = "Formatos Disponibles para [" + s.wope + "]";
 }
 
 bool Formato_Existente::Ver()
@@ -57,12 +57,8 @@ bool Formato_Existente::Aceptar(const std::function<void()>& ocultar)
         Interfaz_Actual().Pitar();
         return false;
     }
-    try {
-        if (!Preparar_Exportacion(sesion.maquina, listas.elegidos, cabeceras)) return true;
-    } catch (...) {
-        Informe_Error("Se produjo un error al preparar la exportación", Error_En_Curso());
-        return false;
-    }
+    const Paso paso = Preparar(sesion.maquina);
+    if (paso != Paso::Sigue) return paso == Paso::Cancelado;
     ocultar();
     const Trabajo_Exportar trabajo{sesion.id, sesion.maquina, sesion.ope, nombres[indice]};
     if (destino == u"I")
@@ -70,19 +66,6 @@ bool Formato_Existente::Aceptar(const std::function<void()>& ocultar)
     else
         Peticiones_De_Formatos().Abrir_Exportar(trabajo);
     return true;
-}
-
-bool Preparar_Exportacion(const QString& maquina, const QStringList& campos, bool cabeceras)
-{
-    Poner_Campos_Exportar(campos);
-    Incluir_Cabeceras = cabeceras;
-    Quitar_Desplazamientos();
-    bool hay_x = false, hay_y = false, hay_z = false;
-    for (const QString& campo : campos)
-        Comprobar_Marcas_Coordenadas(*Base_Datos, maquina, campo, hay_x, hay_y, hay_z);
-    if (!Offset_Exportar || !(hay_x || hay_y || hay_z)) return true;
-    return Peticiones_De_Sesion().Pedir_Desplazamientos(hay_x, hay_y, hay_z,
-                                                        QString::fromUtf16(FORMATO_COORDENADA));
 }
 
 namespace {
@@ -95,6 +78,12 @@ bool Hay_Que_Exportar(const std::optional<Sesion_Elegida>& sesion)
         return false;
     }
     return Comprobar_Hay_Registros(*Base_Datos, sesion->id);
+}
+
+// The level's formats have two halves, and dialogs of their own.
+bool Es_Del_Nivel(const Sesion_Elegida& sesion)
+{
+    return Familia_De(sesion.maquina).serie == Serie::Nivel;
 }
 
 // An error on the way ends it with the report.
@@ -115,7 +104,7 @@ void Exporta_o_Imprime_Formato_Existente(const std::optional<Sesion_Elegida>& se
     Informando([&] {
         if (!Hay_Que_Exportar(sesion)) return;
         if (destino == u"E") Tipo_Ficheros_Puntos = Es_Fichero_De_Puntos(sesion->wope);
-        if (sesion->maquina == u"NV400") {
+        if (Es_Del_Nivel(*sesion)) {
             Peticiones_De_Formatos().Mostrar_Existente_NV400(*sesion, destino);
             return;
         }
@@ -128,7 +117,7 @@ void Exporta_Formato_Nuevo(const std::optional<Sesion_Elegida>& sesion)
 {
     Informando([&] {
         if (!Hay_Que_Exportar(sesion)) return;
-        if (sesion->maquina == u"NV400") {
+        if (Es_Del_Nivel(*sesion)) {
             Peticiones_De_Formatos().Mostrar_Nuevo_NV400(*sesion);
             return;
         }

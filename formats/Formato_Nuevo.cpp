@@ -1,11 +1,11 @@
 #include "formats/Formato_Nuevo.h"
 
-#include "formats/Formato_Existente.h"
 #include "formats/Peticiones_Formatos.h"
 
 Formato_Nuevo::Formato_Nuevo(const QString& familia, const std::optional<Sesion_Elegida>& s)
     : maquina(familia), sesion(s)
 {
+    titulo = "Crear formato nuevo";
 }
 
 void Formato_Nuevo::Crear()
@@ -95,12 +95,8 @@ bool Formato_Nuevo::Aceptar(const std::function<void()>& ocultar)
     if (!Guardar()) return false;
     if (!sesion) return true;
     ocultar();
-    try {
-        if (!Preparar_Exportacion(maquina, listas.elegidos, cabeceras)) return true;
-    } catch (...) {
-        Informe_Error("Se produjo un error al preparar la exportación", Error_En_Curso());
-        return true;
-    }
+    // The format is stored whatever becomes of the export.
+    if (Preparar(maquina) != Paso::Sigue) return true;
     Peticiones_De_Formatos().Abrir_Exportar({sesion->id, maquina, sesion->ope, guardado});
     return true;
 }

@@ -5,17 +5,13 @@
 #include "formats/Formato_Nuevo.h"
 #include "formats/Peticiones_Formatos.h"
 
-namespace {
-constexpr int MAX_NOMBRE = 50;
-}
-
 Mantenimiento_Formatos::Mantenimiento_Formatos() : maquina(Clave_Estacion) {}
 
 void Mantenimiento_Formatos::Cargar()
 {
     nombres = Nombres_Formatos(*Base_Datos, maquina);
     const QString ultimo =
-        Perfil::Leer(Fichero_Posicion(), "FORMATO" + maquina, "formato", QString(), MAX_NOMBRE);
+        Perfil::Leer(Fichero_Posicion(), "FORMATO" + maquina, "formato", QString(), ANCHO_NOMBRE);
     if (!ultimo.isEmpty()) Elegir(ultimo);
 }
 

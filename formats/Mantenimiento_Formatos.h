@@ -1,21 +1,15 @@
 #pragma once
 
-#include "formats/ModFormatos.h"
+#include "formats/Modelo_Formato.h"
 
-/// What `Frmformatos` holds: the maintenance of the stored formats of the family in force. The
-/// dialog shows the public members after each call and hands the user's changes of `descripcion`,
-/// `cabeceras` and `listas` straight into them.
-class Mantenimiento_Formatos {
+/// What `Frmformatos` holds: the maintenance of the stored formats of the family in force.
+class Mantenimiento_Formatos : public Contenido_Formato {
 public:
     Mantenimiento_Formatos();
 
-    QStringList nombres;    ///< `DBCombo1`
-    QString nombre;         ///< its text
-    QString descripcion;    ///< `TxtDes`
-    bool cabeceras = false; ///< `ChkCab`
+    QString nombre;         ///< text of `DBCombo1`
     QString tipo;           ///< `LblTip`
     QString es_modificable; ///< `Label5`: "Si", "No", empty without a format
-    Dos_Listas listas;      ///< `List1`, `List2`
     /// `BtnAgregar`, `BtnQuitar`, `ChkCab`, `Command1` and `Command2` are disabled.
     bool bloqueado = false;
 

@@ -1,16 +1,18 @@
 #include "formats/ModFormatos.h"
 
+#include "core/Estado_Global.h"
+#include "core/Familia.h"
 #include "core/Sucesos.h"
+#include "core/Texto_SQL.h"
+#include "formats/Nombre_Formato.h"
+#include "session/Identificador.h"
 
 QStringList Campos_Exportar = QStringList(MAX_CAMPOS, QString());
 bool Incluir_Cabeceras = false;
+[[maybe_unused]] static const bool anotadas =
+    Estado_Global::Anotar(Campos_Exportar) && Estado_Global::Anotar(Incluir_Cabeceras);
 
 namespace {
-
-QString Doblar(const QString& texto)
-{
-    return Reemplazar(texto, "'", "''");
-}
 
 // Takes an identifier into the next free slot unless it stands in one; an empty one stands in every
 // free slot.
@@ -81,20 +83,14 @@ void Poner_Campos_Exportar(const QStringList& campos)
     }
 }
 
-QString Leer_Id_Registro(const QString& datos, const QString& maquina, int ope)
-{
-    if (maquina != u"KRT800") return Basico::Trim(datos).left(1);
-    if (ope == 4) return Trozo(1, Basico::Trim(datos), u',');
-    return Basico::Trim(datos.left(datos.indexOf(u' ') + 1));
-}
-
 void Sacar_IDs(Base& bd, const Sesion_Elegida& sesion, bool formato_nuevo)
 {
     Limpiar_IDs();
-    if (sesion.ope == 4) {
-        datosexport[0] = "Punto";
-    } else if (sesion.ope == 7 && formato_nuevo) {
-        datosexport[0] = "Per.Trans";
+    const Fila_Operacion& fila = Fila_De(Operacion(sesion.ope));
+    // Deliberate: only the dialogs of a new format take the cross sections' lines as one kind.
+    if (fila.operacion == Operacion::Puntos ||
+        (fila.operacion == Operacion::Perfiles && formato_nuevo)) {
+        datosexport[0] = fila.id_fijo;
     } else {
         int libre = 0;
         Recorrido registros = bd.Recorrer(SQL_Registros(sesion.id));
@@ -115,8 +111,8 @@ void Sacar_Ids_Nuevo(Base& bd, const QString& maquina, int ope)
 void Rellenar_IDs(const QString& ids, int ope)
 {
     Limpiar_IDs();
-    if (ope == 4) {
-        datosexport[0] = "Punto";
+    if (const Fila_Operacion& fila = Fila_De(Operacion(ope)); fila.operacion == Operacion::Puntos) {
+        datosexport[0] = fila.id_fijo;
         return;
     }
     // Stored identifiers have their apostrophes doubled, delivered ones may not.
@@ -175,7 +171,7 @@ void Comprobar_Marcas_Coordenadas(Base& bd, const QString& maquina, const QStrin
 void Ofrecer_Campos(Base& bd, const QString& maquina, Dos_Listas& listas, bool punto_primero,
                     Generales generales, int ope)
 {
-    const bool con_punto = maquina == u"KRT300" || maquina == u"PX7";
+    const bool con_punto = Familia_De(maquina).ofrece_punto;
     if (con_punto && punto_primero) listas.Ofrecer("Punto");
     Recorrido campos = bd.Recorrer("SELECT DISTINCT Campo,Marcas FROM Campos WHERE id IN (" +
                                    Lista_Ids_SQL() + ") and Maquina = '" + maquina + "' ");
@@ -191,12 +187,6 @@ void Ofrecer_Campos(Base& bd, const QString& maquina, Dos_Listas& listas, bool p
     Recorrido de_generales = bd.Recorrer(sql);
     while (de_generales.Siguiente())
         listas.Ofrecer(de_generales.Texto(0));
-}
-
-QString Literal_Formato(const QString& nombre)
-{
-    if (nombre.contains(u'\'')) throw Error_Ejecucion(3075);
-    return u'\'' + nombre + u'\'';
 }
 
 QStringList Nombres_Formatos(Base& bd, const QString& maquina, std::optional<int> ope)
@@ -278,12 +268,4 @@ bool Eliminar_Formato(Base& bd, const QString& maquina, const QString& nombre)
     transaccion.Confirmar();
     Q_EMIT Sucesos::Unico().formatos_cambiados();
     return true;
-}
-
-bool Depura(const QString& nombre)
-{
-    if (!Basico::Trim(nombre).isEmpty()) return true;
-    Interfaz_Actual().Mensaje("El Nombre del formato no puede quedar en blanco!!",
-                              Icono::Informacion);
-    return false;
 }

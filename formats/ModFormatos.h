@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/textos.md
+
 #include "core/ModEstTotal.h"
 #include "formats/Dos_Listas.h"
 #include "session/Consultas_Sesion.h"
@@ -21,11 +23,6 @@ extern bool Incluir_Cabeceras;
 /// Clears all slots and fills the first ones.
 /// @throws Error_Ejecucion 9 for more names than slots; the slots are then full
 void Poner_Campos_Exportar(const QStringList& campos);
-
-/// Record identifier of a stored line. Not KRT800: first character of the trimmed line. KRT800: the
-/// line up to its first blank, empty without one; operation 4: the trimmed line up to its first
-/// comma.
-QString Leer_Id_Registro(const QString& datos, const QString& maquina, int ope);
 
 /// Fills `datosexport` with the identifiers that a session's lines hold, apostrophes doubled.
 /// Operation 4 has the one identifier "Punto" whatever its lines hold.
@@ -57,8 +54,8 @@ void Comprobar_Marcas_Coordenadas(Base& bd, const QString& maquina, const QStrin
 /// Which general fields are offered beside those of the records.
 enum class Generales { De_La_Familia, De_La_Operacion };
 /// Offers the fields of the records in `datosexport` that are not barred from listing, each once in
-/// the order of the table, and the general fields. "Punto" belongs to the KRT300 and PX7, which
-/// keep the point's name beside the line.
+/// the order of the table, and the general fields. "Punto" belongs to the families that keep the
+/// point's name beside the line.
 /// @param punto_primero  "Punto" stands ahead of the fields instead of behind those of the records
 /// @param ope  operation, for `Generales::De_La_Operacion`
 void Ofrecer_Campos(Base& bd, const QString& maquina, Dos_Listas& listas, bool punto_primero,
@@ -71,10 +68,6 @@ struct Formato {
     int ope = 0;
     QStringList campos; ///< as stored: those of the level carry their mark
 };
-
-/// A name as an SQL literal. Names go into the statements as they stand, so that an apostrophe
-/// breaks them. @throws Error_Ejecucion 3075 for a name with an apostrophe
-QString Literal_Formato(const QString& nombre);
 
 /// Names of a family's formats; with `ope` only those of the operation. In insertion order.
 QStringList Nombres_Formatos(Base& bd, const QString& maquina, std::optional<int> ope = {});
@@ -92,6 +85,3 @@ void Guardar_Formato(Base& bd, const Formato& formato, bool nuevo);
 bool Cambiar_Formato(Base& bd, const Formato& formato);
 /// Asks, then deletes a format; one that has vanished is no error. @return false when refused
 bool Eliminar_Formato(Base& bd, const QString& maquina, const QString& nombre);
-
-/// @return true when a format's name isn't blank; otherwise false, the box shown
-bool Depura(const QString& nombre);

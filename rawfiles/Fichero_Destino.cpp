@@ -57,7 +57,7 @@ Fichero_Destino::Fichero_Destino(const QString& donde) : ruta(donde)
     }
     // Put in place by a rename, which would not mind.
     if (!viejo.isWritable())
-        throw Error_Ejecucion(70, Descripcion_Error(70) + QStringLiteral(": ") + ruta);
+        throw Error_Ejecucion::Con(70, ruta);
     ruta = viejo.canonicalFilePath();
     parcial = ruta + QStringLiteral(".parcial");
     fichero.emplace(parcial);
@@ -67,7 +67,7 @@ void Fichero_Destino::Terminar()
 {
     fichero->Cerrar();
     if (!parcial.isEmpty() && !plataforma::Reemplazar(parcial, ruta))
-        throw Error_Ejecucion(70, Descripcion_Error(70) + QStringLiteral(": ") + ruta);
+        throw Error_Ejecucion::Con(70, ruta);
 }
 
 void Fichero_Destino::Escribir(const QString& ruta, const QByteArray& bytes)

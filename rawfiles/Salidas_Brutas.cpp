@@ -113,12 +113,6 @@ const Salida_Bruta SALIDAS[] = {
 
 } // namespace
 
-Peticiones_Rawfiles& Peticiones_De_Rawfiles()
-{
-    static Peticiones_Rawfiles unicas;
-    return unicas;
-}
-
 std::span<const Salida_Bruta> Salidas_Brutas()
 {
     return SALIDAS;

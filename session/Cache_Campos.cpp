@@ -1,5 +1,6 @@
 #include "core/ModEstTotal.h"
 #include "core/Sucesos.h"
+#include "core/Texto_SQL.h"
 #include "session/Decodificador.h"
 
 #include <algorithm>
@@ -13,12 +14,7 @@ constexpr qint64 MAX_DIGITOS = 32767;
 
 using Clave = std::pair<QString, QString>;
 
-QString Doblar(const QString& texto)
-{
-    return Reemplazar(texto, "'", "''");
-}
-
-Fila_Campo Fila_De(const Conjunto_Registros& campos)
+Fila_Campo Leer_Fila(const Conjunto_Registros& campos)
 {
     Fila_Campo f;
     f.maquina = campos.Texto("Maquina");
@@ -70,7 +66,7 @@ private:
             bd.OpenRecordset("SELECT * FROM Campos WHERE Maquina = '" + Doblar(maquina) +
                              "' AND ID = '" + Doblar(id) + "' ORDER BY Orden");
         for (; !campos.Es_EOF(); campos.MoveNext())
-            leidas->push_back(Fila_De(campos));
+            leidas->push_back(Leer_Fila(campos));
         return leidas;
     }
 
@@ -85,26 +81,26 @@ Filas_Campo Campos_De(Base& bd, const QString& maquina, const QString& id)
     return Cache_Campos::Unica().Pedir(bd, maquina, id);
 }
 
-std::optional<Fila_Campo> Buscar_Campo_G(Base& bd, const QString& nombre, const QString& maquina,
+std::optional<Fila_Campo> Buscar_Campo_G(Base& bd, const QString& nombre, const Familia& familia,
                                          int ope)
 {
     Conjunto_Registros campos = bd.OpenRecordset("Campos");
     campos.Index("MaqCam");
-    campos.Seek({maquina, nombre});
+    campos.Seek({familia.clave, nombre});
     if (campos.NoMatch()) return std::nullopt;
-    Fila_Campo campo = Fila_De(campos);
+    Fila_Campo campo = Leer_Fila(campos);
 
     Conjunto_Registros identificadores = bd.OpenRecordset("Identificadores");
     identificadores.Index("PrimaryKey");
-    identificadores.Seek({maquina, ope, campo.id});
+    identificadores.Seek({familia.clave, ope, campo.id});
     if (identificadores.NoMatch() || identificadores.Texto("tipo") != u"G") return std::nullopt;
     return campo;
 }
 
-int Posicion_Campo(Base& bd, const QString& id, int orden)
+int Posicion_Campo(Base& bd, const Familia& familia, const QString& id, int orden)
 {
     int posicion = 1;
-    for (const Fila_Campo& campo : *Campos_De(bd, Clave_Estacion, id))
+    for (const Fila_Campo& campo : *Campos_De(bd, familia.clave, id))
         if (campo.orden < orden) posicion += campo.digitos;
     return posicion;
 }

@@ -1,31 +1,14 @@
 #include "session/Consultas_Sesion.h"
 
+#include "core/Estado_Global.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "core/Sesiones.h"
+#include "core/Texto_SQL.h"
+#include "session/Identificador.h"
 
 bool Tipo_Ficheros_Puntos = false;
-
-namespace {
-
-QString Doblar(const QString& texto)
-{
-    return Reemplazar(texto, "'", "''");
-}
-
-// What ties a line to its row of `Identificadores`, so that each line is listed once.
-QString Condicion_Descripcion(const Sesion_Elegida& sesion)
-{
-    const QString de_la_operacion = " AND Identificadores.Nombre = '" + Doblar(sesion.maquina) +
-                                    "' AND Identificadores.OPE = " + QString::number(sesion.ope);
-    if (sesion.maquina != u"KRT800")
-        return "Mid(LTRIM(Datos),1,1) = Mid(Identificadores.Id,1,1)" + de_la_operacion;
-    if (sesion.ope == 4) return "Identificadores.Id = 'Punto'" + de_la_operacion;
-    if (sesion.ope == 7) return "Identificadores.Id = 'Per.Trans'" + de_la_operacion;
-    return "Trim(Mid(LTRIM(Datos),1,InSTR(1,LTRIM(Datos) || ' ',' '))) = Trim(Identificadores.Id)" +
-           de_la_operacion;
-}
-
-} // namespace
+[[maybe_unused]] static const bool anotado = Estado_Global::Anotar(Tipo_Ficheros_Puntos);
 
 bool Es_Fichero_De_Puntos(const QString& wope)
 {
@@ -99,18 +82,24 @@ bool Comprobar_Hay_Registros(Base& bd, qint64 id)
 Vista_Datos Preparar_Vista(const Sesion_Elegida& sesion)
 {
     const QString id = QString::number(sesion.id);
+    const Familia& familia = Familia_De(sesion.maquina);
+    const Operacion operacion{sesion.ope};
     Vista_Datos vista;
-    if (sesion.maquina == u"KRT800" && sesion.ope == 5)
+    // The jobs of series B are any lines, which no row of `Identificadores` describes.
+    if (familia.serie == Serie::B && operacion == Operacion::Trabajo)
         vista.sql =
             "SELECT '' as Descr,Punto,Datos,DatosG FROM Registros WHERE Registros.id=" + id +
             " ORDER BY Secuencia";
     else
         vista.sql = "SELECT Punto,NomID as Descr,Datos,DatosG FROM Registros,Identificadores WHERE "
                     "Registros.id=" +
-                    id + " AND " + Condicion_Descripcion(sesion) + " ORDER BY Secuencia";
+                    id + " AND " + Condicion_Descripcion(familia, sesion.ope) +
+                    " AND Identificadores.Nombre = '" + Doblar(sesion.maquina) +
+                    "' AND Identificadores.OPE = " + QString::number(sesion.ope) +
+                    " ORDER BY Secuencia";
     vista.titulo = "Datos de la sesión con id (" + id + ")   (" + sesion.wope + ")";
-    vista.columna_punto = sesion.ope == 1 || sesion.ope == 4;
-    vista.columna_descr = sesion.ope != 5;
+    vista.columna_punto = operacion == Operacion::Coordenadas || operacion == Operacion::Puntos;
+    vista.columna_descr = operacion != Operacion::Trabajo;
     return vista;
 }
 
@@ -134,12 +123,13 @@ std::optional<Vista_Datos> Ver_Datos(Base& bd, const std::optional<Sesion_Elegid
 QList<Linea_Rejilla> Datos_Generales(Base& bd, const Sesion_Elegida& sesion, const QString& datosg)
 {
     QList<Linea_Rejilla> lineas;
+    const bool con_nombre = Familia_De(sesion.maquina).serie == Serie::B;
     Conjunto_Registros identificadores = bd.OpenRecordset("Identificadores");
     identificadores.Index("PrimaryKey");
     for (const QString& pieza : datosg.split(QChar(SEP_LISTA))) {
         const QString registro = Basico::Trim(pieza);
         if (registro.isEmpty()) continue;
-        if (sesion.maquina == u"KRT800") {
+        if (con_nombre) {
             lineas.append({Trozo(2, pieza, SEP_CAMPO), Trozo(3, pieza, SEP_CAMPO)});
             continue;
         }

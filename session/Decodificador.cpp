@@ -2,44 +2,13 @@
 
 #include "core/ModEstTotal.h"
 #include "core/ModLOG.h"
+#include "session/Blancos.h"
+#include "session/Identificador.h"
 #include "session/Nivel.h"
 
 #include <algorithm>
 
 namespace {
-
-QStringView Sin_Blancos_Izquierda(QStringView t)
-{
-    qsizetype i = 0;
-    while (i < t.size() && t[i] == u' ')
-        ++i;
-    return t.mid(i);
-}
-
-QStringView Sin_Blancos(QStringView t)
-{
-    t = Sin_Blancos_Izquierda(t);
-    qsizetype n = t.size();
-    while (n > 0 && t[n - 1] == u' ')
-        --n;
-    return t.left(n);
-}
-
-QStringView Primera_Palabra(QStringView linea)
-{
-    linea = Sin_Blancos_Izquierda(linea);
-    const qsizetype blanco = linea.indexOf(u' ');
-    return blanco < 0 ? linea : linea.left(blanco);
-}
-
-QStringView Vista_Id(QStringView linea, QStringView maquina, int ope)
-{
-    if (maquina == u"NV400") return u"1";
-    if (maquina != u"KRT800") return Sin_Blancos_Izquierda(linea).left(1);
-    return ope == 4   ? QStringView(u"Punto")
-           : ope == 7 ? QStringView(u"Per.Trans")
-                      : Primera_Palabra(linea);
-}
 
 QStringView Vista_Trozo(int n, QStringView linea, QChar sep)
 {
@@ -89,17 +58,10 @@ QString Sin_Ceros(QStringView entera)
     }
     if (!std::ranges::all_of(t, [](QChar c) { return c >= u'0' && c <= u'9'; }))
         throw Error_Ejecucion(13);
-    while (t.size() > 1 && t.front() == u'0')
+    while (!t.isEmpty() && t.front() == u'0')
         t = t.mid(1);
     const QString cifras = t.isEmpty() ? QStringLiteral("0") : t.toString();
     return negativo ? u'-' + cifras : cifras;
-}
-
-// The offset that a mark adds; null for a mark that is no coordinate's.
-const QString* Desplazamiento_De(const QString& marca)
-{
-    const auto es = [&](QStringView cual) { return marca.compare(cual, Qt::CaseInsensitive) == 0; };
-    return es(u"CX") ? &Desp_X : es(u"CY") ? &Desp_Y : es(u"CZ") ? &Desp_Z : nullptr;
 }
 
 const QString& Formato_Coordenada()
@@ -108,14 +70,16 @@ const QString& Formato_Coordenada()
     return formato;
 }
 
-std::optional<Sumador> Sumador_De(const Fila_Campo& campo)
+std::optional<Sumador> Sumador_De(const Suma& suma, const Fila_Campo& campo)
 {
-    const QString* const desplazamiento = Desplazamiento_De(campo.marcas);
+    const QString* const desplazamiento = suma.desplazamientos.De_Marca(campo.marcas);
     if (!desplazamiento) return std::nullopt;
-    return Sumador(*desplazamiento, Formato_Coordenada(), campo.posdigit, Formato_Coordenada());
+    return Sumador(suma.familia, *desplazamiento, Formato_Coordenada(), campo.posdigit,
+                   Formato_Coordenada());
 }
 
-// A coordinate's first place is its sign's: what isn't "-" there counts as "+".
+// A coordinate's first place is its sign's. Deliberate: what isn't "-" there counts as "+", a digit
+// too.
 QString Sumar_Coordenada(QStringView corte, const std::optional<Sumador>& sumador)
 {
     const bool con_signo = corte.front() == u'-' || corte.front() == u'+';
@@ -164,7 +128,7 @@ std::optional<QString> Valor_De_Token(QStringView token, const Fila_Campo& campo
 // @return nothing when there is no blank behind the word, so that the line holds no fields
 std::optional<QStringView> Sin_Palabra(QStringView linea, int ope)
 {
-    if (ope == 4 || ope == 7) return linea;
+    if (!Fila_De(Operacion(ope)).id_fijo.isEmpty()) return linea;
     linea = Sin_Blancos_Izquierda(linea);
     const qsizetype blanco = linea.indexOf(u' ');
     if (blanco < 0) return std::nullopt;
@@ -173,7 +137,7 @@ std::optional<QStringView> Sin_Palabra(QStringView linea, int ope)
 
 QChar Separador_800(int ope)
 {
-    return ope == 6 ? u' ' : u',';
+    return Operacion(ope) == Operacion::Alineaciones ? u' ' : u',';
 }
 
 // Item of a KRT800 `DatosG` that holds a field: identifier, field and value.
@@ -197,11 +161,6 @@ template <typename Rutina> void En_Silencio(const char* nombre, Rutina&& rutina)
 }
 
 } // namespace
-
-QString Id_De_Linea(const QString& linea, const QString& maquina, int ope)
-{
-    return Vista_Id(linea, maquina, ope).toString();
-}
 
 QString Aplicar_Digitos(const QString& posdigit, const QString& valor, const QString& caracter)
 {
@@ -240,28 +199,28 @@ QString Aplicar_Especial(const QString& valor, const QString& lista)
     return v;
 }
 
-QString Aplicar_Marca(const QString& modo, const QString& marca, const QString& valor,
-                      const QString& posdigit)
+QString Aplicar_Marca(const Suma& suma, const QString& modo, const QString& marca,
+                      const QString& valor, const QString& posdigit)
 {
-    const QString* const desplazamiento = Desplazamiento_De(marca);
+    const QString* const desplazamiento = suma.desplazamientos.De_Marca(marca);
     if (!desplazamiento) return valor;
-    return Sumar_Desplazamiento(modo, *desplazamiento, Formato_Coordenada(), valor, posdigit,
-                                Formato_Coordenada());
+    return Sumar_Desplazamiento(suma.familia, modo, *desplazamiento, Formato_Coordenada(), valor,
+                                posdigit, Formato_Coordenada());
 }
 
-void Cortar_Campo(const QString& linea, int posicion, const Fila_Campo& campo,
+void Cortar_Campo(const Suma& suma, const QString& linea, int posicion, const Fila_Campo& campo,
                   const QStringList& nombres, QStringList& valores)
 {
     const qsizetype lugar = nombres.indexOf(campo.campo);
     if (lugar < 0) return;
     valores[lugar].clear();
     En_Silencio("Cortar_Campo", [&] {
-        valores[lugar] = Valor_De_Columnas(linea, posicion, campo, Sumador_De(campo));
+        valores[lugar] = Valor_De_Columnas(linea, posicion, campo, Sumador_De(suma, campo));
     });
 }
 
-void Cortar_Token_800(int ope, const QString& linea, int indice, const Fila_Campo& campo,
-                      const QStringList& nombres, QStringList& valores)
+void Cortar_Token_800(const Suma& suma, int ope, const QString& linea, int indice,
+                      const Fila_Campo& campo, const QStringList& nombres, QStringList& valores)
 {
     const auto resto = Sin_Palabra(linea, ope);
     const qsizetype lugar = nombres.indexOf(campo.campo);
@@ -269,13 +228,14 @@ void Cortar_Token_800(int ope, const QString& linea, int indice, const Fila_Camp
     const QStringView token = Vista_Trozo(indice, *resto, Separador_800(ope));
     QString valor;
     En_Silencio("Cortar_Token_800", [&] {
-        valor = Valor_De_Token(token, campo, Sumador_De(campo)).value_or(valores[lugar]);
+        valor = Valor_De_Token(token, campo, Sumador_De(suma, campo)).value_or(valores[lugar]);
     });
     valores[lugar] = valor;
 }
 
 void Cortar_NV400(const QString& linea, const QStringList& nombres, QStringList& valores)
 {
+    // Deliberate: by position whatever the names say, and the last place is left alone.
     for (qsizetype k = 1; k < nombres.size(); ++k)
         valores[k - 1] = Campo_NV400(linea, int(k));
 }
@@ -314,14 +274,17 @@ void Decodificar_General(Base& bd, const QString& datosg, const QString& maquina
                 [&] { Decodificador(bd, maquina, ope, nombres).General(datosg, valores); });
 }
 
-Decodificador::Decodificador(Base& base, const QString& maquina_, int operacion,
+// The one place where the decoding looks at the program's state.
+Decodificador::Decodificador(Base& base, const QString& maquina, int operacion,
                              const QStringList& pedidos)
-    : bd(base), maquina(maquina_), ope(operacion), nombres(pedidos),
-      familia(maquina == u"KRT300" || maquina == u"PX7" ? Familia::Columnas
-              : maquina == u"KRT800"                    ? Familia::KRT800
-              : maquina == u"NV400"                     ? Familia::NV400
-                                                        : Familia::Otra),
-      nivel(Clave_Estacion == u"NV400")
+    : Decodificador(base, Familia_De(maquina), operacion, pedidos,
+                    {Familia_Actual(), Desplazamientos::En_Vigor()})
+{
+}
+
+Decodificador::Decodificador(Base& base, const Familia& de, int operacion,
+                             const QStringList& pedidos, Suma suma_)
+    : bd(base), familia(de), ope(operacion), nombres(pedidos), suma(std::move(suma_))
 {
     for (qsizetype i = 0; i < nombres.size(); ++i)
         if (nombres[i].compare(u"PUNTO", Qt::CaseInsensitive) == 0) puntos.push_back(i);
@@ -342,13 +305,14 @@ const Decodificador::Registro& Decodificador::Preparar(QStringView id)
 Decodificador::Registro Decodificador::Leer_Registro(const QString& id) const
 {
     Registro registro;
-    registro.filas = Campos_De(bd, maquina, id);
-    const bool por_trozos = familia == Familia::KRT800;
+    registro.filas = Campos_De(bd, familia.clave, id);
+    const bool por_trozos = familia.serie == Serie::B;
     int posicion = por_trozos ? 1 : 2;
     for (const Fila_Campo& campo : *registro.filas) {
         const qsizetype lugar = nombres.indexOf(campo.campo);
+        // Deliberate: a field that isn't listed ("NL") is still decoded in fixed columns.
         if (lugar >= 0 && !(por_trozos && campo.marcas == u"NL"))
-            registro.pasos.push_back({lugar, posicion, &campo, Sumador_De(campo)});
+            registro.pasos.push_back({lugar, posicion, &campo, Sumador_De(suma, campo)});
         posicion += por_trozos ? 1 : campo.digitos;
     }
     return registro;
@@ -371,23 +335,26 @@ void Decodificador::Guardar(QString& valor, QStringView linea, Valor&& sacar)
 
 void Decodificador::Linea(QStringView linea, QStringList& valores)
 {
-    const Registro& registro = Preparar(nivel ? QStringView(u"1") : Vista_Id(linea, maquina, ope));
-    if (familia == Familia::Columnas) {
+    // The level's lines are all of one kind; so is any other session's while it is in force.
+    const Registro& registro = Preparar(
+        suma.familia.serie == Serie::Nivel ? QStringView(u"1") : Id_De_Linea(linea, familia, ope));
+    if (familia.serie == Serie::A) {
         const QStringView recortada = Sin_Blancos(linea);
         for (const Paso& paso : registro.pasos)
             Guardar(valores[paso.lugar], linea, [&] {
                 return Valor_De_Columnas(recortada, paso.posicion, *paso.campo, paso.sumador);
             });
-    } else if (familia == Familia::KRT800) {
+    } else if (familia.serie == Serie::B) {
         const auto resto = Sin_Palabra(linea, ope);
         if (!resto) return;
         for (const Paso& paso : registro.pasos) {
             QString& valor = valores[paso.lugar];
             const QStringView token = Vista_Trozo(paso.posicion, *resto, Separador_800(ope));
-            Guardar(valor, linea,
-                    [&] { return Valor_De_Token(token, *paso.campo, paso.sumador).value_or(valor); });
+            Guardar(valor, linea, [&] {
+                return Valor_De_Token(token, *paso.campo, paso.sumador).value_or(valor);
+            });
         }
-    } else if (familia == Familia::NV400 && !registro.filas->empty()) {
+    } else if (familia.serie == Serie::Nivel && !registro.filas->empty()) {
         Cortar_NV400(linea.toString(), nombres, valores);
     }
 }
@@ -396,12 +363,13 @@ void Decodificador::Preparar_Generales()
 {
     generales.emplace();
     for (qsizetype i = 0; i < nombres.size(); ++i) {
-        auto campo = Buscar_Campo_G(bd, nombres[i], maquina, ope);
+        auto campo = Buscar_Campo_G(bd, nombres[i], familia, ope);
         // Only the fields marked so travel in the general data of a KRT800.
-        if (!campo || (familia == Familia::KRT800 && campo->marcas != u"GE")) continue;
+        if (!campo || (familia.serie == Serie::B && campo->marcas != u"GE")) continue;
         // A general value never gets an offset.
         campo->marcas.clear();
-        generales->push_back({i, Posicion_Campo(bd, campo->id, campo->orden), std::move(*campo)});
+        const int posicion = Posicion_Campo(bd, suma.familia, campo->id, campo->orden);
+        generales->push_back({i, posicion, std::move(*campo)});
     }
 }
 
@@ -416,7 +384,7 @@ void Decodificador::General(const QString& datosg, QStringList& valores)
     if (datosg.isEmpty() || !Hay_Generales()) return;
     for (const General_Pedido& pedido : *generales) {
         QString& valor = valores[pedido.lugar];
-        if (familia == Familia::KRT800) {
+        if (familia.serie == Serie::B) {
             if (const auto token = Valor_General_800(datosg, pedido.campo))
                 Guardar(valor, datosg, [&] {
                     return Valor_De_Token(*token, pedido.campo, std::nullopt).value_or(valor);

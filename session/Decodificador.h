@@ -1,5 +1,8 @@
 #pragma once
 
+// The form: docs/formas/tablas.md
+
+#include "core/Familia.h"
 #include "core/jet/Base.h"
 #include "session/Desplazamiento.h"
 
@@ -35,17 +38,12 @@ using Filas_Campo = std::shared_ptr<const std::vector<Fila_Campo>>;
 Filas_Campo Campos_De(Base& bd, const QString& maquina, const QString& id);
 
 /// The field `nombre` of a family when it belongs to a general record of the operation.
-std::optional<Fila_Campo> Buscar_Campo_G(Base& bd, const QString& nombre, const QString& maquina,
+std::optional<Fila_Campo> Buscar_Campo_G(Base& bd, const QString& nombre, const Familia& familia,
                                          int ope);
 
 /// Place, from 1, where a field of a general record begins behind the record's identifier: the
-/// widths of the fields below `orden`, as the family in force (`Clave_Estacion`) has them.
-int Posicion_Campo(Base& bd, const QString& id, int orden);
-
-/// Identifier of a stored line of a session: its first character (KRT300, PX7), "Punto",
-/// "Per.Trans" or the first word (KRT800, operations 4, 7 and others), "1" (NV400); blanks at the
-/// left don't count.
-QString Id_De_Linea(const QString& linea, const QString& maquina, int ope);
+/// widths of the fields below `orden`, as the rows of `familia` have them.
+int Posicion_Campo(Base& bd, const Familia& familia, const QString& id, int orden);
 
 // The steps of the decoding, each on one text.
 
@@ -62,21 +60,27 @@ QString Aplicar_Digitos(const QString& posdigit, const QString& valor, const QSt
 /// @throws Error_Ejecucion 13 when "CI" finds an integer part that is no number
 QString Aplicar_Especial(const QString& valor, const QString& lista);
 
+/// How the decoding adds offsets: in the form of a family.
+struct Suma {
+    const Familia& familia;
+    Desplazamientos desplazamientos;
+};
+
 /// Adds the offset of the axis that `marca` names ("CX", "CY", "CZ" in any case); any other mark
 /// returns the value. Parameters and errors as in `Sumar_Desplazamiento`.
-QString Aplicar_Marca(const QString& modo, const QString& marca, const QString& valor,
-                      const QString& posdigit);
+QString Aplicar_Marca(const Suma& suma, const QString& modo, const QString& marca,
+                      const QString& valor, const QString& posdigit);
 
 /// Cuts a field from fixed columns and stores it in the place of its name.
 /// @param posicion  first column of the field, from 1
-void Cortar_Campo(const QString& linea, int posicion, const Fila_Campo& campo,
+void Cortar_Campo(const Suma& suma, const QString& linea, int posicion, const Fila_Campo& campo,
                   const QStringList& nombres, QStringList& valores);
 
 /// Cuts a field of a KRT800 line and stores it, unless the instrument sent "*" for it (no data: the
 /// old value stays) or the field isn't listed ("NL").
 /// @param indice  number of the token that holds it, from 1
-void Cortar_Token_800(int ope, const QString& linea, int indice, const Fila_Campo& campo,
-                      const QStringList& nombres, QStringList& valores);
+void Cortar_Token_800(const Suma& suma, int ope, const QString& linea, int indice,
+                      const Fila_Campo& campo, const QStringList& nombres, QStringList& valores);
 
 /// Fills the places 1 to n - 1 of a list of n values with the fields of a level line, by position:
 /// names don't count, and the last place is spare.
@@ -89,7 +93,8 @@ void Cortar_NV400(const QString& linea, const QStringList& nombres, QStringList&
 void Extraer_Punto(Base& bd, qint64 sesion, const QString& maquina, int ope, const QString& punto,
                    qint64 desde, qint64 hasta, const QStringList& nombres, QStringList& valores);
 
-/// Decodes one line. @param maquina, ope  those of the session, not of the model in force
+/// Decodes one line.
+/// @param maquina, ope  those of the session, not of the model in force
 void Decodificar_Linea(Base& bd, const QString& linea, const QString& punto, const QString& maquina,
                        int ope, const QStringList& nombres, QStringList& valores);
 
@@ -101,8 +106,13 @@ void Decodificar_General(Base& bd, const QString& datosg, const QString& maquina
 /// `Campos` say is worked out once a record kind. The routines above are this object used once.
 class Decodificador {
 public:
-    /// The family and the offsets in force are those of this moment.
+    /// The model and the offsets in force are those of this moment.
     Decodificador(Base& bd, const QString& maquina, int ope, const QStringList& nombres);
+    /// @param familia, ope  those of the session
+    /// @param suma  of the model in force, which decides three things whatever the session: while it
+    ///              is the level every line is of kind "1", coordinates are added in its form, and
+    ///              the columns of a general field are counted in its rows
+    Decodificador(Base& bd, const Familia& familia, int ope, const QStringList& nombres, Suma suma);
     Decodificador(const Decodificador&) = delete;
     Decodificador& operator=(const Decodificador&) = delete;
 
@@ -136,11 +146,10 @@ private:
     template <typename Valor> void Guardar(QString& valor, QStringView linea, Valor&& sacar);
 
     Base& bd;
-    QString maquina;
+    const Familia& familia;
     int ope;
     QStringList nombres;
-    enum class Familia { Columnas, KRT800, NV400, Otra } familia;
-    bool nivel; // the model in force is the level: every line is of kind "1"
+    Suma suma;
     std::map<QString, Registro, std::less<>> registros;
     std::array<const Registro*, 256> por_letra{};
     std::optional<std::vector<General_Pedido>> generales;

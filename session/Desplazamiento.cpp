@@ -1,5 +1,6 @@
 #include "session/Desplazamiento.h"
 
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 
 #include <algorithm>
@@ -15,9 +16,10 @@ bool Separar_Signo(QStringView& t)
     return negativo;
 }
 
-QString Desplazamiento_Aceptado(const QString& texto, const QString& formato)
+QString Desplazamiento_Aceptado(const Familia& familia, const QString& texto,
+                                const QString& formato)
 {
-    if (Clave_Estacion == u"KRT300") return Forma_Fija(texto, formato);
+    if (familia.desplazamiento_fijo) return Forma_Fija(texto, formato);
     return texto.isEmpty() ? QStringLiteral("0") : texto;
 }
 
@@ -34,9 +36,7 @@ Anchos_Numero Anchos_Numero::Leer(QStringView formato)
     };
     const qsizetype coma = formato.indexOf(u',');
     if (coma < 0) return {ancho(formato), 0};
-    const QStringView segundo = formato.mid(coma + 1);
-    const qsizetype otra = segundo.indexOf(u',');
-    return {ancho(formato.left(coma)), ancho(otra < 0 ? segundo : segundo.left(otra))};
+    return {ancho(formato.left(coma)), ancho(formato.mid(coma + 1))};
 }
 
 Decimal Valor_Desplazamiento(const QString& texto, const QString& formato)
@@ -51,12 +51,20 @@ Decimal Valor_Desplazamiento(const QString& texto, const QString& formato)
     return negativo ? -numero : numero;
 }
 
-Sumador::Sumador(const QString& desp, const QString& formato_desp, const QString& posdigit,
-                 const QString& formato_suma)
-    : forma(Clave_Estacion == u"KRT300" || Clave_Estacion == u"PX7" ? Forma::KRT300
-            : Clave_Estacion == u"KRT800"                           ? Forma::KRT800
-                                                                    : Forma::Ninguna),
-      desplazamiento(Valor_Desplazamiento(desp, formato_desp)),
+Desplazamientos Desplazamientos::En_Vigor()
+{
+    return {Desp_X, Desp_Y, Desp_Z};
+}
+
+const QString* Desplazamientos::De_Marca(QStringView marca) const
+{
+    const auto es = [&](QStringView cual) { return marca.compare(cual, Qt::CaseInsensitive) == 0; };
+    return es(u"CX") ? &x : es(u"CY") ? &y : es(u"CZ") ? &z : nullptr;
+}
+
+Sumador::Sumador(const Familia& familia, const QString& desp, const QString& formato_desp,
+                 const QString& posdigit, const QString& formato_suma)
+    : serie(familia.serie), desplazamiento(Valor_Desplazamiento(desp, formato_desp)),
       anchos(Anchos_Numero::Leer(formato_desp)),
       decimales_campo(Anchos_Numero::Leer(posdigit).decimales),
       decimales_suma(Anchos_Numero::Leer(formato_suma).decimales)
@@ -64,7 +72,7 @@ Sumador::Sumador(const QString& desp, const QString& formato_desp, const QString
 }
 
 // A sign and digits that hold no point of their own.
-Decimal Sumador::Valor_KRT300(QStringView valor) const
+Decimal Sumador::Valor_Sin_Punto(QStringView valor) const
 {
     QStringView t = valor.trimmed();
     const bool negativo = Separar_Signo(t);
@@ -77,20 +85,21 @@ Decimal Sumador::Valor_KRT300(QStringView valor) const
 
 QString Sumador::Sumar(QStringView valor, bool de_cable) const
 {
-    if (valor.isEmpty() || forma == Forma::Ninguna) return {};
-    const Decimal coordenada =
-        forma == Forma::KRT300 ? Valor_KRT300(valor) : Decimal::Prefijo(valor);
+    if (valor.isEmpty() || (serie != Serie::A && serie != Serie::B)) return {};
+    const Decimal coordenada = serie == Serie::A ? Valor_Sin_Punto(valor) : Decimal::Prefijo(valor);
     const Decimal suma = coordenada + desplazamiento;
-    if (!de_cable || forma != Forma::KRT300) return suma.Texto_Fijo(decimales_suma);
+    if (!de_cable || serie != Serie::A) return suma.Texto_Fijo(decimales_suma);
     return (suma.Negativo() ? u'-' : u'+') +
            QString::number(suma.Entera()).rightJustified(6, u'0') + suma.Decimales(decimales_suma);
 }
 
-QString Sumar_Desplazamiento(const QString& modo, const QString& desplazamiento,
-                             const QString& formato_desp, const QString& valor,
-                             const QString& posdigit, const QString& formato_suma)
+QString Sumar_Desplazamiento(const Familia& familia, const QString& modo,
+                             const QString& desplazamiento, const QString& formato_desp,
+                             const QString& valor, const QString& posdigit,
+                             const QString& formato_suma)
 {
-    return Sumador(desplazamiento, formato_desp, posdigit, formato_suma).Sumar(valor, modo == u"C");
+    return Sumador(familia, desplazamiento, formato_desp, posdigit, formato_suma)
+        .Sumar(valor, modo == u"C");
 }
 
 QString Forma_Fija(const QString& texto, const QString& formato)
@@ -98,6 +107,7 @@ QString Forma_Fija(const QString& texto, const QString& formato)
     const auto [e, d] = Anchos_Numero::Leer(formato);
     QStringView t = texto;
     const bool negativo = Separar_Signo(t);
+    // Deliberate: one zero fewer than the fixed form has digits.
     if (t.isEmpty()) return QString(std::max(0, e + d - 1), u'0');
 
     QString cifras;
@@ -114,6 +124,7 @@ QString Forma_Fija(const QString& texto, const QString& formato)
 Efecto_Tecla Tecla_Desplazamiento(const QString& texto, qsizetype caret, QChar tecla)
 {
     if ((tecla >= u'0' && tecla <= u'9') || tecla == u'\b') return {.pasa = true, .texto = {}};
+    // Deliberate: a sign wipes what was typed before it, so that it comes first.
     if (tecla == u'-') {
         if (texto.contains(u'-')) return {.pita = true, .texto = {}};
         return {.texto = QStringLiteral("-"), .caret = caret + 1};
@@ -144,7 +155,9 @@ void Quitar_Desplazamientos()
 void Poner_Desplazamientos(const QString& x, const QString& y, const QString& z,
                            const QString& formato)
 {
-    Desp_X = Desplazamiento_Aceptado(x, formato);
-    Desp_Y = Desplazamiento_Aceptado(y, formato);
-    Desp_Z = Desplazamiento_Aceptado(z, formato);
+    // The user types for the model in force: its own files have this form.
+    const Familia& familia = Familia_Actual();
+    Desp_X = Desplazamiento_Aceptado(familia, x, formato);
+    Desp_Y = Desplazamiento_Aceptado(familia, y, formato);
+    Desp_Z = Desplazamiento_Aceptado(familia, z, formato);
 }

@@ -5,6 +5,9 @@
 #include <optional>
 #include <QString>
 
+enum class Serie;
+struct Familia;
+
 /// Coordinate offsets: the texts that the user types for them, and their addition to a coordinate.
 /// One reading of an offset's text serves the decoder and every upload.
 
@@ -25,30 +28,38 @@ struct Anchos_Numero {
 /// @throws Error_Ejecucion 6 when it is beyond 18 integer digits
 Decimal Valor_Desplazamiento(const QString& texto, const QString& formato);
 
-/// The addition of one offset to many coordinates, as the family in force (`Clave_Estacion`) writes
-/// them. KRT800: the value is decimal text. KRT300 and PX7: a sign and a run of digits whose last
-/// ten count, with the decimals of `posdigit`, or, with a point in it, decimal text. The sum is
-/// exact; its decimals are rounded half to even and a carry out of them is lost.
+/// The offsets of the three axes, as texts; "0" means none.
+struct Desplazamientos {
+    QString x = QStringLiteral("0"), y = x, z = x;
+    /// The ones in force: `Desp_X`, `Desp_Y`, `Desp_Z`.
+    static Desplazamientos En_Vigor();
+    /// The offset that a mark of `Campos` adds: "CX", "CY", "CZ" in any case; null for any other.
+    const QString* De_Marca(QStringView marca) const;
+};
+
+/// The addition of one offset to many coordinates, as a family writes them. Series B: the value is
+/// decimal text. Series A: a sign and a run of digits whose last ten count, with the decimals of
+/// `posdigit`, or, with a point in it, decimal text. The sum is exact; its decimals are rounded half
+/// to even. Deliberate: a carry out of them is lost, so that 0.9996 gives "0.000".
 class Sumador {
 public:
+    /// @param familia  whose coordinates they are
     /// @param formato_desp  "e,d" of the offset's text
     /// @param posdigit  `Campos.PosDigit` of the coordinate's field
     /// @param formato_suma  "e,d" of the sum: its decimals are written
-    Sumador(const QString& desplazamiento, const QString& formato_desp, const QString& posdigit,
-            const QString& formato_suma);
+    Sumador(const Familia& familia, const QString& desplazamiento, const QString& formato_desp,
+            const QString& posdigit, const QString& formato_suma);
 
-    /// @param de_cable  KRT300 and PX7 only: the wire form, a sign and nine digits, ten from
-    /// 1,000,000
+    /// @param de_cable  series A only: the wire form, a sign and nine digits, ten from 1,000,000
     ///                  up, instead of signed decimal text
     /// @return an empty text for an empty value and for a family without coordinates
-    /// @throws Error_Ejecucion 13 when the value of a KRT300 or PX7 is no number, 6 when it is too
-    /// long
+    /// @throws Error_Ejecucion 13 when a value of series A is no number, 6 when it is too long
     QString Sumar(QStringView valor, bool de_cable = false) const;
 
 private:
-    Decimal Valor_KRT300(QStringView valor) const;
+    Decimal Valor_Sin_Punto(QStringView valor) const;
 
-    enum class Forma { KRT300, KRT800, Ninguna } forma;
+    Serie serie;
     Decimal desplazamiento;
     Anchos_Numero anchos;
     int decimales_campo, decimales_suma;
@@ -56,9 +67,10 @@ private:
 
 /// One such addition. @param modo  "D": signed decimal text; "C": the wire form
 /// The other parameters, result and errors as in `Sumador`.
-QString Sumar_Desplazamiento(const QString& modo, const QString& desplazamiento,
-                             const QString& formato_desp, const QString& valor,
-                             const QString& posdigit, const QString& formato_suma);
+QString Sumar_Desplazamiento(const Familia& familia, const QString& modo,
+                             const QString& desplazamiento, const QString& formato_desp,
+                             const QString& valor, const QString& posdigit,
+                             const QString& formato_suma);
 
 /// The form without a point that the KRT300 family uses in its own files: e + d digits, with "-" in
 /// front of a negative number; further decimals and leading digits are dropped. An empty text gives
@@ -82,7 +94,7 @@ QString Teclear_Desplazamiento(const QString& tecleado);
 
 /// No offset on any axis.
 void Quitar_Desplazamientos();
-/// Takes the texts of the three boxes as the offsets in force: a KRT300 takes the fixed form, any
-/// other family the text as typed, an empty box being "0".
+/// Takes the texts of the three boxes as the offsets in force, as the model in force reads them: a
+/// KRT300 takes the fixed form, any other family the text as typed, an empty box being "0".
 void Poner_Desplazamientos(const QString& x, const QString& y, const QString& z,
                            const QString& formato);

@@ -29,7 +29,7 @@ Nodo_Coordenada Arbol_Coordenadas(const QString& lista)
         Nodo_Coordenada nodo{Trozo(1, punto, SEP_CAMPO), PUNTO, {}};
         for (int eje = 0; eje < 3; ++eje) {
             const QString valor = Trozo(eje + 2, punto, SEP_CAMPO);
-            const bool cabe = std::fabs(Basico::Val(Reemplazar(valor, ",", "."))) < LIMITE;
+            const bool cabe = std::fabs(Basico::Val(valor)) < LIMITE;
             nodo.hijos.append(
                 {QStringList{"X: ", "Y: ", "Z: "}[eje] + valor, cabe ? CABE : DESBORDA, {}});
         }

@@ -1,25 +1,20 @@
 #include "session/ModVDatos.h"
 
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "session/Decodificador.h"
 #include "session/Desplazamiento.h"
+#include "session/Identificador.h"
 
 namespace {
 
 QString SQL_Campos(const QString& maquina, int ope, const QString& datos)
 {
-    const QString linea = Basico::LTrim(datos);
-    QString condicion;
-    if (maquina != u"KRT800")
-        condicion = "Mid(ID,1,1) = '" + Reemplazar(linea.left(1), "'", "''");
-    else if (ope == 4)
-        condicion = "ID = 'Punto";
-    else if (ope == 7)
-        condicion = "ID = 'Per.Trans";
-    else
-        condicion = "ID = '" + Reemplazar(Trozo(1, linea, u' '), "'", "''");
+    const Familia& familia = Familia_De(maquina);
+    const QString id = Id_Del_Visor(datos, familia, ope).toString();
     return "SELECT * FROM Campos WHERE Maquina = '" + Reemplazar(maquina, "'", "''") + "' AND " +
-           condicion + "' ORDER BY Orden";
+           (familia.serie == Serie::B ? "ID" : "Mid(ID,1,1)") + " = '" + Reemplazar(id, "'", "''") +
+           "' ORDER BY Orden";
 }
 
 } // namespace
@@ -38,7 +33,7 @@ std::optional<Vista_Registro> Ver_Registro(const QString& maquina, int ope, cons
     vista.valores = QStringList(vista.nombres.size(), QString());
     Quitar_Desplazamientos();
     Decodificar_Linea(*Base_Datos, datos, punto, maquina, ope, vista.nombres, vista.valores);
-    vista.con_botones = ope != 4;
+    vista.con_botones = Operacion(ope) != Operacion::Puntos;
     return vista;
 }
 

@@ -1,6 +1,7 @@
 #include "transfer/Despacho.h"
 
 #include "core/Ayuda.h"
+#include "core/Estado_Global.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "session/Filtro_Extensiones.h"
@@ -132,8 +133,7 @@ void Lanzar_Carga(const Familia& familia, int operacion)
 
 Peticiones_Transfer& Peticiones_De_Transfer()
 {
-    static Peticiones_Transfer unicas;
-    return unicas;
+    return Estado_Global::Unico<Peticiones_Transfer>();
 }
 
 QList<Operacion_Ofrecida> Operaciones_Ofrecidas(const QString& tipo_ope)
@@ -160,7 +160,8 @@ void Lanzar_Operacion(const QString& maquina, int operacion, const QString& tipo
 
 Texto_Recordatorio Leer_Recordatorio()
 {
-    return {"Conecte el aparato al puerto " + Puerto + " y configúrelo con los siguientes parámetros:",
+    return {"Conecte el aparato al puerto " + Puerto +
+                " y configúrelo con los siguientes parámetros:",
             {"Velocidad: " + Velocidad, "Bits de Datos: " + Bits_Datos, "Paridad: " + Paridad,
              "Bit de Parada: " + Bits_Parada}};
 }

@@ -15,7 +15,7 @@ public:
 
     /// Makes `nombre` the model in force. @throws Orden_Rechazada when there is no such model
     void Elegir_Modelo(const QString& nombre) const;
-    /// Makes `clave` the family in force. @throws Orden_Rechazada when it is none of the four
+    /// Makes `clave` the family in force. @throws Orden_Rechazada when there is no such family
     void Elegir_Maquina(const QString& clave) const;
     /// The session `id`, its family being in force from here on.
     /// @throws Orden_Rechazada when there is no such session

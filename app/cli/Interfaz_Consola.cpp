@@ -14,7 +14,9 @@ QString En_Lineas(QString texto)
 
 } // namespace
 
-Interfaz_Consola::Interfaz_Consola(const Contexto& c) : contexto(c), anterior(Poner_Interfaz(this)) {}
+Interfaz_Consola::Interfaz_Consola(const Contexto& c) : contexto(c), anterior(Poner_Interfaz(this))
+{
+}
 
 Interfaz_Consola::~Interfaz_Consola()
 {

@@ -1,6 +1,7 @@
 #include "app/cli/Instalacion.h"
 #include "app/cli/Ordenes_Sesion.h"
 #include "core/Error_Ejecucion.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "formats/ModFormatos.h"
 #include "session/Consultas_Sesion.h"
@@ -10,12 +11,10 @@
 
 namespace {
 
-const QStringList MAQUINAS = {"KRT300", "KRT800", "NV400", "PX7"};
-
 // The families asked for: the one of --maquina, or all.
 QStringList Maquinas_De(const Argumentos& a, const Instalacion& instalacion)
 {
-    if (!a.Hay("maquina")) return MAQUINAS;
+    if (!a.Hay("maquina")) return Claves_Familias();
     instalacion.Elegir_Maquina(a.Opcion("maquina"));
     return {Clave_Estacion};
 }
@@ -33,7 +32,8 @@ int Orden_Modelos(const Contexto& c, const QStringList& palabras)
     Argumentos(palabras, {}).Sueltos(0, 0);
     const Instalacion instalacion(c);
     c.Fila({"Nombre", "Clave", "Velocidades"});
-    for (Recorrido r = Base_Datos->Recorrer("SELECT Nombre, Clave, VelPuerto FROM KRT"); r.Siguiente();)
+    for (Recorrido r = Base_Datos->Recorrer("SELECT Nombre, Clave, VelPuerto FROM KRT");
+         r.Siguiente();)
         c.Fila({r.Texto(0), r.Texto(1), r.Texto(2)});
     return HECHO;
 }
@@ -70,8 +70,10 @@ int Orden_Sesiones(const Contexto& c, const QStringList& palabras)
         }
     }
     std::ranges::stable_sort(filas, std::greater{}, [](const auto& f) { return f.first; });
-    c.Fila({"Id", "Fecha", "Hora", "OPE", "Tipo Fichero", "Nombre de Sesión", "Aparato", "Nº Puntos"});
-    for (const auto& fila : filas) c.Fila(fila.second);
+    c.Fila(
+        {"Id", "Fecha", "Hora", "OPE", "Tipo Fichero", "Nombre de Sesión", "Aparato", "Nº Puntos"});
+    for (const auto& fila : filas)
+        c.Fila(fila.second);
     return HECHO;
 }
 
@@ -93,10 +95,11 @@ int Orden_Formatos(const Contexto& c, const QStringList& palabras)
                 c.Mensaje(nombre + ": " + e.descripcion);
             }
             // Behind 40 characters a field of the level carries the mark of its half.
-            if (maquina == u"NV400")
-                for (QString& campo : campos) campo = Basico::Trim(campo.left(40));
-            c.Fila({nombre, maquina, QString::number(formato->ope), formato->modificable ? "SI" : "NO",
-                    campos.join(u',')});
+            if (Familia_De(maquina).serie == Serie::Nivel)
+                for (QString& campo : campos)
+                    campo = Basico::Trim(campo.left(40));
+            c.Fila({nombre, maquina, QString::number(formato->ope),
+                    formato->modificable ? "SI" : "NO", campos.join(u',')});
         }
     return HECHO;
 }
@@ -108,10 +111,12 @@ int Orden_Ver(const Contexto& c, const QStringList& palabras)
     const Instalacion instalacion(c);
     const Sesion_Elegida sesion = instalacion.Elegir_Sesion(id);
     Recorrido r = Base_Datos->Recorrer(
-        "SELECT Secuencia, Punto, Datos, DatosG FROM Registros WHERE ID = ? ORDER BY Secuencia", {id});
+        "SELECT Secuencia, Punto, Datos, DatosG FROM Registros WHERE ID = ? ORDER BY Secuencia",
+        {id});
     if (!a.Hay("campos")) {
         c.Fila({"Secuencia", "Punto", "Datos", "DatosG"});
-        while (r.Siguiente()) c.Fila({r.Texto(0), r.Texto(1), r.Texto(2), Legible(r.Texto(3))});
+        while (r.Siguiente())
+            c.Fila({r.Texto(0), r.Texto(1), r.Texto(2), Legible(r.Texto(3))});
         return HECHO;
     }
     c.Fila({"Secuencia", "Punto", "Campo", "Valor"});

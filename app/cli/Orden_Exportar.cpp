@@ -13,14 +13,16 @@ namespace {
 QStringList Palabras_Tipo()
 {
     QStringList palabras;
-    for (const Salida_Exportar* salida : Salidas_Por_Palabra()) palabras << salida->palabra;
+    for (const Salida_Exportar* salida : Salidas_Por_Palabra())
+        palabras << salida->palabra;
     return palabras;
 }
 
 QStringList Palabras_Separador()
 {
     QStringList palabras;
-    for (const Fila_Separador& fila : Separadores()) palabras << fila.palabra;
+    for (const Fila_Separador& fila : Separadores())
+        palabras << fila.palabra;
     return palabras;
 }
 
@@ -44,7 +46,7 @@ struct Pedido {
     const Salida_Exportar* salida;
     int separador;
     bool titulos;
-    std::optional<QStringList> desplazamiento;  // X, Y, Z as typed
+    std::optional<QStringList> desplazamiento; // X, Y, Z as typed
 };
 
 Pedido Leer_Pedido(const QStringList& palabras)
@@ -69,7 +71,8 @@ Pedido Leer_Pedido(const QStringList& palabras)
             throw Error_Uso{"El desplazamiento se escribe X,Y,Z: " + a.Opcion("desplazamiento")};
         for (const QString& eje : *p.desplazamiento)
             if (Teclear_Desplazamiento(eje) != eje)
-                throw Error_Uso{"El desplazamiento \"" + eje + "\" no es un número con punto decimal"};
+                throw Error_Uso{"El desplazamiento \"" + eje +
+                                "\" no es un número con punto decimal"};
     }
     return p;
 }
@@ -85,7 +88,8 @@ public:
                                                                  const QString& forma) {
             const QStringList& d = *pedido.desplazamiento;
             // A box that is disabled stays empty.
-            Poner_Desplazamientos(x ? d[0] : QString(), y ? d[1] : QString(), z ? d[2] : QString(), forma);
+            Poner_Desplazamientos(x ? d[0] : QString(), y ? d[1] : QString(), z ? d[2] : QString(),
+                                  forma);
             return true;
         };
         Peticiones_De_Formatos().Abrir_Exportar = [&](const Trabajo_Exportar& trabajo) {
@@ -140,8 +144,8 @@ int Orden_Exportar(const Contexto& c, const QStringList& palabras)
     if (!formato.Ver()) return RECHAZADO;
     const qsizetype indice = formato.nombres.indexOf(pedido.formato);
     if (indice < 0) {
-        c.Mensaje("No existe el formato " + pedido.formato + " para la sesión; los hay: " +
-                  formato.nombres.join(", "));
+        c.Mensaje("No existe el formato " + pedido.formato +
+                  " para la sesión; los hay: " + formato.nombres.join(", "));
         return RECHAZADO;
     }
     formato.Elegir(int(indice));

@@ -1,5 +1,6 @@
 #include "app/cli/Instalacion.h"
 #include "app/cli/Ordenes_Sesion.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "formats/Formato_Nuevo.h"
 
@@ -14,22 +15,23 @@ int Orden_Formato_Nuevo(const Contexto& c, const QStringList& palabras)
     const Instalacion instalacion(c);
     instalacion.Elegir_Maquina(maquina);
     instalacion.Comprobar_Operacion(ope, "D");
-    if (maquina == u"NV400") {
+    if (Familia_De(maquina).serie == Serie::Nivel) {
         c.Mensaje("Los formatos del nivel todavía no se crean en esta versión");
         return RECHAZADO;
     }
 
     Formato_Nuevo formato(maquina);
     formato.Crear();
-    formato.Elegir_Tipo(int(Buscar_Trozo(formato.tag_tipos, QString::number(ope), QChar(SEP_LISTA))) - 1);
+    formato.Elegir_Tipo(
+        int(Buscar_Trozo(formato.tag_tipos, QString::number(ope), QChar(SEP_LISTA))) - 1);
     formato.Escribir_Nombre(nombre);
     formato.cabeceras = a.Hay("titulos");
     for (QString& campo : campos) {
         campo = Basico::Trim(campo);
         const qsizetype lugar = formato.listas.disponibles.indexOf(campo);
         if (lugar < 0) {
-            c.Mensaje("El campo \"" + campo + "\" no está disponible; los hay: " +
-                      formato.listas.disponibles.join(", "));
+            c.Mensaje("El campo \"" + campo +
+                      "\" no está disponible; los hay: " + formato.listas.disponibles.join(", "));
             return RECHAZADO;
         }
         formato.listas.Agregar({int(lugar)});

@@ -14,7 +14,8 @@ int Orden_Compactar(const Contexto& c, const QStringList& palabras)
     Argumentos(palabras, {}).Sueltos(0, 0);
     const Instalacion instalacion(c);
     if (Compactar_BD()) return HECHO;
-    c.Mensaje("No se ha podido compactar la base de datos; otro programa la está usando o no se puede "
-              "escribir en su carpeta");
+    c.Mensaje(
+        "No se ha podido compactar la base de datos; otro programa la está usando o no se puede "
+        "escribir en su carpeta");
     return RECHAZADO;
 }

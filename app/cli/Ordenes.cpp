@@ -12,7 +12,8 @@ namespace {
 int Orden_Ayuda(const Contexto& c, const QStringList&)
 {
     c.Linea("miraldos-cli [--dir DIRECTORIO] [--si] ORDEN ...");
-    for (const Orden& o : Ordenes()) c.Linea("  " + o.uso);
+    for (const Orden& o : Ordenes())
+        c.Linea("  " + o.uso);
     return HECHO;
 }
 
@@ -62,7 +63,8 @@ void Contexto::Fila(const QStringList& campos) const
 {
     QStringList limpios = campos;
     for (QString& campo : limpios)
-        for (const char16_t c : {u'\t', u'\r', u'\n'}) campo.replace(QChar(c), u' ');
+        for (const char16_t c : {u'\t', u'\r', u'\n'})
+            campo.replace(QChar(c), u' ');
     Linea(limpios.join(u'\t'));
 }
 

@@ -8,10 +8,10 @@
 
 /// Where an order reads and writes: handed in, so that tests run orders without a process.
 struct Contexto {
-    QString dir;                 ///< install directory (--dir, else the program's own)
-    bool si = false;             ///< --si: every question is answered "Sí"
-    QIODevice* salida = nullptr;   ///< results, UTF-8
-    QIODevice* errores = nullptr;  ///< messages, UTF-8
+    QString dir;                  ///< install directory (--dir, else the program's own)
+    bool si = false;              ///< --si: every question is answered "Sí"
+    QIODevice* salida = nullptr;  ///< results, UTF-8
+    QIODevice* errores = nullptr; ///< messages, UTF-8
 
     /// One tab-separated result line; tabs and line ends inside a field become blanks.
     void Fila(const QStringList& campos) const;
@@ -32,7 +32,7 @@ struct Orden_Rechazada {};
 /// Orden_Rechazada (status 1).
 struct Orden {
     QString nombre;
-    QString uso;  ///< its words, for the help: "tabla ENTRADA SALIDA [--separador coma]"
+    QString uso; ///< its words, for the help: "tabla ENTRADA SALIDA [--separador coma]"
     int (*ejecutar)(const Contexto&, const QStringList& palabras);
 };
 

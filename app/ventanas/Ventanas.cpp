@@ -1,6 +1,7 @@
 #include "app/ventanas/Ventanas.h"
 
 #include "conversions/ui/Dialogos_Conversion.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "core/ui/Dialogos.h"
 #include "core/ui/FrmKRT.h"
@@ -59,7 +60,7 @@ void Conectar_Descargas()
 // The toolbar looks at the family, the menu's entry doesn't.
 void Formatos_De_Toolbar()
 {
-    if (Clave_Estacion == u"NV400")
+    if (Familia_Actual().serie == Serie::Nivel)
         No_Disponible("El mantenimiento de formatos del nivel");
     else
         Mostrar<Frmformatos>("Mantenimiento de Formatos")();

@@ -62,5 +62,5 @@ void Compactacion::Sustituir(const QString& compactada)
     if (puesta) plataforma::Sincronizar_Carpeta(QFileInfo(fichero).absolutePath());
     c->Soltar();
     c->Retomar();
-    if (!puesta) throw Error_Ejecucion(75, Descripcion_Error(75) + QStringLiteral(": ") + fichero);
+    if (!puesta) throw Error_Ejecucion::Con(75, fichero);
 }

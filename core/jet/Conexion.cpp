@@ -231,7 +231,7 @@ Error_Ejecucion Conexion::Error(int codigo) const
     case SQLITE_ERROR:
         return Error_De_Texto(mensaje);
     default:
-        return Error_Ejecucion(51, Descripcion_Error(51) + QStringLiteral(": ") + mensaje);
+        return Error_Ejecucion::Con(51, mensaje);
     }
 }
 

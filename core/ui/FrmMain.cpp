@@ -1,6 +1,7 @@
 #include "core/ui/FrmMain.h"
 
 #include "core/Configuracion.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "core/Sucesos.h"
 #include "core/ui/About.h"
@@ -79,7 +80,8 @@ FrmMain::FrmMain() : area(new Area_Ventanas), panel(new QLabel)
     Acciones_Propias();
     connect(&Sucesos::Unico(), &Sucesos::modelo_cambiado, this, &FrmMain::Rehacer_Panel);
     connect(&Sucesos::Unico(), &Sucesos::estacion_cargada, this, [this](const QString& valor) {
-        acciones[Boton_De_Toolbar(BOTON_CODIGOS)]->setEnabled(valor != u"NV400");
+        acciones[Boton_De_Toolbar(BOTON_CODIGOS)]->setEnabled(Familia_De(valor).serie !=
+                                                              Serie::Nivel);
     });
     Rehacer_Panel();
     resize(1024, 700);

@@ -171,7 +171,6 @@ void Ventana::closeEvent(QCloseEvent* evento)
     evento->accept();
     if (descargada) return;
     descargada = true;
-    Q_EMIT descargandose();
     Al_Descargar();
     if (!seccion_posicion.isEmpty() && situada)
         Guardar_Posicion_Ventana(*Marco(), seccion_posicion, modo_posicion);

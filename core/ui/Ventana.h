@@ -38,10 +38,6 @@ public:
     static void Poner_Area(QMdiArea* area);
     static QMdiArea* Area();
 
-Q_SIGNALS:
-    /// The dialog is being unloaded.
-    void descargandose();
-
 protected:
     explicit Ventana(const QString& nombre);
 

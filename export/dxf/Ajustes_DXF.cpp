@@ -64,5 +64,6 @@ void Guardar_Ajustes_DXF(const Ajustes_DXF& ajustes)
     lineas << QString::number(ajustes.formato) << ajustes.texto
            << Basico::Texto_Numero(ajustes.altura) << ajustes.inclinacion
            << QString::number(ajustes.decimales);
-    Ficheros::Escribir(Fichero_Ajustes(), Ansi::A_Bytes(lineas.join(u"\r\n") + QStringLiteral("\r\n")));
+    Ficheros::Escribir(Fichero_Ajustes(),
+                       Ansi::A_Bytes(lineas.join(u"\r\n") + QStringLiteral("\r\n")));
 }

@@ -1,17 +1,14 @@
 #pragma once
 
-#include "core/ui/Ventana.h"
 #include "formats/Formato_Existente.h"
+#include "formats/ui/Dialogo_Formato.h"
 
-class Panel_Campos;
-class QCheckBox;
 class QComboBox;
 class QLabel;
-class QLineEdit;
 
 /// Choice of a stored format for one session. What the user changes in the lists holds for this
 /// export only.
-class FrmExistformato : public Ventana {
+class FrmExistformato : public Dialogo_Formato {
     Q_OBJECT
 public:
     FrmExistformato();
@@ -20,15 +17,11 @@ public:
     void Mostrar_Con(Formato_Existente& modelo);
 
 private:
-    void Hacer();
-    void Mostrar_Formato();
+    Formato_Existente* Existente() const { return static_cast<Formato_Existente*>(Modelo()); }
+    void Mostrar_Datos() override;
     void CbFormatos_Click(int indice);
-    void BtnAceptar_Click();
 
-    Formato_Existente* modelo = nullptr;
     QComboBox* CbFormatos;
-    QLineEdit* TxtDes;
-    Panel_Campos* panel;
     QCheckBox *Check1, *Check2;
     QLabel* Label2;
 };

@@ -1,24 +1,18 @@
 #include "formats/ui/FrmNuevoformato.h"
 
-#include "core/Ayuda.h"
 #include "core/ui/Piezas.h"
 #include "formats/ui/Panel_Campos.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFormLayout>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 
 namespace {
-// Widths of the columns that take these texts.
-constexpr int ANCHO_NOMBRE = 50, ANCHO_DESCRIPCION = 255;
-/// A combo that tells a typed name from a picked one. Enter in the box, or leaving it, would take the
-/// list's entry of the same name for picked: a typed name is a new format's also there.
+
+// A combo that tells a typed name from a picked one. Enter in the box, or leaving it, would take
+// the list's entry of the same name for picked: a typed name is a new format's also there.
 class Combo_Nombre : public QComboBox {
 public:
     Combo_Nombre()
@@ -53,104 +47,68 @@ protected:
 private:
     bool tecleado = false;
 };
+
 } // namespace
 
-FrmNuevoformato::FrmNuevoformato() : Ventana(QStringLiteral("FrmNuevoformato"))
+FrmNuevoformato::FrmNuevoformato() : Dialogo_Formato("FrmNuevoformato", "Crear formato nuevo")
 {
-    setWindowTitle(QStringLiteral("Crear formato nuevo"));
     Txt = new Combo_Nombre;
-    TxtDes = Piezas::Caja("TxtDes", ANCHO_DESCRIPCION);
     CbTipo = Piezas::Combo("CbTipo");
-    panel = new Panel_Campos("Btnsubir", "BtnBajar");
-    Check1 = Piezas::Casilla("Check1", " Incluir Cabeceras");
+    Check1 = Hacer_Cabeceras();
     Check2 = Piezas::Casilla("Check2", " Modificable");
-    Hacer();
+    Armar({{"Nombre del formato:", Txt}, {"Descripción:", TxtDes}, {"Tipo:", CbTipo}},
+          {Check1, Check2}, "expnuevo");
+    Atender();
 }
 
-void FrmNuevoformato::Hacer()
+void FrmNuevoformato::Atender()
 {
-    QPushButton* const BtnAceptar = Piezas::Boton("BtnAceptar", "&Aceptar");
-    QPushButton* const BtnCancelar = Piezas::Boton("BtnCancelar", "&Cancelar");
-    QPushButton* const btnAyuda = Piezas::Boton("btnAyuda", "&Ayuda");
-    auto* const datos = new QFormLayout;
-    datos->addRow("Nombre del formato:", Txt);
-    datos->addRow("Descripción:", TxtDes);
-    datos->addRow("Tipo:", CbTipo);
-    auto* const casillas = new QHBoxLayout;
-    casillas->addWidget(Check1);
-    casillas->addWidget(Check2);
-    casillas->addStretch();
-    auto* const botones = Piezas::Fila_De_Botones({BtnAceptar, BtnCancelar, btnAyuda});
-    auto* const caja = new QVBoxLayout(this);
-    caja->addLayout(datos);
-    caja->addWidget(panel, 1);
-    caja->addLayout(casillas);
-    caja->addLayout(botones);
-    Poner_Botones(BtnAceptar, BtnCancelar);
-
     connect(Txt, &QComboBox::editTextChanged, this, [this](const QString& texto) {
-        if (modelo) modelo->Escribir_Nombre(texto);
+        if (Nuevo()) Nuevo()->Escribir_Nombre(texto);
     });
     connect(Txt, &QComboBox::activated, this, [this](int indice) {
-        if (!modelo || static_cast<const Combo_Nombre*>(Txt)->Tecleado()) return;
-        modelo->Elegir_Nombre(indice);
+        if (!Nuevo() || static_cast<const Combo_Nombre*>(Txt)->Tecleado()) return;
+        Nuevo()->Elegir_Nombre(indice);
         Mostrar_Datos();
     });
     connect(CbTipo, &QComboBox::activated, this, [this](int indice) {
-        if (!modelo) return;
-        modelo->Elegir_Tipo(indice);
+        if (!Nuevo()) return;
+        Nuevo()->Elegir_Tipo(indice);
         Mostrar_Datos();
     });
     connect(TxtDes, &QLineEdit::textEdited, this, [this](const QString& texto) {
-        if (modelo) modelo->descripcion = texto;
-    });
-    connect(Check1, &QCheckBox::toggled, this, [this](bool si) {
-        if (modelo) modelo->cabeceras = si;
+        if (Nuevo()) Nuevo()->descripcion = texto;
     });
     connect(Check2, &QCheckBox::toggled, this, [this](bool si) {
-        if (modelo) modelo->modificable = si;
+        if (Nuevo()) Nuevo()->modificable = si;
     });
-    connect(BtnAceptar, &QPushButton::clicked, this, &FrmNuevoformato::BtnAceptar_Click);
-    connect(BtnCancelar, &QPushButton::clicked, this, &Ventana::Descargar);
-    connect(btnAyuda, &QPushButton::clicked, this, [] { Mostrar_Ayuda_Web("expnuevo"); });
 }
 
-void FrmNuevoformato::Mostrar_Con(Formato_Nuevo& m)
+void FrmNuevoformato::Mostrar_Con(Formato_Nuevo& modelo)
 {
-    const QPointer<FrmNuevoformato> viva(this);
-    modelo = nullptr; // filling the boxes is no typing
-    setWindowTitle(m.titulo);
+    Soltar_Modelo();
     Txt->clear();
-    Txt->addItems(m.nombres);
+    Txt->addItems(modelo.nombres);
     CbTipo->clear();
-    CbTipo->addItems(m.tipos);
-    CbTipo->setProperty("Tag", m.tag_tipos);
-    modelo = &m;
-    panel->Atar(&m.listas);
-    Mostrar_Datos();
-    Txt->setFocus();
-    Mostrar_Modal();
-    if (viva && modelo == &m) {
-        panel->Atar(nullptr);
-        modelo = nullptr;
-    }
+    CbTipo->addItems(modelo.tipos);
+    CbTipo->setProperty("Tag", modelo.tag_tipos);
+    Mostrar_Modelo(modelo, *Txt);
 }
 
 void FrmNuevoformato::Mostrar_Datos()
 {
+    const Formato_Nuevo& modelo = *Nuevo();
     const QSignalBlocker sin_avisos(Txt);
-    Txt->setCurrentIndex(modelo->indice_nombre);
-    Txt->setEditText(modelo->nombre);
-    TxtDes->setText(modelo->descripcion);
-    CbTipo->setCurrentIndex(modelo->tipo);
+    Txt->setCurrentIndex(modelo.indice_nombre);
+    Txt->setEditText(modelo.nombre);
+    TxtDes->setText(modelo.descripcion);
+    CbTipo->setCurrentIndex(modelo.tipo);
     panel->Mostrar();
-    Check1->setChecked(modelo->cabeceras);
-    Check2->setChecked(modelo->modificable);
+    Check1->setChecked(modelo.cabeceras);
+    Check2->setChecked(modelo.modificable);
 }
 
-void FrmNuevoformato::BtnAceptar_Click()
+void FrmNuevoformato::Al_Rechazar()
 {
-    if (!modelo) return;
-    if (modelo->Aceptar([this] { Ocultar(); })) Descargar();
-    else Txt->setFocus();
+    Txt->setFocus();
 }

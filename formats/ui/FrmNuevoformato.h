@@ -1,15 +1,12 @@
 #pragma once
 
-#include "core/ui/Ventana.h"
 #include "formats/Formato_Nuevo.h"
+#include "formats/ui/Dialogo_Formato.h"
 
-class Panel_Campos;
-class QCheckBox;
 class QComboBox;
-class QLineEdit;
 
 /// A new format, from the maintenance or for a session.
-class FrmNuevoformato : public Ventana {
+class FrmNuevoformato : public Dialogo_Formato {
     Q_OBJECT
 public:
     FrmNuevoformato();
@@ -18,13 +15,11 @@ public:
     void Mostrar_Con(Formato_Nuevo& modelo);
 
 private:
-    void Hacer();
-    void Mostrar_Datos();
-    void BtnAceptar_Click();
+    Formato_Nuevo* Nuevo() const { return static_cast<Formato_Nuevo*>(Modelo()); }
+    void Atender();
+    void Mostrar_Datos() override;
+    void Al_Rechazar() override;
 
-    Formato_Nuevo* modelo = nullptr;
     QComboBox *Txt, *CbTipo;
-    QLineEdit* TxtDes;
-    Panel_Campos* panel;
     QCheckBox *Check1, *Check2;
 };

@@ -15,46 +15,40 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace {
-constexpr int ANCHO_DESCRIPCION = 255;
-}
-
-Frmformatos::Frmformatos() : Ventana(QStringLiteral("Frmformatos"))
+Frmformatos::Frmformatos()
+    : Dialogo_Formato("Frmformatos", "Formatos Disponibles", "Command1", "Command2")
 {
-    setWindowTitle(QStringLiteral("Formatos Disponibles"));
     DBCombo1 = Piezas::Combo("DBCombo1");
-    TxtDes = Piezas::Caja("TxtDes", ANCHO_DESCRIPCION);
     ChkCab = Piezas::Casilla("ChkCab", {});
     ChkCab->setAccessibleName("Incluye Cabeceras");
     LblTip = Piezas::Rotulo({}, "LblTip");
     Label5 = Piezas::Rotulo({}, "Label5");
-    panel = new Panel_Campos("Command1", "Command2");
     Hacer();
     Recordar_Posicion("FORMATOS", 1);
     modelo.Cargar();
     panel->Atar(&modelo.listas);
-    Mostrar_Todo();
+    Mostrar_Datos();
     // Another model of the instrument has formats of its own.
     connect(&Sucesos::Unico(), &Sucesos::modelo_cambiado, this, [this] {
         modelo = Mantenimiento_Formatos();
         modelo.Cargar();
-        Mostrar_Todo();
+        Mostrar_Datos();
     });
     connect(&Sucesos::Unico(), &Sucesos::formatos_cambiados, this, [this] {
         modelo.Actualizar_Combo();
-        Mostrar_Todo();
+        Mostrar_Datos();
     });
 }
 
 void Frmformatos::Hacer()
 {
     QGroupBox* const disponibles = Piezas::Grupo(" Formatos Disponibles ");
-    auto* const datos = new QFormLayout(disponibles);
-    datos->addRow("Nombre del formato:", DBCombo1);
-    datos->addRow("Descripción:", TxtDes);
-    datos->addRow("Incluye Cabeceras :", ChkCab);
-    datos->addRow("Tipo de Formato:", LblTip);
-    datos->addRow("Es Modificable :", Label5);
+    Poner_Renglones({{"Nombre del formato:", DBCombo1},
+                     {"Descripción:", TxtDes},
+                     {"Incluye Cabeceras :", ChkCab},
+                     {"Tipo de Formato:", LblTip},
+                     {"Es Modificable :", Label5}},
+                    disponibles);
 
     QPushButton* const BtnNuevo = Piezas::Boton("BtnNuevo", "&Nuevo", "Crea un nuevo Formato");
     QPushButton* const BtnGuardar =
@@ -82,21 +76,21 @@ void Frmformatos::Hacer()
     connect(ChkCab, &QCheckBox::toggled, this, [this](bool si) { modelo.cabeceras = si; });
     connect(BtnNuevo, &QPushButton::clicked, this, [this] {
         modelo.Nuevo();
-        Mostrar_Todo();
+        Mostrar_Datos();
     });
     connect(BtnGuardar, &QPushButton::clicked, this, [this] {
         modelo.Guardar();
-        Mostrar_Todo();
+        Mostrar_Datos();
     });
     connect(BtnEliminar, &QPushButton::clicked, this, [this] {
         modelo.Eliminar();
-        Mostrar_Todo();
+        Mostrar_Datos();
     });
     connect(BtnSalir, &QPushButton::clicked, this, &Ventana::Descargar);
     connect(btnAyuda, &QPushButton::clicked, this, [] { Mostrar_Ayuda_Web("formatos"); });
 }
 
-void Frmformatos::Mostrar_Todo()
+void Frmformatos::Mostrar_Datos()
 {
     DBCombo1->clear();
     DBCombo1->addItems(modelo.nombres);
@@ -113,7 +107,7 @@ void Frmformatos::Mostrar_Todo()
 void Frmformatos::DBCombo1_Click()
 {
     modelo.Elegir(DBCombo1->currentText());
-    Mostrar_Todo();
+    Mostrar_Datos();
 }
 
 void Frmformatos::Al_Descargar()

@@ -1,16 +1,13 @@
 #pragma once
 
-#include "core/ui/Ventana.h"
 #include "formats/Mantenimiento_Formatos.h"
+#include "formats/ui/Dialogo_Formato.h"
 
-class Panel_Campos;
-class QCheckBox;
 class QComboBox;
 class QLabel;
-class QLineEdit;
 
 /// Maintenance of the stored formats of the family in force.
-class Frmformatos : public Ventana {
+class Frmformatos : public Dialogo_Formato {
     Q_OBJECT
 public:
     Frmformatos();
@@ -20,13 +17,11 @@ protected:
 
 private:
     void Hacer();
-    void Mostrar_Todo();
+    void Mostrar_Datos() override;
     void DBCombo1_Click();
 
     Mantenimiento_Formatos modelo;
     QComboBox* DBCombo1;
-    QLineEdit* TxtDes;
     QCheckBox* ChkCab;
     QLabel *LblTip, *Label5;
-    Panel_Campos* panel;
 };

@@ -16,7 +16,8 @@ QList<int> Seleccion(const QListWidget& lista)
 {
     QList<int> filas;
     const auto elegidas = lista.selectionModel()->selectedRows();
-    for (const QModelIndex& i : elegidas) filas << i.row();
+    for (const QModelIndex& i : elegidas)
+        filas << i.row();
     return filas;
 }
 
@@ -47,11 +48,14 @@ Panel_Campos::Panel_Campos(const QString& subir, const QString& bajar)
 {
     List1 = Piezas::Lista("List1");
     List2 = Piezas::Lista("List2");
-    BtnAgregar = Piezas::Boton("BtnAgregar", "Agregar", "Pasa los campos marcados a los seleccionados");
-    BtnQuitar = Piezas::Boton("BtnQuitar", "Quitar", "Devuelve los campos marcados a los disponibles");
+    BtnAgregar =
+        Piezas::Boton("BtnAgregar", "Agregar", "Pasa los campos marcados a los seleccionados");
+    BtnQuitar =
+        Piezas::Boton("BtnQuitar", "Quitar", "Devuelve los campos marcados a los disponibles");
     BtnSubir = Piezas::Boton(subir, "▲", "Sube el campo marcado");
     BtnBajar = Piezas::Boton(bajar, "▼", "Baja el campo marcado");
-    for (QPushButton* const b : {BtnSubir, BtnBajar}) b->setFixedWidth(36);
+    for (QPushButton* const b : {BtnSubir, BtnBajar})
+        b->setFixedWidth(36);
     BtnSubir->setAccessibleName("Subir");
     BtnBajar->setAccessibleName("Bajar");
 
@@ -78,11 +82,6 @@ Panel_Campos::Panel_Campos(const QString& subir, const QString& bajar)
     connect(List2, &QListWidget::itemDoubleClicked, BtnQuitar, &QPushButton::click);
     connect(BtnSubir, &QPushButton::clicked, this, [this] { Mover(&Dos_Listas::Subir); });
     connect(BtnBajar, &QPushButton::clicked, this, [this] { Mover(&Dos_Listas::Bajar); });
-}
-
-QList<QWidget*> Panel_Campos::Piezas_En_Orden() const
-{
-    return {List1, BtnAgregar, BtnQuitar, List2, BtnSubir, BtnBajar};
 }
 
 void Panel_Campos::Atar(Dos_Listas* de)

@@ -2,7 +2,6 @@
 
 #include "formats/Dos_Listas.h"
 
-#include <QList>
 #include <QWidget>
 
 class QListWidget;
@@ -22,9 +21,6 @@ public:
     void Mostrar();
     /// Bars the changes; the fields can still be looked at.
     void Bloquear(bool bloqueado);
-
-    /// Its pieces in the order of the tab key.
-    QList<QWidget*> Piezas_En_Orden() const;
 
 private:
     void Agregar();

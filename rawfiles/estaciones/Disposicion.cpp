@@ -5,7 +5,7 @@
 #include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Lineas_Sesion.h"
 #include "session/Peticiones_Sesion.h"
-#include "session/Tablas.h"
+#include "session/Columnas_Texto.h"
 
 #include <algorithm>
 
@@ -47,7 +47,7 @@ Lineas_Disposicion Disponer(const Disposicion& disposicion, qint64 id, const QSt
 {
     Lineas_Disposicion resultado;
     const auto lector = disposicion.lector();
-    Tabla_Textos matriz(lector->celdas.size());
+    Columnas_Texto matriz(lector->celdas.size());
     qint64 numero = 0;
     for (Lineas_Sesion sesion(id); sesion.Siguiente();) {
         ++numero;

@@ -1,6 +1,7 @@
 #include "session/ui/frmDescargas.h"
 
 #include "core/Ayuda.h"
+#include "core/Estado_Global.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "core/Sucesos.h"
@@ -19,8 +20,7 @@
 
 Puertas_Descargas& Puertas_De_Descargas()
 {
-    static Puertas_Descargas unicas;
-    return unicas;
+    return Estado_Global::Unico<Puertas_Descargas>();
 }
 
 frmDescargas::frmDescargas()

@@ -54,24 +54,42 @@ void TestBasico::formato_redondea_sobre_la_lectura_decimal_data()
     QTest::addColumn<double>("numero");
     QTest::addColumn<QString>("dibujo");
     QTest::addColumn<QString>("texto");
-    QTest::newRow("tres") << 12345.678 << "0.000" << "12345,678";
-    QTest::newRow("1.005 sube") << 1.005 << "0.00" << "1,01";
-    QTest::newRow("2.5 sube") << 2.5 << "0" << "3";
-    QTest::newRow("-2.5 sube") << -2.5 << "0" << "-3";
-    QTest::newRow("acarreo") << 9.9999 << "0.000" << "10,000";
-    QTest::newRow("0.9999") << 0.9999 << "0.000" << "1,000";
-    QTest::newRow("nivel") << 12.34567 << "##0.0000" << "12,3457";
-    QTest::newRow("almohadillas") << 0.5 << "#0.0000" << "0,5000";
-    QTest::newRow("sin entera") << 0.5 << "#.00" << ",50";
-    QTest::newRow("ceros") << 1234.567 << "000000.000" << "001234,567";
-    QTest::newRow("entero") << 7.0 << "#0" << "7";
-    QTest::newRow("cero") << 0.0 << "0.000" << "0,000";
-    QTest::newRow("signo del cero") << -0.0004 << "0.000" << "-0,000";
-    QTest::newRow("chico") << 0.00004 << "0.0000" << "0,0000";
-    QTest::newRow("chico sube") << 0.00005 << "0.0000" << "0,0001";
-    QTest::newRow("grande") << 1e15 << "0.000" << "1000000000000000,000";
-    QTest::newRow("literal") << 5.0 << "0.0 m" << "5,0 m";
-    QTest::newRow("opcional") << 5.25 << "0.0##" << "5,25";
+    QTest::newRow("tres") << 12345.678 << "0.000"
+                          << "12345,678";
+    QTest::newRow("1.005 sube") << 1.005 << "0.00"
+                                << "1,01";
+    QTest::newRow("2.5 sube") << 2.5 << "0"
+                              << "3";
+    QTest::newRow("-2.5 sube") << -2.5 << "0"
+                               << "-3";
+    QTest::newRow("acarreo") << 9.9999 << "0.000"
+                             << "10,000";
+    QTest::newRow("0.9999") << 0.9999 << "0.000"
+                            << "1,000";
+    QTest::newRow("nivel") << 12.34567 << "##0.0000"
+                           << "12,3457";
+    QTest::newRow("almohadillas") << 0.5 << "#0.0000"
+                                  << "0,5000";
+    QTest::newRow("sin entera") << 0.5 << "#.00"
+                                << ",50";
+    QTest::newRow("ceros") << 1234.567 << "000000.000"
+                           << "001234,567";
+    QTest::newRow("entero") << 7.0 << "#0"
+                            << "7";
+    QTest::newRow("cero") << 0.0 << "0.000"
+                          << "0,000";
+    QTest::newRow("signo del cero") << -0.0004 << "0.000"
+                                    << "-0,000";
+    QTest::newRow("chico") << 0.00004 << "0.0000"
+                           << "0,0000";
+    QTest::newRow("chico sube") << 0.00005 << "0.0000"
+                                << "0,0001";
+    QTest::newRow("grande") << 1e15 << "0.000"
+                            << "1000000000000000,000";
+    QTest::newRow("literal") << 5.0 << "0.0 m"
+                             << "5,0 m";
+    QTest::newRow("opcional") << 5.25 << "0.0##"
+                              << "5,25";
 }
 
 void TestBasico::formato_redondea_sobre_la_lectura_decimal()
@@ -112,18 +130,21 @@ void TestBasico::textos_de_numero_a_la_espanola()
     QCOMPARE(Basico::Texto_Numero(1234.5), QStringLiteral("1234,5"));
     QCOMPARE(Basico::Texto_Numero(0.5, false), QStringLiteral(".5"));
     QCOMPARE(Basico::Formato(QStringLiteral("abc"), QStringLiteral("0.00")), QStringLiteral("abc"));
-    QCOMPARE(Basico::Formato(QStringLiteral("12,345"), QStringLiteral("0.00")), QStringLiteral("12,35"));
+    QCOMPARE(Basico::Formato(QStringLiteral("12,345"), QStringLiteral("0.00")),
+             QStringLiteral("12,35"));
 }
 
 void TestBasico::la_pagina_es_uno_a_uno()
 {
     QByteArray todos;
-    for (int b = 0; b < 256; ++b) todos += static_cast<char>(b);
+    for (int b = 0; b < 256; ++b)
+        todos += static_cast<char>(b);
     const QString texto = Ansi::A_Texto(todos);
     QCOMPARE(texto.size(), 256);
     QCOMPARE(Ansi::A_Bytes(texto), todos);
     std::set<char16_t> distintos;
-    for (const QChar c : texto) distintos.insert(c.unicode());
+    for (const QChar c : texto)
+        distintos.insert(c.unicode());
     QCOMPARE(distintos.size(), std::size_t(256));
     QCOMPARE(Ansi::Codigo(QChar(0x20AC)), 128);
     QCOMPARE(Ansi::Codigo(QChar(0x81)), 129);
@@ -132,7 +153,9 @@ void TestBasico::la_pagina_es_uno_a_uno()
 void TestBasico::lo_que_no_cabe_es_interrogacion()
 {
     QCOMPARE(Ansi::A_Bytes(QStringLiteral("a\u0416b")), QByteArray("a?b"));
-    QCOMPARE(Ansi::A_Bytes(QString::fromUtf8("a\xF0\x9F\x98\x80""b")), QByteArray("a?b"));
+    QCOMPARE(Ansi::A_Bytes(QString::fromUtf8("a\xF0\x9F\x98\x80"
+                                             "b")),
+             QByteArray("a?b"));
     QVERIFY(!Ansi::Cabe(QStringLiteral("\u0416")));
     QVERIFY(Ansi::Cabe(QStringLiteral("ñÑ€")));
 }
@@ -155,7 +178,8 @@ void TestBasico::las_fechas_se_escriben_por_su_dibujo()
     const QDateTime f(QDate(2026, 3, 7), QTime(9, 5, 1));
     QCOMPARE(Basico::Formato_Fecha(f, QStringLiteral("DD/MM/YYYY")), QStringLiteral("07/03/2026"));
     QCOMPARE(Basico::Formato_Fecha(f, QStringLiteral("HH:MM:SS")), QStringLiteral("09:05:01"));
-    QCOMPARE(Basico::Formato_Fecha(f, QStringLiteral("ddmmyy_hhmm")), QStringLiteral("070326_0905"));
+    QCOMPARE(Basico::Formato_Fecha(f, QStringLiteral("ddmmyy_hhmm")),
+             QStringLiteral("070326_0905"));
 }
 
 void TestBasico::los_errores_no_se_repiten()

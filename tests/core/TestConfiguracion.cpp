@@ -47,6 +47,7 @@ private Q_SLOTS:
     void cargar_estacion_busca_por_nombre();
     void guardar_escribe_todo_en_orden();
     void guardar_quita_hard_y_conserva_lo_ajeno();
+    void cada_ajuste_tiene_su_fila();
     void guardar_y_volver_a_leer();
     void guardar_sin_permiso_avisa_y_conserva();
     void la_lista_de_puertos_con_su_doble_y_su_hueco();
@@ -399,6 +400,43 @@ void TestConfiguracion::guardar_quita_hard_y_conserva_lo_ajeno()
     QVERIFY(Guardar_Configuracion(Ajustes_Actuales()));
     QCOMPARE(p->Leer("EstTotal.ini"),
              QByteArray(INI).replace("HARD=x\r\n", "") + "[MIA]\r\notra=1\r\n");
+}
+
+void TestConfiguracion::cada_ajuste_tiene_su_fila()
+{
+    QStringList claves, controles;
+    QSet<const void*> globales;
+    for (const Ajuste& fila : Tabla_Ajustes()) {
+        claves << QString::fromLatin1(fila.clave);
+        if (*fila.control != 0) controles << QString::fromLatin1(fila.control);
+        globales << std::visit([](const auto& l) { return static_cast<const void*>(l.global); },
+                               fila.lugar);
+    }
+    QCOMPARE(claves.join(u' '),
+             QString("PORT VELOCIDAD BITS PARIDAD STOP HARD KRTNOM KRT FIJO Visible "
+                     "Recuerde Cargas Exportar Mostrar"));
+    QCOMPARE(globales.size(), claves.size());
+    QCOMPARE(controles.join(u' '),
+             QString("Combo5 Combo1 Combo2 Combo3 Combo4 Combo6 Check1 Check2 "
+                     "Check3 Check4 Check5 Check6"));
+    // Each row, on and off, goes to its own global and key and to no other.
+    for (const Ajuste& fila : Tabla_Ajustes()) {
+        const auto* const marca = std::get_if<Ajuste_Marca>(&fila.lugar);
+        if (!marca) continue;
+        for (const bool puesta : {true, false}) {
+            Ajustes a;
+            a.*marca->valor = puesta;
+            QVERIFY(Guardar_Configuracion(a));
+            QCOMPARE(*marca->global, puesta);
+            QCOMPARE(int(Modelo_Fijo) + Ayuda_Visible + Ayuda_Recuerde + Offset_Cargas +
+                         Offset_Exportar + Mostrar_Cabeceras,
+                     int(puesta));
+            QCOMPARE(p->Leer("EstTotal.ini").count("=SI") + p->Leer("EstTotal.ini").count("=True"),
+                     qsizetype(puesta));
+            QVERIFY(p->Leer("EstTotal.ini")
+                        .contains(QByteArray(fila.clave) + '=' + (puesta ? marca->si : marca->no)));
+        }
+    }
 }
 
 void TestConfiguracion::guardar_y_volver_a_leer()

@@ -11,9 +11,6 @@ private Q_SLOTS:
     void un_fichero_vacio_no_existe();
     void las_carpetas_conservan_su_nombre();
     void la_lista_de_identificadores();
-    void el_identificador_de_una_fila_data();
-    void el_identificador_de_una_fila();
-    void el_trozo_de_un_identificador();
     void un_combo_y_su_lista();
     void la_descripcion_de_una_operacion();
     void el_numero_del_puerto_data();
@@ -61,49 +58,9 @@ void TestModEstTotal::la_lista_de_identificadores()
     QVERIFY(Existe_ID("Z"));
     QVERIFY(!Existe_ID("z"));
     QVERIFY(Existe_ID(""));
-    QCOMPARE(Todos_Los_IDs(4, datosexport), QStringLiteral("Punto"));
-    QCOMPARE(Todos_Los_IDs(1, datosexport), QString(30, u' ') + "Z ");
     Limpiar_IDs();
     QVERIFY(!Existe_ID("Z"));
     QCOMPARE(datosexport.size(), 31);
-    QCOMPARE(Todos_Los_IDs(7, {"A", "B"}), "A B " + QString(29, u' '));
-}
-
-void TestModEstTotal::el_identificador_de_una_fila_data()
-{
-    QTest::addColumn<QString>("maquina");
-    QTest::addColumn<int>("ope");
-    QTest::addColumn<QString>("datos");
-    QTest::addColumn<QString>("id");
-    QTest::newRow("KRT300") << "KRT300" << 0 << "  x+001"
-                            << "x";
-    QTest::newRow("vacia") << "KRT300" << 0 << ""
-                           << "";
-    QTest::newRow("KRT800 palabra") << "KRT800" << 6 << " SS 1,2"
-                                    << "SS";
-    QTest::newRow("KRT800 sin blanco") << "KRT800" << 6 << "JOB"
-                                       << "JOB";
-    QTest::newRow("KRT800 coma") << "KRT800" << 4 << "P 1 ,2,3"
-                                 << "P 1";
-    QTest::newRow("NV400") << "NV400" << 4 << "g0,1"
-                           << "g";
-}
-
-void TestModEstTotal::el_identificador_de_una_fila()
-{
-    QFETCH(QString, maquina);
-    QFETCH(int, ope);
-    QFETCH(QString, datos);
-    QFETCH(QString, id);
-    p->Fila("Registros", {{"ID", 1}, {"Secuencia", 1}, {"Datos", datos}});
-    QCOMPARE(Extraer_ID(Base_Datos->OpenRecordset("Registros"), maquina, ope), id);
-}
-
-void TestModEstTotal::el_trozo_de_un_identificador()
-{
-    QCOMPARE(Token_ID("A B C", 2, 1), QStringLiteral("B"));
-    QCOMPARE(Token_ID("A B C", 4, 1), QString());
-    QCOMPARE(Token_ID("A B C", 2, 4), QStringLiteral("Punto"));
 }
 
 void TestModEstTotal::un_combo_y_su_lista()

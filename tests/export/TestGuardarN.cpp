@@ -352,8 +352,8 @@ void TestGuardarN::el_avance_va_en_dos_tiempos()
     Poner_Sesion(p, 1, "KRT300", 0, lineas);
     Poner_Campos_Exportar({"Punto"});
     Avance_De_Prueba avance;
-    QVERIFY(
-        Exportar_Sesion(1, "KRT300", 0, "txf", "F", p.Ruta("ficheros/s.txt"), {" \u0006N"}, avance));
+    QVERIFY(Exportar_Sesion(1, "KRT300", 0, "txf", "F", p.Ruta("ficheros/s.txt"), {" \u0006N"},
+                            avance));
     QCOMPARE(avance.hechos,
              (QStringList{"Formateando Datos... (1 de 2)", "max 1100", "1024", "1100", "0",
                           "Exportando... (2 de 2)", "max 1100", "1024", "1100", "0"}));

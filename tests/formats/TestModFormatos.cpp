@@ -1,4 +1,5 @@
 #include "formats/ModFormatos.h"
+#include "formats/Nombre_Formato.h"
 #include "tests/apoyo/Instrumentos.h"
 #include "tests/apoyo/Interfaz_Guion.h"
 #include "tests/apoyo/Prueba.h"
@@ -6,8 +7,6 @@
 class TestModFormatos : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void el_identificador_de_un_registro_data();
-    void el_identificador_de_un_registro();
     void los_ids_salen_de_la_sesion();
     void la_operacion_4_es_siempre_punto();
     void el_32_desborda_la_tabla();
@@ -28,7 +27,6 @@ private Q_SLOTS:
     void cambiar_no_toca_lo_suyo();
     void eliminar_pregunta();
     void un_apostrofo_en_el_nombre_rompe_la_sentencia();
-    void un_nombre_en_blanco_no_vale();
     void las_listas_no_repiten_nombres();
     void de_una_en_una_se_baja_por_la_lista();
     void varias_llegan_al_reves();
@@ -36,40 +34,6 @@ private Q_SLOTS:
 };
 
 static const Sesion_Elegida SESION{1, "KRT300", 0, "Datos de medición"};
-
-void TestModFormatos::el_identificador_de_un_registro_data()
-{
-    QTest::addColumn<QString>("maquina");
-    QTest::addColumn<int>("ope");
-    QTest::addColumn<QString>("datos");
-    QTest::addColumn<QString>("id");
-    QTest::newRow("300") << "KRT300" << 0 << "A123"
-                         << "A";
-    QTest::newRow("300 blancos") << "PX7" << 0 << "  y+1 "
-                                 << "y";
-    QTest::newRow("300 vacia") << "KRT300" << 0 << "  "
-                               << "";
-    QTest::newRow("nivel") << "NV400" << 0 << "g,1"
-                           << "g";
-    QTest::newRow("800") << "KRT800" << 1 << "STN 1,2"
-                         << "STN";
-    QTest::newRow("800 sin blanco") << "KRT800" << 1 << "STN"
-                                    << "";
-    QTest::newRow("800 blanco delante") << "KRT800" << 1 << " STN 1"
-                                        << "";
-    QTest::newRow("800 operación 4") << "KRT800" << 4 << " 12,5,6"
-                                     << "12";
-    QTest::newRow("800 operación 7") << "KRT800" << 7 << "100,2 3"
-                                     << "100,2";
-}
-
-void TestModFormatos::el_identificador_de_un_registro()
-{
-    QFETCH(QString, maquina);
-    QFETCH(int, ope);
-    QFETCH(QString, datos);
-    QTEST(Leer_Id_Registro(datos, maquina, ope), "id");
-}
 
 static QStringList Ids()
 {
@@ -424,17 +388,7 @@ void TestModFormatos::un_apostrofo_en_el_nombre_rompe_la_sentencia()
     QVERIFY_THROWS_EXCEPTION(Error_Ejecucion,
                              Eliminar_Formato(*Base_Datos, "KRT300", "x' OR '1'='1"));
     QCOMPARE(Guardado(p).size(), 3);
-}
-
-void TestModFormatos::un_nombre_en_blanco_no_vale()
-{
-    Interfaz_Guion guion;
-    QVERIFY(Depura(" a "));
-    QVERIFY(!Depura("   "));
-    QVERIFY(!Depura(""));
-    QCOMPARE(guion.Textos(), (QStringList{"El Nombre del formato no puede quedar en blanco!!",
-                                          "El Nombre del formato no puede quedar en blanco!!"}));
-    QCOMPARE(guion.avisos[0].icono, Icono::Informacion);
+    QCOMPARE(guion.Textos(), QStringList(2, "¿ Desea Eliminar el Formato ?"));
 }
 
 void TestModFormatos::las_listas_no_repiten_nombres()

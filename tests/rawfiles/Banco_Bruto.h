@@ -15,7 +15,7 @@
 /// the scripted interface, and answers for the small dialogs.
 class Banco_Bruto : public Base_De_Prueba {
 public:
-    Banco_Bruto() : sesion(Peticiones_De_Sesion()), brutos(Peticiones_De_Rawfiles())
+    Banco_Bruto()
     {
         Peticiones_De_Sesion().Pedir_Separador = [this] { return separador; };
         Peticiones_De_Rawfiles().Pedir_Datos_IGN = [this] { return datos_ign; };
@@ -25,8 +25,6 @@ public:
     }
     ~Banco_Bruto()
     {
-        Peticiones_De_Sesion() = sesion;
-        Peticiones_De_Rawfiles() = brutos;
         if (!interfaz.avisos.isEmpty())
             QTest::qFail(qPrintable("boxes left: " + interfaz.Textos().join(" | ")), __FILE__,
                          __LINE__);
@@ -150,7 +148,4 @@ private:
         Poner_Registro(*this, maquina, {ope}, id, "Clase " + id, tipo,
                        {{campo.constData(), qMax(ancho - 1, 0)}});
     }
-
-    Peticiones_Sesion sesion;
-    Peticiones_Rawfiles brutos;
 };

@@ -1,6 +1,7 @@
 #include "core/Sucesos.h"
 #include "session/Decodificador.h"
 #include "session/Desplazamiento.h"
+#include "session/Identificador.h"
 #include "tests/apoyo/Instrumentos.h"
 #include "tests/apoyo/Prueba.h"
 
@@ -17,13 +18,15 @@ private Q_SLOTS:
     void las_columnas_se_cortan();
     void las_letras_solo_vacian_su_campo();
     void una_linea_de_krt300_da_sus_campos();
-    void el_identificador_depende_de_la_familia_data();
-    void el_identificador_depende_de_la_familia();
     void un_nombre_que_nadie_da_queda_vacio();
     void gana_el_ultimo_registro_del_punto();
     void el_punto_pierde_su_sufijo();
     void el_rango_y_el_punto_acotan();
     void las_marcas_suman_el_desplazamiento();
+    void la_marca_elige_su_desplazamiento_data();
+    void la_marca_elige_su_desplazamiento();
+    void el_modelo_en_uso_decide_tres_cosas();
+    void las_columnas_no_listadas_se_decodifican();
     void los_generales_llegan_a_cada_linea();
     void la_posicion_general_es_de_la_familia_en_uso();
     void una_linea_de_krt800_data();
@@ -150,6 +153,9 @@ void TestDecodificador::los_tratamientos_van_en_su_orden_data()
     QTest::newRow("ED") << "P7`12"
                         << "ED"
                         << "12";
+    QTest::newRow("ED con dos marcas") << "P7`A`12"
+                                       << "ED"
+                                       << "12";
     QTest::newRow("ED sin marca") << "P7"
                                   << "ED"
                                   << "P7";
@@ -203,7 +209,10 @@ void TestDecodificador::las_columnas_se_cortan_data()
     fila("blancos no son cero", "A0001           ", 9, 8, "7,3", ".", "0.000", "", "");
     fila("ancho cero", mas, 9, 0, "7,3", ".", "0.000", "", "");
     fila("ED con acento grave", "AEST`P7  `12", 2, 3, "*", "", "", "ED", "12");
+    fila("ED con dos acentos graves", "AEST`P7`12 ", 2, 3, "*", "", "", "ED", "12 ");
     fila("ED sin acento grave", "AP7 ", 2, 3, "*", "", "", "ED", "P7");
+    fila("acento grave sin ED", "AEST`P7  `12", 2, 3, "*", "", "", "", "EST");
+    fila("acento grave con otro tratamiento", "A1`2.50", 2, 5, "*", "", "", "CD", "1`2.5");
     fila("sin partir y sin dibujo", "A+123", 2, 4, "7,3", "", "", "", "0123");
 }
 
@@ -218,12 +227,13 @@ void TestDecodificador::las_columnas_se_cortan()
     QFETCH(QString, especial);
     const Fila_Campo campo{"KRT300", "A",       "Campo",  1,  digitos,
                            posdigit, forsalida, especial, "", caracter};
+    const Suma suma{Familia_De(u"KRT300"), {}};
     QStringList valores = {"x", "y"};
-    Cortar_Campo(linea, posicion, campo, {"Otro", "Campo"}, valores);
+    Cortar_Campo(suma, linea, posicion, campo, {"Otro", "Campo"}, valores);
     QCOMPARE(valores[0], QStringLiteral("x"));
     QTEST(valores[1], "valor");
     QStringList ajenos = {"x"};
-    Cortar_Campo(linea, posicion, campo, {"Otro"}, ajenos);
+    Cortar_Campo(suma, linea, posicion, campo, {"Otro"}, ajenos);
     QCOMPARE(ajenos, QStringList{"x"});
 }
 
@@ -260,42 +270,6 @@ void TestDecodificador::una_linea_de_krt300_da_sus_campos()
     }
 }
 
-void TestDecodificador::el_identificador_depende_de_la_familia_data()
-{
-    QTest::addColumn<QString>("maquina");
-    QTest::addColumn<int>("ope");
-    QTest::addColumn<QString>("linea");
-    QTest::addColumn<QString>("id");
-    QTest::newRow("300") << "KRT300" << 0 << "A123"
-                         << "A";
-    QTest::newRow("300 con blanco") << "KRT300" << 0 << "  xy"
-                                    << "x";
-    QTest::newRow("300 operacion 4") << "KRT300" << 4 << "A123"
-                                     << "A";
-    QTest::newRow("px7") << "PX7" << 1 << " y+1"
-                         << "y";
-    QTest::newRow("300 vacia") << "KRT300" << 0 << "   "
-                               << "";
-    QTest::newRow("800") << "KRT800" << 1 << " STN 1,2"
-                         << "STN";
-    QTest::newRow("800 sin blanco") << "KRT800" << 1 << "STN"
-                                    << "STN";
-    QTest::newRow("800 puntos") << "KRT800" << 4 << "1,2,3"
-                                << "Punto";
-    QTest::newRow("800 perfiles") << "KRT800" << 7 << "1,2,3"
-                                  << "Per.Trans";
-    QTest::newRow("nivel") << "NV400" << 0 << "g,1"
-                           << "1";
-}
-
-void TestDecodificador::el_identificador_depende_de_la_familia()
-{
-    QFETCH(QString, maquina);
-    QFETCH(int, ope);
-    QFETCH(QString, linea);
-    QTEST(Id_De_Linea(linea, maquina, ope), "id");
-}
-
 void TestDecodificador::un_nombre_que_nadie_da_queda_vacio()
 {
     Base_De_Prueba p;
@@ -306,6 +280,17 @@ void TestDecodificador::un_nombre_que_nadie_da_queda_vacio()
     Extraer_Punto(*Base_Datos, 1, "KRT300", 0, "1", 1, 999999,
                   {"Código", "Inventado", "Coordenada X"}, valores);
     QCOMPARE(valores, (QStringList{"ARBOL", "", ""}));
+    // The fields of a kind follow `Orden`, whatever the order of their rows.
+    for (const int orden : {3, 1, 2})
+        p.Fila("Campos", {{"Maquina", "KRT300"},
+                          {"ID", "o"},
+                          {"Campo", QString::number(orden)},
+                          {"Orden", orden},
+                          {"Digitos", 2},
+                          {"PosDigit", "*"}});
+    QStringList ordenados(3);
+    Decodificar_Linea(*Base_Datos, "oAABBCC", "1", "KRT300", 0, {"1", "2", "3"}, ordenados);
+    QCOMPARE(ordenados, (QStringList{"AA", "BB", "CC"}));
     // A kind that no row describes is skipped.
     QStringList otros = {"viejo"};
     Decodificar_Linea(*Base_Datos, "?ARBOL", "1", "KRT300", 0, {"Código"}, otros);
@@ -337,10 +322,12 @@ void TestDecodificador::el_punto_pierde_su_sufijo()
     Poner_Instrumentos(p);
     Clave_Estacion = "KRT300";
     Poner_Sesion(p, 1, "KRT300", 0, {{"P7`12", "cUNO"}, {"O'Neil", "cDOS"}});
-    QStringList valores(3);
+    QStringList valores(3), uno(1);
     Extraer_Punto(*Base_Datos, 1, "KRT300", 0, "P7`12", 1, 999999, {"Punto", "PUNTO", "Código"},
                   valores);
     QCOMPARE(valores, (QStringList{"12", "12", "UNO"}));
+    Extraer_Punto(*Base_Datos, 1, "KRT300", 0, "P7`A`3", 1, 999999, {"Punto"}, uno);
+    QCOMPARE(uno, QStringList{"3"});
     Extraer_Punto(*Base_Datos, 1, "KRT300", 0, "O'Neil", 1, 999999, {"punto", "x", "Código"},
                   valores);
     QCOMPARE(valores, (QStringList{"O'Neil", "", "DOS"}));
@@ -381,13 +368,40 @@ void TestDecodificador::las_marcas_suman_el_desplazamiento()
     QCOMPARE(valores[0], QString());
     Decodificar_Linea(*Base_Datos, " y9001234567", "1", "KRT300", 1, nombres, valores);
     QCOMPARE(valores[0], QStringLiteral("1244.567"));
-    // A family that has no coordinates gives none, whatever the session's family.
-    Clave_Estacion = "NV400";
-    QCOMPARE(Aplicar_Marca("D", "CX", "+001234567", "7,3"), QString());
-    Clave_Estacion = "KRT300";
-    QCOMPARE(Aplicar_Marca("D", "cx", "+001234567", "7,3"), QStringLiteral("1244.567"));
-    QCOMPARE(Aplicar_Marca("D", "NL", "+001234567", "7,3"), QStringLiteral("+001234567"));
-    QCOMPARE(Aplicar_Marca("D", "GE", "abc", "7,3"), QStringLiteral("abc"));
+}
+
+void TestDecodificador::la_marca_elige_su_desplazamiento_data()
+{
+    QTest::addColumn<QString>("clave");
+    QTest::addColumn<QString>("modo");
+    QTest::addColumn<QString>("marca");
+    QTest::addColumn<QString>("valor");
+    QTest::addColumn<QString>("suma");
+    const auto fila = [](const char* nombre, const char* clave, const char* modo, const char* marca,
+                         const char* valor, const char* suma) {
+        QTest::newRow(nombre) << clave << modo << marca << valor << suma;
+    };
+    fila("x", "KRT300", "D", "CX", "+001234567", "1244.567");
+    fila("y", "KRT300", "D", "CY", "+001234567", "1334.567");
+    fila("z", "KRT300", "D", "CZ", "+001234567", "2234.567");
+    fila("minúsculas", "KRT300", "D", "cz", "+001234567", "2234.567");
+    fila("de cable", "KRT300", "C", "CX", "+001234567", "+001244567");
+    fila("no listado", "KRT300", "D", "NL", "+001234567", "+001234567");
+    fila("global", "KRT300", "D", "GE", "abc", "abc");
+    fila("sin marca", "KRT300", "D", "", "7", "7");
+    fila("800", "KRT800", "D", "CY", "1.5", "101.500");
+    // A family that has no coordinates gives none, whatever the session's.
+    fila("nivel", "NV400", "D", "CX", "+001234567", "");
+}
+
+void TestDecodificador::la_marca_elige_su_desplazamiento()
+{
+    QFETCH(QString, clave);
+    QFETCH(QString, modo);
+    QFETCH(QString, marca);
+    QFETCH(QString, valor);
+    const Suma suma{Familia_De(clave), {"10", "100", "1000"}};
+    QTEST(Aplicar_Marca(suma, modo, marca, valor, "7,3"), "suma");
 }
 
 void TestDecodificador::los_generales_llegan_a_cada_linea()
@@ -401,6 +415,12 @@ void TestDecodificador::los_generales_llegan_a_cada_linea()
     QStringList valores(3);
     Decodificar_General(*Base_Datos, datosg, "KRT300", nombres, valores, 0);
     QCOMPARE(valores, (QStringList{"1.500", "", "E-100"}));
+    // The case of an identifier counts, and so does a blank in front of the item.
+    for (const char* otro : {"eE-100   +01500", " EE-100   +01500"}) {
+        valores = QStringList(3);
+        Decodificar_General(*Base_Datos, otro, "KRT300", nombres, valores, 0);
+        QCOMPARE(valores, QStringList(QList<QString>(3)));
+    }
     // Of an ordinary record nothing is taken from the general data, nor for another operation.
     valores = QStringList(3);
     Decodificar_General(*Base_Datos, "cARBOL", "KRT300", nombres, valores, 0);
@@ -413,18 +433,101 @@ void TestDecodificador::los_generales_llegan_a_cada_linea()
     QCOMPARE(valores, (QStringList{"1.500", "DOS", "E-100"}));
 }
 
-void TestDecodificador::la_posicion_general_es_de_la_familia_en_uso()
+void TestDecodificador::el_modelo_en_uso_decide_tres_cosas()
+{
+    Base_De_Prueba p;
+    Poner_Instrumentos(p);
+    Poner_Registro(p, "KRT300", {0}, "1", "Uno", "C", {{"Código", 3}});
+    const auto codigo = [](const QString& linea) {
+        QStringList valores = {"v"};
+        Decodificar_Linea(*Base_Datos, linea, "", "KRT300", 0, {"Código"}, valores);
+        return valores[0];
+    };
+    // While the level is in force every line is of kind "1", whatever the session's family.
+    for (const char* modelo : {"KRT300", "PX7", "KRT800", ""}) {
+        Clave_Estacion = modelo;
+        QCOMPARE(codigo("cARBOL"), QStringLiteral("ARBOL"));
+    }
+    Clave_Estacion = "NV400";
+    QCOMPARE(codigo("cARBOL"), QStringLiteral("ARB"));
+    QCOMPARE(codigo("?XYZ"), QStringLiteral("XYZ"));
+
+    // Coordinates are added in its form.
+    const auto x = [] {
+        QStringList valores = {"v"};
+        Decodificar_Linea(*Base_Datos, " y+001234567", "", "KRT300", 1, {"Coordenada X"}, valores);
+        return valores[0];
+    };
+    Clave_Estacion = "PX7";
+    QCOMPARE(x(), QStringLiteral("1234.567"));
+    Clave_Estacion = "KRT800";
+    QCOMPARE(x(), QStringLiteral("1234567.000"));
+    // The decoder itself asks for nothing but what it is given.
+    Clave_Estacion = "NV400";
+    const Familia& krt300 = Familia_De(u"KRT300");
+    QStringList valores = {"v"};
+    Decodificador(*Base_Datos, krt300, 1, {"Coordenada X"}, {krt300, {.x = "1000"}})
+        .Linea(u" y+001234567", valores);
+    QCOMPARE(valores[0], QStringLiteral("2234.567"));
+}
+
+void TestDecodificador::las_columnas_no_listadas_se_decodifican()
 {
     Base_De_Prueba p;
     Poner_Instrumentos(p);
     Clave_Estacion = "KRT300";
-    QCOMPARE(Posicion_Campo(*Base_Datos, "E", 1), 1);
-    QCOMPARE(Posicion_Campo(*Base_Datos, "E", 2), 9);
+    QStringList valores = {"v", "v"};
+    // "Reserva" is marked "NL": it is no coordinate, and its sign place is treated as one's.
+    Decodificar_Linea(*Base_Datos, "H+012345600012345-7nota", "1", "KRT300", 0, {"Reserva", "Nota"},
+                      valores);
+    QCOMPARE(valores, (QStringList{"-7", "nota"}));
+    Decodificar_Linea(*Base_Datos, "H+01234560001234507nota", "1", "KRT300", 0, {"Reserva", "Nota"},
+                      valores);
+    QCOMPARE(valores, (QStringList{"+7", "nota"}));
+
+    // A general field with a coordinate's mark gets no offset: it is cut as any other.
+    Poner_Registro(p, "KRT300", {0}, "G", "Base", "G",
+                   {{"Base X", 10, "7,3", ".", "0.000", "", "CX"}});
+    Desp_X = "100";
+    QStringList base = {"v"};
+    Decodificar_General(*Base_Datos, "G+001234567", "KRT300", {"Base X"}, base, 0);
+    QCOMPARE(base[0], QStringLiteral("1234.567"));
+    Poner_Registro(
+        p, "KRT800", {1}, "BAS", "Base", "G",
+        {{"Base X", 10, "7,3", "", "", "", "GE"}, {"Base Y", 10, "7,3", "", "", "", "CY"}});
     Clave_Estacion = "KRT800";
-    QCOMPARE(Posicion_Campo(*Base_Datos, "E", 2), 1);
-    QVERIFY(Buscar_Campo_G(*Base_Datos, "Estación", "KRT300", 0));
-    QVERIFY(!Buscar_Campo_G(*Base_Datos, "Código", "KRT300", 0));
-    QVERIFY(!Buscar_Campo_G(*Base_Datos, "Inventado", "KRT300", 0));
+    Desp_Y = "100";
+    const auto item = [](const char* campo) {
+        return QStringList{"BAS", campo, "5"}.join(QChar(SEP_CAMPO));
+    };
+    QStringList dos = {"v", "v"};
+    // Only what is marked "GE" travels in the general data of a KRT800.
+    Decodificar_General(*Base_Datos, item("Base X") + QChar(SEP_LISTA) + item("Base Y"), "KRT800",
+                        {"Base X", "Base Y"}, dos, 1);
+    QCOMPARE(dos, (QStringList{"5", "v"}));
+}
+
+void TestDecodificador::la_posicion_general_es_de_la_familia_en_uso()
+{
+    Base_De_Prueba p;
+    Poner_Instrumentos(p);
+    const Familia &krt300 = Familia_De(u"KRT300"), &krt800 = Familia_De(u"KRT800");
+    QCOMPARE(Posicion_Campo(*Base_Datos, krt300, "E", 1), 1);
+    QCOMPARE(Posicion_Campo(*Base_Datos, krt300, "E", 2), 9);
+    QCOMPARE(Posicion_Campo(*Base_Datos, krt800, "E", 2), 1);
+    QVERIFY(Buscar_Campo_G(*Base_Datos, "Estación", krt300, 0));
+    QVERIFY(!Buscar_Campo_G(*Base_Datos, "Código", krt300, 0));
+    QVERIFY(!Buscar_Campo_G(*Base_Datos, "Inventado", krt300, 0));
+
+    // With another model in force the columns before the field count for nothing.
+    const QString datosg = "EE-100   +01500";
+    QStringList valores = {""};
+    Clave_Estacion = "KRT300";
+    Decodificar_General(*Base_Datos, datosg, "KRT300", {"Altura Instrumento"}, valores, 0);
+    QCOMPARE(valores[0], QStringLiteral("1.500"));
+    Clave_Estacion = "KRT800";
+    Decodificar_General(*Base_Datos, datosg, "KRT300", {"Altura Instrumento"}, valores, 0);
+    QCOMPARE(valores[0], QString());
 }
 
 void TestDecodificador::una_linea_de_krt800_data()
@@ -439,9 +542,18 @@ void TestDecodificador::una_linea_de_krt800_data()
                              << QStringList{"7", "101.500", "ARB"};
     QTest::newRow("blanco delante")
         << 1 << " XYZ 7,100.5,200,3,ARB" << xyz << QStringList{"7", "101.500", "ARB"};
+    QTest::newRow("blancos detrás de la palabra")
+        << 1 << "XYZ   7,100.5,200,3,ARB" << xyz << QStringList{"7", "101.500", "ARB"};
+    QTest::newRow("ejes: blancos detrás de la palabra")
+        << 6 << "EJE  0+000 45.5" << QStringList{"Inicio", "Azimut"}
+        << QStringList{"0+000", "45.5"};
     QTest::newRow("sin palabra") << 1 << "XYZ" << xyz << QStringList{"v", "v", "v"};
     QTest::newRow("asterisco deja lo anterior")
         << 1 << "XYZ 7,*,200,3,*" << xyz << QStringList{"7", "v", "v"};
+    QTest::newRow("asterisco y más deja lo anterior")
+        << 1 << "XYZ *7,**,200,3,* A" << xyz << QStringList{"v", "v", "v"};
+    QTest::newRow("asterisco dentro es dato")
+        << 1 << "XYZ 7*,1,200,3, *A" << xyz << QStringList{"7*", "2.000", " *A"};
     QTest::newRow("vacio vacia") << 1 << "XYZ 7,,200,3" << xyz << QStringList{"7", "", ""};
     QTest::newRow("negativa") << 1 << "XYZ 7,-100.5,0,0,A" << xyz
                               << QStringList{"7", "-99.500", "A"};
@@ -470,11 +582,13 @@ void TestDecodificador::una_linea_de_krt800()
     QTEST(valores, "valores");
 
     // The single cut does the same, field by field.
+    const Familia& krt800 = Familia_De(u"KRT800");
+    const Suma suma{krt800, Desplazamientos::En_Vigor()};
     QStringList sueltos(nombres.size(), "v");
     int i = 0;
     for (const Fila_Campo& campo :
-         *Campos_De(*Base_Datos, "KRT800", Id_De_Linea(linea, "KRT800", ope)))
-        Cortar_Token_800(ope, linea, ++i, campo, nombres, sueltos);
+         *Campos_De(*Base_Datos, "KRT800", Id_De_Linea(linea, krt800, ope).toString()))
+        Cortar_Token_800(suma, ope, linea, ++i, campo, nombres, sueltos);
     QTEST(sueltos, "valores");
 }
 
@@ -581,28 +695,50 @@ void TestDecodificador::las_filas_absurdas_vacian_lo_suyo()
 {
     Base_De_Prueba p;
     for (const QString maquina : {"KRT300", "KRT800"}) {
+        const bool por_columnas = maquina == u"KRT300";
         Clave_Estacion = maquina;
-        p.Fila("Identificadores", {{"Nombre", maquina}, {"OPE", 0}, {"ID", "A"}, {"tipo", "G"}});
-        const auto campo = [&](const QString& nombre, const QVariant& orden, const QVariant& digitos,
-                               const QVariant& posdigit, const QVariant& caracter) {
-            p.Fila("Campos", {{"Maquina", maquina}, {"ID", "A"}, {"Campo", nombre}, {"Orden", orden},
-                              {"Digitos", digitos}, {"PosDigit", posdigit}, {"Caracter", caracter},
+        for (const char* id : {"A", "B"})
+            p.Fila("Identificadores", {{"Nombre", maquina}, {"OPE", 0}, {"ID", id}, {"tipo", "G"}});
+        const auto campo = [&](const char* id, const QString& nombre, const QVariant& orden,
+                               const QVariant& digitos, const QVariant& posdigit,
+                               const QVariant& caracter) {
+            p.Fila("Campos", {{"Maquina", maquina},
+                              {"ID", id},
+                              {"Campo", nombre},
+                              {"Orden", orden},
+                              {"Digitos", digitos},
+                              {"PosDigit", posdigit},
+                              {"Caracter", caracter},
                               {"Forsalida", nombre == u"Mal" ? "0.#0.##" : ""}});
         };
-        campo("Bueno", 1, 3, "*", QVariant());
-        campo("Nulo", 2, QVariant(), QVariant(), QVariant());
-        campo("Mal", 3, 4, "siete,tres", ".");
-        campo("Ancho", 4, 2147483647, "999999999,9999999999", ".");
-        campo("Ancho 2", 5, 2147483647, "7,3", ".");
-        campo("Ancho 3", qint64(1) << 40, 2147483647, "7,3", ".");
-        campo("Atrás", -1, -2147483647, "-3,-3", ".");
-        campo("Atrás 2", -1, -2147483647, "*", ".");
-        const QStringList nombres = {"Bueno", "Nulo",    "Mal",   "Ancho",
-                                     "Ancho 2", "Ancho 3", "Atrás", "Atrás 2"};
-        QStringList valores(nombres.size());
-        Decodificar_Linea(*Base_Datos, "A abc1234,99", "1", maquina, 0, nombres, valores);
-        Decodificar_General(*Base_Datos, "Aabc1234", maquina, nombres, valores, 0);
-        QCOMPARE(Posicion_Campo(*Base_Datos, "A", 6), 1 - 2 * 32767 + 3 + 4 + 2 * 32767);
+        // What is wrong with a row empties its own field.
+        campo("A", "Bueno", 1, 3, "*", QVariant());
+        campo("A", "Nulo", 2, QVariant(), QVariant(), QVariant());
+        campo("A", "Mal", 3, 4, "siete,tres", ".");
+        campo("A", "Ancho", 4, 2147483647, "999999999,9999999999", ".");
+        campo("A", "Ancho 2", 5, 2147483647, "7,3", ".");
+        campo("A", "Ancho 3", qint64(1) << 40, 2147483647, "7,3", ".");
+        const QStringList nombres = {"Bueno", "Nulo", "Mal", "Ancho", "Ancho 2", "Ancho 3"};
+        const QStringList por_anchos = {"abc", "", "", ".000000000000000099", "", ""};
+        QStringList valores(nombres.size(), "v");
+        Decodificar_Linea(*Base_Datos, por_columnas ? "Aabc123499" : "A abc,,1 x,99", "1", maquina,
+                          0, nombres, valores);
+        QCOMPARE(valores,
+                 por_columnas ? por_anchos : QStringList({"abc", "", "1 x", "99", "", ""}));
+        QStringList generales(nombres.size(), "v");
+        Decodificar_General(*Base_Datos, "Aabc123499", maquina, nombres, generales, 0);
+        QCOMPARE(generales, por_columnas ? por_anchos : QStringList(nombres.size(), "v"));
+        QCOMPARE(Posicion_Campo(*Base_Datos, Familia_Actual(), "A", 6), 1 + 3 + 4 + 2 * 32767);
+
+        // A width below nothing moves all that follow out of the line.
+        campo("B", "Atrás", -1, -2147483647, "-3,-3", ".");
+        campo("B", "Atrás 2", -1, -2147483647, "*", ".");
+        campo("B", "Detrás", 1, 3, "*", QVariant());
+        QStringList fuera(3, "v");
+        Decodificar_Linea(*Base_Datos, "B abc,99,7", "1", maquina, 0,
+                          {"Atrás", "Atrás 2", "Detrás"}, fuera);
+        QCOMPARE(fuera, por_columnas ? QStringList({"", "", ""}) : QStringList({"abc", "99", "7"}));
+        QCOMPARE(Posicion_Campo(*Base_Datos, Familia_Actual(), "B", 6), 1 - 2 * 32767 + 3);
     }
 }
 

@@ -1,3 +1,4 @@
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "session/Desplazamiento.h"
 #include "tests/apoyo/Prueba.h"
@@ -163,6 +164,7 @@ void TestDesplazamiento::la_suma_sigue_a_la_familia_data()
     fila("300 de cable grande", "KRT300", "C", "1000000000", "+000000001", "7,3", "+1000000001");
     fila("px7 como 300", "PX7", "D", "12.5", "+001234567", "7,3", "1247.067");
     fila("px7 de cable", "PX7", "C", "12.5", "+001234567", "7,3", "+001247067");
+    fila("sin familia", "XX", "D", "1", "1.5", "7,3", "");
     fila("nivel sin forma", "NV400", "D", "1", "1.5", "7,3", "");
 }
 
@@ -173,19 +175,20 @@ void TestDesplazamiento::la_suma_sigue_a_la_familia()
     QFETCH(QString, desplazamiento);
     QFETCH(QString, valor);
     QFETCH(QString, posdigit);
-    Clave_Estacion = clave;
-    QTEST(Sumar_Desplazamiento(modo, desplazamiento, "7,3", valor, posdigit, "7,3"), "suma");
+    QTEST(Sumar_Desplazamiento(Familia_De(clave), modo, desplazamiento, "7,3", valor, posdigit,
+                               "7,3"),
+          "suma");
 }
 
 void TestDesplazamiento::un_valor_que_no_es_numero_es_un_error()
 {
-    Clave_Estacion = "KRT300";
+    const auto sumar = [](const char* clave, const char* valor) {
+        return Sumar_Desplazamiento(Familia_De(QString(clave)), "D", "0", "7,3", valor, "7,3",
+                                    "7,3");
+    };
     for (const char* valor : {"+00A234567", "+", "-", "+12.3.4", "+12 34"})
-        QVERIFY_THROWS_EXCEPTION(Error_Ejecucion,
-                                 Sumar_Desplazamiento("D", "0", "7,3", valor, "7,3", "7,3"));
-    Clave_Estacion = "KRT800";
-    QVERIFY_THROWS_EXCEPTION(Error_Ejecucion,
-                             Sumar_Desplazamiento("D", "0", "7,3", "1e30", "7,3", "7,3"));
+        QVERIFY_THROWS_EXCEPTION(Error_Ejecucion, sumar("KRT300", valor));
+    QVERIFY_THROWS_EXCEPTION(Error_Ejecucion, sumar("KRT800", "1e30"));
 }
 
 void TestDesplazamiento::las_teclas_se_filtran_data()

@@ -1,6 +1,7 @@
 #include "tools/base/Escritura.h"
 
 #include "core/Error_Ejecucion.h"
+#include "core/Familia.h"
 #include "core/jet/Base.h"
 #include "core/jet/Esquema.h"
 
@@ -36,7 +37,7 @@ QVariant Valor(const Juego& juego, const Tabla& t, qsizetype fila, const Esquema
         celda.isEmpty())
         return QVariant();
     if (tabla == QLatin1String("Formatos2") && columna.nombre == QLatin1String("Campo") &&
-        t.Celda(fila, "Maquina") == QLatin1String("NV400"))
+        Familia_De(t.Celda(fila, "Maquina")).serie == Serie::Nivel)
         return Campo_De_Nivel(celda);
     if (columna.nombre == QLatin1String("Codigos")) return QString(celda).replace(u'|', QChar(6));
     return celda;

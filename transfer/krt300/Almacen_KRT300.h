@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/krt300.md
+
 #include "transfer/enlace/Recepcion.h"
 
 #include <memory>

@@ -3,6 +3,7 @@
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "core/Sesiones.h"
+#include "session/Identificador.h"
 
 #include <QSet>
 
@@ -29,14 +30,6 @@ void Avisar_Fallo(const Error_Ejecucion& e, const QString& mensaje)
         Avisar_Formato();
     else
         Informe_Error(mensaje, e);
-}
-
-QString Identificador_De(const QString& linea, int operacion)
-{
-    const QString& fijo = Fila_De(Operacion(operacion)).id_fijo;
-    if (!fijo.isEmpty()) return fijo;
-    // Odd on purpose: the trimmed line is cut where the blank stands in the untrimmed one.
-    return Basico::Trim(Basico::LTrim(linea).left(Basico::InStr(1, linea, u" ")));
 }
 
 struct Campo_Global {
@@ -97,7 +90,7 @@ const QString& Globales_KRT800::DatosG() const
 void Globales_KRT800::Campos_Globales(const QString& linea)
 {
     try {
-        const QString id = Identificador_De(linea, d->operacion);
+        const QString id = Id_Al_Guardar(linea, d->operacion);
         const QList<Campo_Global>& campos = d->Campos_De(id);
         if (campos.isEmpty()) return;
         for (const Campo_Global& c : campos) {

@@ -58,7 +58,6 @@ private:
     }
     std::unique_ptr<QMdiArea> area;
     std::unique_ptr<Banco_Bruto> banco;
-    Puertas_Descargas puertas;
 };
 
 void TestDialogos_Brutos_Ui::init()
@@ -68,14 +67,12 @@ void TestDialogos_Brutos_Ui::init()
     area->show();
     Ventana::Poner_Area(area.get());
     banco = std::make_unique<Banco_Bruto>();
-    puertas = Puertas_De_Descargas();
     Conectar_Dialogos_Brutos();
 }
 
 void TestDialogos_Brutos_Ui::cleanup()
 {
     Limpiar_Ventanas();
-    Puertas_De_Descargas() = puertas;
     banco.reset();
     area.reset();
 }

@@ -1,5 +1,5 @@
-#include "core/Sumas.h"
 #include "core/Sucesos.h"
+#include "core/Sumas.h"
 #include "core/ui/Dialogos.h"
 #include "core/ui/FrmAyuda.h"
 #include "session/ui/frmDescargas.h"

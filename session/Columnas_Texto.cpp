@@ -1,4 +1,4 @@
-#include "session/Tablas.h"
+#include "session/Columnas_Texto.h"
 
 #include <algorithm>
 
@@ -15,19 +15,19 @@ void Igualar(std::vector<QString>& columna, std::size_t filas)
 
 } // namespace
 
-void Igualar_Ancho(Tabla_Textos& tabla)
+void Igualar_Ancho(Columnas_Texto& tabla)
 {
     for (auto& columna : tabla)
         Igualar(columna, columna.size());
 }
 
-void Igualar_Ancho_Menos_Uno(Tabla_Textos& tabla)
+void Igualar_Ancho_Menos_Uno(Columnas_Texto& tabla)
 {
     for (std::size_t c = 0; c + 1 < tabla.size(); ++c)
         if (!tabla[c].empty()) Igualar(tabla[c], tabla[c].size() - 1);
 }
 
-void Quitar_Vacios(Tabla_Textos& tabla)
+void Quitar_Vacios(Columnas_Texto& tabla)
 {
     if (tabla.empty()) return;
     std::vector<std::size_t> llenas;

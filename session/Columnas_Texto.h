@@ -5,12 +5,12 @@
 
 /// A table of text cells, first index the column, second the row, both from 0 and all columns of
 /// one length.
-using Tabla_Textos = std::vector<std::vector<QString>>;
+using Columnas_Texto = std::vector<std::vector<QString>>;
 
 /// Pads the cells of each column with blanks on the left to the length of its longest.
-void Igualar_Ancho(Tabla_Textos& tabla);
+void Igualar_Ancho(Columnas_Texto& tabla);
 /// The same, leaving out the last column and the last row.
-void Igualar_Ancho_Menos_Uno(Tabla_Textos& tabla);
+void Igualar_Ancho_Menos_Uno(Columnas_Texto& tabla);
 /// Drops the rows whose cells are all empty, the order of the others staying; a table without any
 /// content stays as it is.
-void Quitar_Vacios(Tabla_Textos& tabla);
+void Quitar_Vacios(Columnas_Texto& tabla);
