@@ -54,13 +54,13 @@ QWidget* FrmImpBru::Hacer_Datos()
     auto* const fila = new QHBoxLayout;
     fila->addWidget(Text1, 1);
     fila->addWidget(BtnSel);
-    auto* const rotulo = Piezas::Rotulo(QStringLiteral("&Fichero:"));
+    auto* const rotulo = Piezas::Rotulo(QStringLiteral("Fichero:"));
     rotulo->setBuddy(Text1);
     filas->addRow(rotulo, fila);
     Text2 = Piezas::Caja(QStringLiteral("Text2"), LARGO_NOMBRE);
-    filas->addRow(QStringLiteral("&Nombre de Fichero:"), Text2);
+    filas->addRow(QStringLiteral("Nombre de Fichero:"), Text2);
     CbTipo = Piezas::Combo(QStringLiteral("CbTipo"));
-    filas->addRow(QStringLiteral("&Tipo de Fichero:"), CbTipo);
+    filas->addRow(QStringLiteral("Tipo de Fichero:"), CbTipo);
     connect(BtnSel, &QPushButton::clicked, this, &FrmImpBru::BtnSel_Click);
     return Frame2;
 }

@@ -25,7 +25,7 @@ Panel_Bruto::Panel_Bruto(const Dialogo_Bruto& cual, std::function<void()> escond
         opciones->addWidget(boton);
     }
     ChkGenerales = Piezas::Casilla(QStringLiteral("ChkGenerales"),
-                                   QStringLiteral("Incluir los registros &generales"));
+                                   QStringLiteral("Incluir los registros generales"));
     BtnAce = Piezas::Boton(QStringLiteral("BtnAce"), QStringLiteral("&Aceptar"));
     BtnCan = Piezas::Boton(QStringLiteral("BtnCan"), QStringLiteral("&Cancelar"));
     auto* const caja = new QVBoxLayout(this);

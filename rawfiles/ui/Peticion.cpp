@@ -12,8 +12,8 @@
 Peticion::Peticion() : Ventana(QStringLiteral("Peticion"))
 {
     setWindowTitle(QStringLiteral("Conversión IGN"));
-    constexpr const char16_t* ROTULOS[] = {u"Número &Serie", u"Nombre Mira &1", u"Nombre Mira &2",
-                                           u"&Operador", u"&Empresa"};
+    constexpr const char16_t* ROTULOS[] = {u"Número Serie", u"Nombre Mira 1", u"Nombre Mira 2",
+                                           u"Operador", u"Empresa"};
     auto* const caja = new QVBoxLayout(this);
     auto* const filas = new QFormLayout;
     for (std::size_t i = 0; i < cajas.size(); ++i) {

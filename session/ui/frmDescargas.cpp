@@ -162,7 +162,7 @@ void frmDescargas::Menu_De_Rejilla(const QPoint& lugar)
     }
     const auto sesion = Elegida();
     if (sesion && Familia_De(sesion->maquina).serie == Serie::A) {
-        QAction* const generales = menu->addAction("Incluir los registros &generales");
+        QAction* const generales = menu->addAction("Incluir los registros generales");
         generales->setObjectName("MnuGenerales");
         generales->setCheckable(true);
         generales->setChecked(puertas.Incluir_Generales());
