@@ -64,7 +64,7 @@ QString Sin_Ceros(QStringView entera)
     return negativo ? u'-' + cifras : cifras;
 }
 
-const QString& Formato_Coordenada()
+const QString& Anchos_De_Coordenada()
 {
     static const QString formato = QString::fromUtf16(FORMATO_COORDENADA);
     return formato;
@@ -74,8 +74,8 @@ std::optional<Sumador> Sumador_De(const Suma& suma, const Fila_Campo& campo)
 {
     const QString* const desplazamiento = suma.desplazamientos.De_Marca(campo.marcas);
     if (!desplazamiento) return std::nullopt;
-    return Sumador(suma.familia, *desplazamiento, Formato_Coordenada(), campo.posdigit,
-                   Formato_Coordenada());
+    return Sumador(suma.familia, *desplazamiento, Anchos_De_Coordenada(), campo.posdigit,
+                   Anchos_De_Coordenada());
 }
 
 // A coordinate's first place is its sign's. Deliberate: what isn't "-" there counts as "+", a digit
@@ -204,8 +204,8 @@ QString Aplicar_Marca(const Suma& suma, const QString& modo, const QString& marc
 {
     const QString* const desplazamiento = suma.desplazamientos.De_Marca(marca);
     if (!desplazamiento) return valor;
-    return Sumar_Desplazamiento(suma.familia, modo, *desplazamiento, Formato_Coordenada(), valor,
-                                posdigit, Formato_Coordenada());
+    return Sumar_Desplazamiento(suma.familia, modo, *desplazamiento, Anchos_De_Coordenada(), valor,
+                                posdigit, Anchos_De_Coordenada());
 }
 
 void Cortar_Campo(const Suma& suma, const QString& linea, int posicion, const Fila_Campo& campo,

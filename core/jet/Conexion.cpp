@@ -35,7 +35,7 @@ QString Nombre_Unico(const QString& fichero)
 
 Error_Ejecucion Con_Detalle(int numero, const QString& detalle)
 {
-    return Error_Ejecucion(numero, Descripcion_Error(numero) + QStringLiteral(": ") + detalle);
+    return Error_Ejecucion::Con(numero, detalle);
 }
 
 int Numero_Restriccion(const char* mensaje, int extendido)
