@@ -1,9 +1,9 @@
 #include "rawfiles/Exportar_En_Bruto.h"
 
 #include "core/ModEstTotal.h"
-#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Exportar_Datos.h"
 #include "rawfiles/Exportar_Puntos.h"
+#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Lineas_Sesion.h"
 #include "rawfiles/Peticiones_Rawfiles.h"
 
@@ -49,9 +49,12 @@ bool Escribir(const Sesion_Elegida& sesion, int opcion, bool generales, const QS
         aviso = Texto_Falta(falta, sesion.maquina);
         return hecho;
     }
-    case Serie::B: return Exportar_Datos_Modo(sesion.id, ruta, 1);
-    case Serie::Nivel: return Exportar_Datos(sesion.id, ruta);
-    case Serie::Ninguna: break;
+    case Serie::B:
+        return Exportar_Datos_Modo(sesion.id, ruta, 1);
+    case Serie::Nivel:
+        return Exportar_Datos(sesion.id, ruta);
+    case Serie::Ninguna:
+        break;
     }
     return true;
 }
@@ -89,8 +92,7 @@ void Exportar_En_Bruto(const Dialogo_Bruto& dialogo, const Sesion_Elegida& sesio
         const std::optional<QString> ruta = Pedir_Nombre(dialogo);
         if (!ruta) return;
         QString aviso;
-        const bool escrito =
-            !ruta->isEmpty() && Escribir(sesion, opcion, generales, *ruta, aviso);
+        const bool escrito = !ruta->isEmpty() && Escribir(sesion, opcion, generales, *ruta, aviso);
         ocultar();
         Interfaz_Actual().Dejar_Pasar();
         if (!escrito && !(ruta->isEmpty() && dialogo.cierre_sin_nombre)) return;

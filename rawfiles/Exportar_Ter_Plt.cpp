@@ -1,8 +1,8 @@
 #include "rawfiles/Exportar_Ter_Plt.h"
 
 #include "core/ModEstTotal.h"
-#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Exportar_Datos.h"
+#include "rawfiles/Fichero_Destino.h"
 
 #include <algorithm>
 #include <numeric>

@@ -11,9 +11,9 @@
 namespace {
 
 // What the program lives on, below its directory.
-constexpr const char* PROPIOS[] = {"MDB/esttotal.bak", "MDB/esttotal.pak", "DAT/Database.mdb",
-                                   "DAT/plantilla.xls", "EstTotal.ini", "Posicion.ini",
-                                   "Puertos.ini", "DXF.Ini"};
+constexpr const char* PROPIOS[] = {"MDB/esttotal.bak",  "MDB/esttotal.pak", "DAT/Database.mdb",
+                                   "DAT/plantilla.xls", "EstTotal.ini",     "Posicion.ini",
+                                   "Puertos.ini",       "DXF.Ini"};
 
 bool Mismo(const QString& a, const QString& b)
 {
@@ -56,8 +56,7 @@ Fichero_Destino::Fichero_Destino(const QString& donde) : ruta(donde)
         return;
     }
     // Put in place by a rename, which would not mind.
-    if (!viejo.isWritable())
-        throw Error_Ejecucion::Con(70, ruta);
+    if (!viejo.isWritable()) throw Error_Ejecucion::Con(70, ruta);
     ruta = viejo.canonicalFilePath();
     parcial = ruta + QStringLiteral(".parcial");
     fichero.emplace(parcial);

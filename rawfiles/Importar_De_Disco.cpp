@@ -47,10 +47,14 @@ Importacion Importar_Por_Familia(const QString& fichero, const QString& nombre, 
                                  Forma_Bruta forma)
 {
     switch (Familia_Actual().serie) {
-    case Serie::A: return Importar_Bruto(fichero, nombre, ope, forma);
-    case Serie::B: return Importar_KRT800(fichero, nombre, ope);
-    case Serie::Nivel: return Importar_Nivel(fichero, nombre);
-    case Serie::Ninguna: break;
+    case Serie::A:
+        return Importar_Bruto(fichero, nombre, ope, forma);
+    case Serie::B:
+        return Importar_KRT800(fichero, nombre, ope);
+    case Serie::Nivel:
+        return Importar_Nivel(fichero, nombre);
+    case Serie::Ninguna:
+        break;
     }
     return {};
 }
@@ -76,8 +80,7 @@ std::optional<Importacion> Importar_De_Disco(const Dialogo_Importar& dialogo)
                       Error_En_Curso());
         return std::nullopt;
     }
-    const QString nombre = dialogo.nombre.isEmpty()
-                               ? QFileInfo(dialogo.fichero).completeBaseName()
-                               : dialogo.nombre;
+    const QString nombre =
+        dialogo.nombre.isEmpty() ? QFileInfo(dialogo.fichero).completeBaseName() : dialogo.nombre;
     return Importar_Por_Familia(dialogo.fichero, nombre, ope, forma);
 }

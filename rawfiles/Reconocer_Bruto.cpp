@@ -117,9 +117,8 @@ QString Defecto_De(const QByteArray& bytes)
 QStringList Muestra_De(const QByteArray& bytes, Forma_Bruta& forma)
 {
     QStringList lineas = Lineas_Brutas(bytes.left(BYTES_MUESTRA));
-    forma = !lineas.isEmpty() && lineas.first().startsWith(SEPARADOR_MAQUINA)
-                ? Forma_Bruta::Maquina
-                : Forma_Bruta::Lineas;
+    forma = !lineas.isEmpty() && lineas.first().startsWith(SEPARADOR_MAQUINA) ? Forma_Bruta::Maquina
+                                                                              : Forma_Bruta::Lineas;
     if (forma == Forma_Bruta::Maquina) lineas = lineas.join(QString()).split(SEPARADOR_MAQUINA);
     return lineas.first(qMin(MUESTRA, lineas.size()));
 }
@@ -143,7 +142,7 @@ bool Es_De_La_Operacion(const QString& registro, Serie serie, int ope, const Cla
 {
     if (serie == Serie::A) return clases.Es_Serie_A(registro);
     return Fila_De(Operacion(ope)).id_fijo.isEmpty() ? clases.Es_Palabra_De_Serie_B(registro)
-                                                      : Es_Lista_De_Numeros(registro);
+                                                     : Es_Lista_De_Numeros(registro);
 }
 
 bool Ninguno_De_La_Operacion(const QStringList& registros, const Familia& familia, int ope)

@@ -2,7 +2,6 @@
 
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
-#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/estaciones/Angulos.h"
 #include "rawfiles/estaciones/Bronex.h"
 #include "rawfiles/estaciones/BronexCOD.h"
@@ -12,6 +11,7 @@
 #include "rawfiles/Exportar_Nivel_Ign.h"
 #include "rawfiles/Exportar_Puntos.h"
 #include "rawfiles/Exportar_Ter_Plt.h"
+#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Peticiones_Rawfiles.h"
 
 #include <algorithm>
@@ -52,7 +52,8 @@ bool Cartomap(const Tarea_Bruta& t, QString&)
 }
 
 // A layout of the session itself; lines that waited for another run go.
-template <bool (*EXPORTAR)(qint64, const QString&)> bool Disposicion_De(const Tarea_Bruta& t, QString&)
+template <bool (*EXPORTAR)(qint64, const QString&)>
+bool Disposicion_De(const Tarea_Bruta& t, QString&)
 {
     const bool hecho = EXPORTAR(t.id, t.fichero);
     QFile::remove(t.temporal);
@@ -132,8 +133,7 @@ bool Escribir_Bruto(const Tarea_Bruta& tarea)
     const Salida_Bruta* const salida = Salida_Bruta_De(Familia_De(tarea.maquina), tarea.patron);
     QString aviso;
     if (!salida || !salida->escribir(tarea, aviso)) return false;
-    if (!salida->cierre.isEmpty())
-        Interfaz_Actual().Mensaje(salida->cierre, Icono::Informacion);
+    if (!salida->cierre.isEmpty()) Interfaz_Actual().Mensaje(salida->cierre, Icono::Informacion);
     Peticiones_De_Rawfiles().Poner_Aviso(aviso);
     return true;
 }

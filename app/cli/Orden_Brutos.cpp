@@ -36,8 +36,7 @@ QString Leer_Separador(const Argumentos& a)
 {
     const QString palabra = a.Opcion("separador", Separadores().front().palabra);
     const int indice = Indice_Separador(palabra);
-    if (indice < 0)
-        throw Error_Uso{"El separador es " + Palabras_Separador() + ": " + palabra};
+    if (indice < 0) throw Error_Uso{"El separador es " + Palabras_Separador() + ": " + palabra};
     return Separadores()[std::size_t(indice)].caracter;
 }
 
@@ -223,7 +222,7 @@ int Orden_Exportar_Bruto(const Contexto& c, const QStringList& palabras)
     const Respuestas respuestas(c, p.separador, p.datos_ign);
     const QList<Sesion_Elegida> sesiones = Elegidas(c, instalacion, p);
     const bool una_cada_una = p.fichero.contains(MARCA_ID) || p.fichero.contains(MARCA_NOMBRE);
-    const bool hecho = una_cada_una            ? Exportar_Cada_Una(c, p, sesiones)
+    const bool hecho = una_cada_una           ? Exportar_Cada_Una(c, p, sesiones)
                        : sesiones.size() == 1 ? Exportar(p, sesiones.first(), p.fichero)
                                               : Exportar_Juntas(p, sesiones);
     return hecho ? HECHO : RECHAZADO;

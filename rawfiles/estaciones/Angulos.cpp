@@ -1,7 +1,7 @@
 #include "rawfiles/estaciones/Angulos.h"
 
-#include "rawfiles/estaciones/Redondeo.h"
 #include "rawfiles/estaciones/Disposicion.h"
+#include "rawfiles/estaciones/Redondeo.h"
 
 namespace {
 

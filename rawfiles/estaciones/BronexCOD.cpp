@@ -3,8 +3,8 @@
 #include "conversions/biblioteca/Flujo_Conversion.h"
 #include "conversions/biblioteca/Tabla_Funciones.h"
 #include "core/ModEstTotal.h"
-#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/estaciones/Bronex.h"
+#include "rawfiles/Fichero_Destino.h"
 
 #include <QFile>
 

@@ -3,9 +3,9 @@
 #include "core/Decimal.h"
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
-#include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/estaciones/Redondeo.h"
 #include "rawfiles/estaciones/Registro_Serie_B.h"
+#include "rawfiles/Fichero_Destino.h"
 
 #include <vector>
 
@@ -41,8 +41,7 @@ std::vector<Par> Leer_Pares(const QString& entrada)
 
 QString Azimut(const Par& atras)
 {
-    const Decimal diferencia =
-        Decimal::Prefijo(atras.Dato(2)) - Decimal::Prefijo(atras.Dato(3));
+    const Decimal diferencia = Decimal::Prefijo(atras.Dato(2)) - Decimal::Prefijo(atras.Dato(3));
     const Decimal azimut =
         diferencia.Negativo() ? diferencia + Decimal::De_Miles(VUELTA * 1000) : diferencia;
     return Redondeo::Redondear(azimut.Texto(), 4);
@@ -56,14 +55,13 @@ QString Linea_Estacion(const Par& s, const Par& b)
 
 QString Linea_Observacion(const Par& o, const Par& d)
 {
-    return Unidos({QStringLiteral("2"), o.Dato(1), d.Dato(1), d.Dato(2), d.Dato(3), o.Dato(2),
-                   o.Dato(3)});
+    return Unidos(
+        {QStringLiteral("2"), o.Dato(1), d.Dato(1), d.Dato(2), d.Dato(3), o.Dato(2), o.Dato(3)});
 }
 
 QString Linea_Coordenadas(const Par& s, const Par& x)
 {
-    return Unidos(
-        {QStringLiteral("3"), s.Dato(1), x.Dato(1), x.Dato(2), x.Dato(3), s.Dato(3)});
+    return Unidos({QStringLiteral("3"), s.Dato(1), x.Dato(1), x.Dato(2), x.Dato(3), s.Dato(3)});
 }
 
 // Writes what stands at pair i, which moves on over a pair that was taken with it.
@@ -77,8 +75,7 @@ QString Escribir_Par(const std::vector<Par>& pares, std::size_t& i, Fichero_Dest
     } else if (par.clave == u"STN") {
         const bool con_coordenadas = siguiente.clave == u"XYZ" && pares[i + 2].clave == u"BKB";
         if (!con_coordenadas && siguiente.clave != u"BKB")
-            return QStringLiteral(
-                "Se encontró una estación sin coordenadas ni Azimut/Punto atrás");
+            return QStringLiteral("Se encontró una estación sin coordenadas ni Azimut/Punto atrás");
         if (con_coordenadas) destino.Linea(Linea_Coordenadas(par, siguiente));
         destino.Linea(Linea_Estacion(par, con_coordenadas ? pares[i + 2] : siguiente));
         if (con_coordenadas) ++i;
@@ -108,8 +105,8 @@ bool Exportar_Cartomap(const QString& entrada, const QString& ruta)
 {
     if (!FileExist(entrada)) {
         // The quote that stays open is the box's own.
-        Interfaz_Actual().Mensaje(QStringLiteral("El fichero de Entrada '%1 no existe").arg(entrada),
-                                  Icono::Critico);
+        Interfaz_Actual().Mensaje(
+            QStringLiteral("El fichero de Entrada '%1 no existe").arg(entrada), Icono::Critico);
         Interfaz_Actual().Mensaje(QStringLiteral("El fichero de entrada especificado no existe"),
                                   Icono::Critico);
         return false;

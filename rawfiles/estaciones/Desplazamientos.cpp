@@ -1,8 +1,8 @@
 #include "rawfiles/estaciones/Desplazamientos.h"
 
 #include "rawfiles/estaciones/Angulos.h"
-#include "rawfiles/estaciones/Redondeo.h"
 #include "rawfiles/estaciones/Disposicion.h"
+#include "rawfiles/estaciones/Redondeo.h"
 
 #include <cmath>
 
@@ -64,8 +64,8 @@ private:
         const double angulo = Basico::Val(celdas[VERTICAL]);
         celdas[DISTANCIA] =
             Basico::Texto_Numero(Basico::Val(distancia) * std::sin(angulo)).replace(u',', u'.');
-        celdas[OFFSET] = Formato_Punto(
-            Basico::Val(celdas[DISTANCIA]) * std::sin(angulo * PI / 200), QStringLiteral("##0.000"));
+        celdas[OFFSET] = Formato_Punto(Basico::Val(celdas[DISTANCIA]) * std::sin(angulo * PI / 200),
+                                       QStringLiteral("##0.000"));
     }
 };
 
@@ -80,9 +80,9 @@ QString Linea_De(const Celdas& celdas, const QString& separador)
         suplir(PRISMA_2, QStringLiteral("0.000"));
         suplir(OFFSET, QStringLiteral("0.000"));
     }
-    return Unir_Celdas({c[CLASE], c[NOMBRE], c[NUMERO], c[HORIZONTAL], c[VERTICAL], c[OFFSET],
-                        c[PRISMA_2]},
-                       separador + QStringLiteral("    "));
+    return Unir_Celdas(
+        {c[CLASE], c[NOMBRE], c[NUMERO], c[HORIZONTAL], c[VERTICAL], c[OFFSET], c[PRISMA_2]},
+        separador + QStringLiteral("    "));
 }
 
 } // namespace

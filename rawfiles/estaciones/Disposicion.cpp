@@ -4,8 +4,8 @@
 #include "core/ModEstTotal.h"
 #include "rawfiles/Fichero_Destino.h"
 #include "rawfiles/Lineas_Sesion.h"
-#include "session/Peticiones_Sesion.h"
 #include "session/Columnas_Texto.h"
+#include "session/Peticiones_Sesion.h"
 
 #include <algorithm>
 

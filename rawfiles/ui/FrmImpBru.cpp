@@ -27,8 +27,7 @@ FrmImpBru::FrmImpBru() : Ventana(QStringLiteral("FrmImpBru")), OptFor(new QButto
     auto* const caja = new QVBoxLayout(this);
     caja->addWidget(Hacer_Datos());
     caja->addWidget(Hacer_Formato());
-    QPushButton* const BtnAce =
-        Piezas::Boton(QStringLiteral("BtnAce"), QStringLiteral("&Aceptar"));
+    QPushButton* const BtnAce = Piezas::Boton(QStringLiteral("BtnAce"), QStringLiteral("&Aceptar"));
     QPushButton* const BtnCan =
         Piezas::Boton(QStringLiteral("BtnCan"), QStringLiteral("&Cancelar"));
     caja->addLayout(Piezas::Fila_De_Botones({BtnAce, BtnCan}));
@@ -42,13 +41,12 @@ FrmImpBru::FrmImpBru() : Ventana(QStringLiteral("FrmImpBru")), OptFor(new QButto
 
 QWidget* FrmImpBru::Hacer_Datos()
 {
-    QGroupBox* const Frame2 = Piezas::Grupo(QStringLiteral("Datos del Fichero a Importar:"),
-                                            QStringLiteral("Frame2"));
+    QGroupBox* const Frame2 =
+        Piezas::Grupo(QStringLiteral("Datos del Fichero a Importar:"), QStringLiteral("Frame2"));
     auto* const filas = new QFormLayout(Frame2);
     Text1 = Piezas::Caja(QStringLiteral("Text1"));
-    QPushButton* const BtnSel =
-        Piezas::Boton(QStringLiteral("BtnSel"), QStringLiteral("..."),
-                      QStringLiteral("Seleccione el Fichero a Importar"));
+    QPushButton* const BtnSel = Piezas::Boton(QStringLiteral("BtnSel"), QStringLiteral("..."),
+                                              QStringLiteral("Seleccione el Fichero a Importar"));
     BtnSel->setAccessibleName(BtnSel->toolTip());
     BtnSel->setMaximumWidth(BtnSel->fontMetrics().horizontalAdvance(QStringLiteral("MMMM")));
     auto* const fila = new QHBoxLayout;
@@ -70,8 +68,7 @@ QWidget* FrmImpBru::Hacer_Formato()
     QGroupBox* const Frame1 =
         Piezas::Grupo(QStringLiteral("Formato del Fichero:"), QStringLiteral("Frame1"));
     auto* const opciones = new QHBoxLayout(Frame1);
-    constexpr const char16_t* TEXTOS[] = {u"Formato Máquina", u"Formato Lineas",
-                                          u"Formato HD-6"};
+    constexpr const char16_t* TEXTOS[] = {u"Formato Máquina", u"Formato Lineas", u"Formato HD-6"};
     for (int i = 0; i < int(std::size(TEXTOS)); ++i) {
         auto* const boton = new QRadioButton(QString::fromUtf16(TEXTOS[i]));
         boton->setObjectName(QStringLiteral("OptFor"));

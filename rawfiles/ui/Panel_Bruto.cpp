@@ -14,8 +14,8 @@
 Panel_Bruto::Panel_Bruto(const Dialogo_Bruto& cual, std::function<void()> esconder)
     : dialogo(cual), ocultar(std::move(esconder)), OptFor(new QButtonGroup(this))
 {
-    QGroupBox* const Frame1 = Piezas::Grupo(QStringLiteral("Tipo de Exportación"),
-                                            QStringLiteral("Frame1"));
+    QGroupBox* const Frame1 =
+        Piezas::Grupo(QStringLiteral("Tipo de Exportación"), QStringLiteral("Frame1"));
     auto* const opciones = new QVBoxLayout(Frame1);
     for (int i = 0; i < int(std::size(dialogo.opciones)); ++i) {
         auto* const boton = new QRadioButton(dialogo.opciones[i]);

@@ -47,8 +47,7 @@ frmDescargas::frmDescargas()
     caja->addLayout(columna, 1);
     caja->addWidget(botonera);
     DBGrid1->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(DBGrid1, &QTableView::customContextMenuRequested, this,
-            &frmDescargas::Menu_De_Rejilla);
+    connect(DBGrid1, &QTableView::customContextMenuRequested, this, &frmDescargas::Menu_De_Rejilla);
     resize(880, 420);
     Recordar_Posicion("DESCARGAS", 1);
     connect(DBGrid1, &QTableView::doubleClicked, this, &frmDescargas::BtnVerdatos_Click);

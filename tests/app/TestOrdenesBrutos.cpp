@@ -38,8 +38,8 @@ private:
     int Importar(const QStringList& palabras, const QString& modelo, int ope, bool si = false)
     {
         return Correr(QStringList{"importar-bruto"} + palabras +
-                          QStringList{"--modelo", modelo, "--ope", QString::number(ope),
-                                      "--nombre", "Vuelta"},
+                          QStringList{"--modelo", modelo, "--ope", QString::number(ope), "--nombre",
+                                      "Vuelta"},
                       si);
     }
     QString Salida() const { return banco->Ruta("salida"); }
@@ -51,7 +51,8 @@ void TestOrdenesBrutos::init()
 {
     banco = std::make_unique<Banco_Bruto>();
     for (const char* clave : {"KRT300", "KRT800", "NV400", "PX7"})
-        banco->Fila("KRT", {{"Nombre", QString(clave) + "-1"}, {"Clave", clave}, {"VelPuerto", "9600"}});
+        banco->Fila("KRT",
+                    {{"Nombre", QString(clave) + "-1"}, {"Clave", clave}, {"VelPuerto", "9600"}});
     banco->Escribir("EstTotal.ini", "KRTNOM=KRT300-1\r\nKRT=KRT300\r\nFIJO=True\r\n");
     banco->Guardar("KRT300", 0, QList<Linea_De_Prueba>{{"P", "h1", "EE1"}, {"P", "v2", "EE1"}});
     banco->Guardar("KRT800", 0, QStringList{"STN E,1.5", "SS 1,1.3,C", "SD 1,2,3"});
@@ -81,20 +82,28 @@ void TestOrdenesBrutos::mal_uso_data()
 {
     QTest::addColumn<QStringList>("palabras");
     QTest::newRow("sin id") << QStringList{"exportar-bruto", "--patron", "*.hd6", "--salida", "x"};
-    QTest::newRow("id y todas") << QStringList{"exportar-bruto", "1", "--todas", "--patron", "*.hd6", "--salida", "x"};
-    QTest::newRow("id con letras") << QStringList{"exportar-bruto", "uno", "--patron", "*.hd6", "--salida", "x"};
+    QTest::newRow("id y todas") << QStringList{"exportar-bruto", "1",        "--todas", "--patron",
+                                               "*.hd6",          "--salida", "x"};
+    QTest::newRow("id con letras")
+        << QStringList{"exportar-bruto", "uno", "--patron", "*.hd6", "--salida", "x"};
     QTest::newRow("sin patron") << QStringList{"exportar-bruto", "1", "--salida", "x"};
     QTest::newRow("sin salida") << QStringList{"exportar-bruto", "1", "--patron", "*.hd6"};
-    QTest::newRow("salida vacia") << QStringList{"exportar-bruto", "1", "--patron", "*.hd6", "--salida", ""};
-    QTest::newRow("otro separador") << QStringList{"exportar-bruto", "1", "--patron", "*.hd6", "--salida", "x",
-                                                   "--separador", "punto"};
-    QTest::newRow("importar sin fichero") << QStringList{"importar-bruto", "--modelo", "m", "--ope", "0", "--nombre", "n"};
-    QTest::newRow("importar sin modelo") << QStringList{"importar-bruto", "f", "--ope", "0", "--nombre", "n"};
-    QTest::newRow("importar sin ope") << QStringList{"importar-bruto", "f", "--modelo", "m", "--nombre", "n"};
-    QTest::newRow("importar sin nombre") << QStringList{"importar-bruto", "f", "--modelo", "m", "--ope", "0"};
-    QTest::newRow("importar nombre vacio") << QStringList{"importar-bruto", "f", "--modelo", "m", "--ope", "0", "--nombre", ""};
-    QTest::newRow("importar otro formato") << QStringList{"importar-bruto", "f", "--modelo", "m", "--ope", "0",
-                                                          "--nombre", "n", "--formato", "hd6"};
+    QTest::newRow("salida vacia") << QStringList{"exportar-bruto", "1",        "--patron",
+                                                 "*.hd6",          "--salida", ""};
+    QTest::newRow("otro separador") << QStringList{"exportar-bruto", "1", "--patron",    "*.hd6",
+                                                   "--salida",       "x", "--separador", "punto"};
+    QTest::newRow("importar sin fichero")
+        << QStringList{"importar-bruto", "--modelo", "m", "--ope", "0", "--nombre", "n"};
+    QTest::newRow("importar sin modelo")
+        << QStringList{"importar-bruto", "f", "--ope", "0", "--nombre", "n"};
+    QTest::newRow("importar sin ope")
+        << QStringList{"importar-bruto", "f", "--modelo", "m", "--nombre", "n"};
+    QTest::newRow("importar sin nombre")
+        << QStringList{"importar-bruto", "f", "--modelo", "m", "--ope", "0"};
+    QTest::newRow("importar nombre vacio")
+        << QStringList{"importar-bruto", "f", "--modelo", "m", "--ope", "0", "--nombre", ""};
+    QTest::newRow("importar otro formato") << QStringList{
+        "importar-bruto", "f", "--modelo", "m", "--ope", "0", "--nombre", "n", "--formato", "hd6"};
 }
 
 void TestOrdenesBrutos::mal_uso()
@@ -110,8 +119,10 @@ void TestOrdenesBrutos::cada_patron_data()
     QTest::addColumn<QByteArray>("salida");
     QTest::addColumn<QString>("mensajes");
     const QString fin = "Exportación a Fichero Finalizada\n";
-    QTest::newRow("maquina") << QStringList{"1", "--patron", "*.hd6"} << QByteArray("_+P_h1_v2_\r\n")
-                             << fin + "El fichero no incluye los registros generales: Clase E (1)\n";
+    QTest::newRow("maquina") << QStringList{"1", "--patron", "*.hd6"}
+                             << QByteArray("_+P_h1_v2_\r\n")
+                             << fin +
+                                    "El fichero no incluye los registros generales: Clase E (1)\n";
     QTest::newRow("generales") << QStringList{"1", "--patron", "*.hd6", "--generales"}
                                << QByteArray("_EE1_+P_h1_v2_\r\n") << fin;
     QTest::newRow("lineas") << QStringList{"1", "--patron", "*.txt", "--generales"}
@@ -119,15 +130,17 @@ void TestOrdenesBrutos::cada_patron_data()
     QTest::newRow("bronex") << QStringList{"2", "--patron", "*.top"}
                             << QByteArray("E 1 1.0000 2.0000 3.000 1.3 1.5\r\n")
                             << "Exportación a Formato Bronex finalizada\n";
-    QTest::newRow("bronex con comas") << QStringList{"2", "--patron", "*.top", "--separador", "coma"}
-                                      << QByteArray("E,1,1.0000,2.0000,3.000,1.3,1.5\r\n")
-                                      << "Exportación a Formato Bronex finalizada\n";
+    QTest::newRow("bronex con comas")
+        << QStringList{"2", "--patron", "*.top", "--separador", "coma"}
+        << QByteArray("E,1,1.0000,2.0000,3.000,1.3,1.5\r\n")
+        << "Exportación a Formato Bronex finalizada\n";
     QTest::newRow("angulos") << QStringList{"2", "--patron", "*.ang", "--separador=tabulacion"}
                              << QByteArray("1\t1.0000\t2.0000\t3.000\t1.3\tC\r\n")
                              << "Exportación a Formato Angulos y Distancias finalizada\n";
-    QTest::newRow("perfiles") << QStringList{"4", "--patron", "*.ter"}
-                              << QByteArray("*TER\r\n        5,       1,  0  ,  0\r\n        1,         2\r\n")
-                              << "Exportación a Fichero CLIP finalizada\n";
+    QTest::newRow("perfiles")
+        << QStringList{"4", "--patron", "*.ter"}
+        << QByteArray("*TER\r\n        5,       1,  0  ,  0\r\n        1,         2\r\n")
+        << "Exportación a Fichero CLIP finalizada\n";
 }
 
 void TestOrdenesBrutos::cada_patron()
@@ -144,8 +157,9 @@ void TestOrdenesBrutos::cada_patron()
 void TestOrdenesBrutos::el_patron_que_no_es_suyo()
 {
     QCOMPARE(Exportar({"1", "--patron", "*.top", "--salida", Salida()}), int(RECHAZADO));
-    QCOMPARE(mensajes, QString("La sesión 1 (KRT300, Datos de Medición) no se exporta como *.top; se "
-                               "exporta como *.hd6, *.txt\n"));
+    QCOMPARE(mensajes,
+             QString("La sesión 1 (KRT300, Datos de Medición) no se exporta como *.top; se "
+                     "exporta como *.hd6, *.txt\n"));
     QCOMPARE(Exportar({"9", "--patron", "*.top", "--salida", Salida()}), int(RECHAZADO));
     QVERIFY(mensajes.startsWith("No existe la sesión 9"));
     QVERIFY(!QFileInfo::exists(Salida()));
@@ -153,14 +167,15 @@ void TestOrdenesBrutos::el_patron_que_no_es_suyo()
 
 void TestOrdenesBrutos::los_cinco_datos_del_nivel()
 {
-    banco->Guardar("NV400", 0, QStringList{"b,03,OBRA,RN1,1000000,1,", "g,03,115384,33135,6123456,RN1,1,1,1,x,",
-                                           "i,03,105683,26714,6124426,P1,1,1,1,x,"});
-    QCOMPARE(Exportar({"5", "--patron", "*.txt", "--salida", Salida(), "--serie", "S1", "--mira1", "M1",
-                       "--mira2", "M2", "--operador", "OP", "--empresa", "EM"}),
+    banco->Guardar("NV400", 0,
+                   QStringList{"b,03,OBRA,RN1,1000000,1,", "g,03,115384,33135,6123456,RN1,1,1,1,x,",
+                               "i,03,105683,26714,6124426,P1,1,1,1,x,"});
+    QCOMPARE(Exportar({"5", "--patron", "*.txt", "--salida", Salida(), "--serie", "S1", "--mira1",
+                       "M1", "--mira2", "M2", "--operador", "OP", "--empresa", "EM"}),
              int(HECHO));
     const QByteArray salida = banco->Leer("salida");
-    for (const char* dato : {"INSTRUMENTO: S1\r\n", "MIRA 1: M1\r\n", "MIRA 2: M2\r\n", "OPERADOR: OP\r\n",
-                             "EMPRESA: EM\r\n"})
+    for (const char* dato : {"INSTRUMENTO: S1\r\n", "MIRA 1: M1\r\n", "MIRA 2: M2\r\n",
+                             "OPERADOR: OP\r\n", "EMPRESA: EM\r\n"})
         QVERIFY(salida.contains(dato));
 }
 
@@ -172,18 +187,22 @@ void TestOrdenesBrutos::varias_en_un_fichero()
 
 void TestOrdenesBrutos::varias_en_uno_cada_una()
 {
-    QCOMPARE(Exportar({"1", "3", "--patron", "*.txt", "--salida", banco->Ruta("s{id}-{nombre}.txt")}), int(HECHO));
+    QCOMPARE(
+        Exportar({"1", "3", "--patron", "*.txt", "--salida", banco->Ruta("s{id}-{nombre}.txt")}),
+        int(HECHO));
     QCOMPARE(banco->Leer("s1-Obra 1.txt"), QByteArray("+P\r\nh1\r\nv2\r\n"));
     QCOMPARE(banco->Leer("s3-Obra 3.txt"), QByteArray("+Q\r\nh3\r\n"));
     Base_Datos->Execute("UPDATE Sesiones SET NFichero = '../a:b' WHERE ID = 3");
-    QCOMPARE(Exportar({"3", "--patron", "*.txt", "--salida", banco->Ruta("{nombre}.txt")}), int(HECHO));
+    QCOMPARE(Exportar({"3", "--patron", "*.txt", "--salida", banco->Ruta("{nombre}.txt")}),
+             int(HECHO));
     QCOMPARE(banco->Leer(".._a_b.txt"), QByteArray("+Q\r\nh3\r\n"));
 }
 
 void TestOrdenesBrutos::dos_del_mismo_nombre()
 {
     Base_Datos->Execute("UPDATE Sesiones SET NFichero = 'Obra'");
-    QCOMPARE(Exportar({"1", "3", "--patron", "*.txt", "--salida", banco->Ruta("{nombre}.txt")}), int(RECHAZADO));
+    QCOMPARE(Exportar({"1", "3", "--patron", "*.txt", "--salida", banco->Ruta("{nombre}.txt")}),
+             int(RECHAZADO));
     QVERIFY(mensajes.contains("{id}"));
     QVERIFY(!QFileInfo::exists(banco->Ruta("Obra.txt")));
 }
@@ -201,10 +220,12 @@ void TestOrdenesBrutos::todas_las_que_lo_ofrecen()
 void TestOrdenesBrutos::un_fallo_da_estado_uno()
 {
     for (const QStringList& ids : {QStringList{"1"}, QStringList{"1", "3"}}) {
-        QCOMPARE(Exportar(ids + QStringList{"--patron", "*.txt", "--salida", banco->Ruta("no hay/x")}),
-                 int(RECHAZADO));
+        QCOMPARE(
+            Exportar(ids + QStringList{"--patron", "*.txt", "--salida", banco->Ruta("no hay/x")}),
+            int(RECHAZADO));
         QVERIFY(mensajes.contains("(76) "));
-        QCOMPARE(Exportar(ids + QStringList{"--patron", "*.txt", "--salida", Fichero_MDB}), int(RECHAZADO));
+        QCOMPARE(Exportar(ids + QStringList{"--patron", "*.txt", "--salida", Fichero_MDB}),
+                 int(RECHAZADO));
         QVERIFY(mensajes.contains("(70) "));
     }
     QCOMPARE(Exportar({"2", "--patron", "*.ctm", "--salida", Salida()}), int(RECHAZADO));
@@ -223,10 +244,10 @@ void TestOrdenesBrutos::importar_da_su_numero_data()
                              << QByteArray("_EE1_+P_h1_\r\n") << serie_a;
     QTest::newRow("lineas") << "PX7-1" << 0 << QStringList{"--formato", "lineas"}
                             << QByteArray("EE1\r\n+P\r\nh1\r\n") << serie_a;
-    QTest::newRow("se reconoce maquina") << "KRT300-1" << 0 << QStringList{} << QByteArray("_EE1_+P_h1_\r\n")
-                                         << serie_a;
-    QTest::newRow("se reconocen lineas") << "KRT300-1" << 0 << QStringList{} << QByteArray("EE1\n+P\nh1\n")
-                                         << serie_a;
+    QTest::newRow("se reconoce maquina")
+        << "KRT300-1" << 0 << QStringList{} << QByteArray("_EE1_+P_h1_\r\n") << serie_a;
+    QTest::newRow("se reconocen lineas")
+        << "KRT300-1" << 0 << QStringList{} << QByteArray("EE1\n+P\nh1\n") << serie_a;
     QTest::newRow("puntos") << "KRT800-1" << 4 << QStringList{} << QByteArray("P1,1,2,3\r\n")
                             << QStringList{"P1|P1,1,2,3|"};
     QTest::newRow("nivel") << "NV400-1" << 0 << QStringList{} << QByteArray("g,03,1,\r\n")
@@ -253,7 +274,8 @@ void TestOrdenesBrutos::importar_varios()
 {
     banco->Escribir("a", "+P\r\nh1\r\n");
     banco->Escribir("b", "+Q\r\nh2\r\n");
-    QCOMPARE(Importar({banco->Ruta("a"), banco->Ruta("no"), banco->Ruta("b")}, "KRT300-1", 0), int(RECHAZADO));
+    QCOMPARE(Importar({banco->Ruta("a"), banco->Ruta("no"), banco->Ruta("b")}, "KRT300-1", 0),
+             int(RECHAZADO));
     QCOMPARE(texto, QString("5\n6\n"));
     QVERIFY(mensajes.contains("El Fichero especificado no existe: " + banco->Ruta("no")));
     QCOMPARE(banco->Filas("6"), QStringList{"Q|h2|"});

@@ -45,8 +45,8 @@ public:
         Transaccion todas(*Base_Datos);
         Poner_Sesion(*this, id, maquina, ope, lineas);
         todas.Confirmar();
-        return {id, maquina, ope, Columna("SELECT DESOPE FROM OPE WHERE OPE = " +
-                                          QString::number(ope)).value(0)};
+        return {id, maquina, ope,
+                Columna("SELECT DESOPE FROM OPE WHERE OPE = " + QString::number(ope)).value(0)};
     }
     Sesion_Elegida Guardar(const QString& maquina, int ope, const QStringList& lineas)
     {
@@ -76,7 +76,8 @@ public:
     {
         QStringList filas;
         for (Recorrido r = Base_Datos->Recorrer(
-                 "SELECT Punto, Datos, DatosG FROM Registros WHERE ID = ? ORDER BY Secuencia", {id});
+                 "SELECT Punto, Datos, DatosG FROM Registros WHERE ID = ? ORDER BY Secuencia",
+                 {id});
              r.Siguiente();)
             filas << r.Texto(0) + u'|' + r.Texto(1) + u'|' + r.Texto(2).replace(QChar(6), u'^');
         return filas;
@@ -117,22 +118,31 @@ private:
         Clase_De("KRT800", 4, "Punto", "P", 0);
         Clase_De("KRT800", 7, "Per.Trans", "P", 0);
         Clase_De("NV400", 0, "g", "P", 0);
-        const std::pair<int, const char*> opes[] = {
-            {0, "Datos de Medición"}, {1, "Datos de Coordenadas"},
-            {2, "Librería de Códigos"}, {4, "Puntos"}, {7, "Perfiles Transversales"}};
+        const std::pair<int, const char*> opes[] = {{0, "Datos de Medición"},
+                                                    {1, "Datos de Coordenadas"},
+                                                    {2, "Librería de Códigos"},
+                                                    {4, "Puntos"},
+                                                    {7, "Perfiles Transversales"}};
         for (const auto& [ope, nombre] : opes)
             Fila("OPE", {{"OPE", ope}, {"DESOPE", nombre}});
         const std::tuple<const char*, int, const char*> ofertas[] = {
-            {"KRT300", 0, "HD6,LIN"}, {"KRT300", 1, "HD6,LIN"}, {"KRT300", 2, "HD6"},
-            {"PX7", 0, "HD6,LIN"},    {"KRT800", 0, "HD6,PLT,CTM,TOP,TPC,ANG,LEA,OTR"},
-            {"KRT800", 4, "HD6"},     {"KRT800", 7, "TER,HD6"}, {"NV400", 0, "IGN,NIV"}};
+            {"KRT300", 0, "HD6,LIN"},
+            {"KRT300", 1, "HD6,LIN"},
+            {"KRT300", 2, "HD6"},
+            {"PX7", 0, "HD6,LIN"},
+            {"KRT800", 0, "HD6,PLT,CTM,TOP,TPC,ANG,LEA,OTR"},
+            {"KRT800", 4, "HD6"},
+            {"KRT800", 7, "TER,HD6"},
+            {"NV400", 0, "IGN,NIV"}};
         for (const auto& [maquina, ope, conv] : ofertas)
-            Fila("KRT2", {{"Nombre", maquina},
-                          {"OPE", ope},
-                          {"TipOpe", "D"},
-                          {"Conv", conv},
-                          {"DESOPE", Columna("SELECT DESOPE FROM OPE WHERE OPE = " +
-                                             QString::number(ope)).value(0)}});
+            Fila(
+                "KRT2",
+                {{"Nombre", maquina},
+                 {"OPE", ope},
+                 {"TipOpe", "D"},
+                 {"Conv", conv},
+                 {"DESOPE",
+                  Columna("SELECT DESOPE FROM OPE WHERE OPE = " + QString::number(ope)).value(0)}});
         const std::pair<const char*, const char*> tipos[] = {
             {"HD6", "*.hd6"}, {"LIN", "*.txt"}, {"PLT", "*.plt"}, {"CTM", "*.ctm"},
             {"TOP", "*.top"}, {"TPC", "*.tpc"}, {"ANG", "*.ang"}, {"LEA", "*.lea"},
@@ -142,7 +152,8 @@ private:
                              {"descripcion", QString(" Forma ") + clave},
                              {"ext", QString(" ") + patron}});
     }
-    void Clase_De(const QString& maquina, int ope, const QString& id, const QString& tipo, int ancho)
+    void Clase_De(const QString& maquina, int ope, const QString& id, const QString& tipo,
+                  int ancho)
     {
         const QByteArray campo = "Campo " + id.toLatin1();
         Poner_Registro(*this, maquina, {ope}, id, "Clase " + id, tipo,

@@ -44,14 +44,15 @@ void TestExportar_Puntos::las_dos_formas_data()
     QTest::newRow("dos puntos") << Filas{{"P1", "h1"}, {"P1", "v2"}, {"P2", "h3"}}
                                 << QByteArray("_+P1_h1_v2_+P2_h3_\r\n")
                                 << QByteArray("+P1\r\nh1\r\nv2\r\n+P2\r\nh3\r\n");
-    QTest::newRow("sin punto al principio") << Filas{{"", "h1"}, {"P1", "v2"}, {"", "h3"}}
-                                            << QByteArray("_h1_+P1_v2_+_h3_\r\n")
-                                            << QByteArray("h1\r\n+P1\r\nv2\r\n+\r\nh3\r\n");
-    QTest::newRow("un punto que vuelve") << Filas{{"P", "h1"}, {"Q", "h2"}, {"P", "h3"}}
-                                         << QByteArray("_+P_h1_+Q_h2_+P_h3_\r\n")
-                                         << QByteArray("+P\r\nh1\r\n+Q\r\nh2\r\n+P\r\nh3\r\n");
-    QTest::newRow("blancos y altos") << Filas{{"Ñ", " cA€  "}} << QByteArray("_+\xd1_ cA\x80  _\r\n")
-                                     << QByteArray("+\xd1\r\n cA\x80  \r\n");
+    QTest::newRow("sin punto al principio")
+        << Filas{{"", "h1"}, {"P1", "v2"}, {"", "h3"}} << QByteArray("_h1_+P1_v2_+_h3_\r\n")
+        << QByteArray("h1\r\n+P1\r\nv2\r\n+\r\nh3\r\n");
+    QTest::newRow("un punto que vuelve")
+        << Filas{{"P", "h1"}, {"Q", "h2"}, {"P", "h3"}} << QByteArray("_+P_h1_+Q_h2_+P_h3_\r\n")
+        << QByteArray("+P\r\nh1\r\n+Q\r\nh2\r\n+P\r\nh3\r\n");
+    QTest::newRow("blancos y altos")
+        << Filas{{"Ñ", " cA€  "}} << QByteArray("_+\xd1_ cA\x80  _\r\n")
+        << QByteArray("+\xd1\r\n cA\x80  \r\n");
 }
 
 void TestExportar_Puntos::las_dos_formas()
@@ -84,11 +85,11 @@ void TestExportar_Puntos::los_generales_en_su_sitio()
 void TestExportar_Puntos::lo_que_falta_se_cuenta()
 {
     const auto sesion = banco->Guardar(
-        "KRT300", 0,
-        QList<Linea_De_Prueba>{{"P1", "h1", "JA\6EE1"}, {"P2", "h2", "JA\6EE2\6Q3"}});
+        "KRT300", 0, QList<Linea_De_Prueba>{{"P1", "h1", "JA\6EE1"}, {"P2", "h2", "JA\6EE2\6Q3"}});
     QCOMPARE(Exportar(sesion, Forma_Bruta::Lineas), QByteArray("+P1\r\nh1\r\n+P2\r\nh2\r\n"));
-    QCOMPARE(Texto_Falta(falta, "KRT300"),
-             QString("El fichero no incluye los registros generales: Clase E (2), Clase J (1), Q (1)"));
+    QCOMPARE(
+        Texto_Falta(falta, "KRT300"),
+        QString("El fichero no incluye los registros generales: Clase E (2), Clase J (1), Q (1)"));
 }
 
 void TestExportar_Puntos::una_sesion_vacia()
@@ -122,7 +123,8 @@ void TestExportar_Puntos::lo_partido_se_dice()
 
 void TestExportar_Puntos::los_demas_tal_cual()
 {
-    const QStringList lineas{"STN E1,1.5", "", "  con blancos  ", QString("Ñ€") + QChar(0x81), "sin comas"};
+    const QStringList lineas{"STN E1,1.5", "", "  con blancos  ", QString("Ñ€") + QChar(0x81),
+                             "sin comas"};
     const QByteArray bytes("STN E1,1.5\r\n\r\n  con blancos  \r\n\xd1\x80\x81\r\nsin comas\r\n");
     const auto b = banco->Guardar("KRT800", 0, lineas);
     QVERIFY(Exportar_Datos_Modo(b.id, banco->Ruta("salida"), 1));

@@ -63,7 +63,8 @@ void TestImportar_Bruto::las_lineas_de_un_fichero_data()
     QTest::newRow("sin fin") << QByteArray("a\r\nb") << QStringList{"a", "b"};
     QTest::newRow("vacias") << QByteArray("\r\na\r\n\r\n") << QStringList{"", "a", ""};
     QTest::newRow("un CR dentro es de la linea") << QByteArray("a\rb\r\n") << QStringList{"a\rb"};
-    QTest::newRow("altos") << QByteArray("\xd1\x80\x81\n") << QStringList{QString("Ñ€") + QChar(0x81)};
+    QTest::newRow("altos") << QByteArray("\xd1\x80\x81\n")
+                           << QStringList{QString("Ñ€") + QChar(0x81)};
 }
 
 void TestImportar_Bruto::las_lineas_de_un_fichero()
@@ -79,8 +80,8 @@ void TestImportar_Bruto::serie_a_las_dos_formas_data()
     QTest::addColumn<int>("forma");
     const int maquina = int(Forma_Bruta::Maquina), lineas = int(Forma_Bruta::Lineas);
     QTest::newRow("maquina") << QByteArray("_JA_EE1_+P1 _h1_ v2  _+Ñ_h3_\r\n") << maquina;
-    QTest::newRow("maquina en varias lineas") << QByteArray("_JA_E\r\nE1_+P1_h1_ v\r\n2  _+Ñ_h3_")
-                                              << maquina;
+    QTest::newRow("maquina en varias lineas")
+        << QByteArray("_JA_E\r\nE1_+P1_h1_ v\r\n2  _+Ñ_h3_") << maquina;
     QTest::newRow("lineas") << QByteArray("JA\r\nEE1\r\n+P1\r\nh1\r\n v2  \r\n\r\n+Ñ\r\nh3\r\n")
                             << lineas;
 }
@@ -158,7 +159,8 @@ void TestImportar_Bruto::serie_a_dice_lo_que_no_guarda()
 void TestImportar_Bruto::serie_a_un_fallo_lleva_su_mensaje()
 {
     QVERIFY(!Importar_Bruto(banco->Ruta("no hay"), "Obra", 0, Forma_Bruta::Lineas).completa);
-    QVERIFY(banco->Avisos().value(0).startsWith("Se produjo un error al importar el Fichero en Bruto\r(53) "));
+    QVERIFY(banco->Avisos().value(0).startsWith(
+        "Se produjo un error al importar el Fichero en Bruto\r(53) "));
     QCOMPARE(banco->Columna("SELECT ID FROM Sesiones"), QStringList{});
     QCOMPARE(banco->interfaz.cursor, 0);
 }
@@ -167,7 +169,9 @@ void TestImportar_Bruto::krt800_una_fila_por_linea_data()
 {
     QTest::addColumn<int>("ope");
     QTest::addColumn<QStringList>("filas");
-    QTest::newRow("puntos") << 4 << QStringList{"P1|P1,1,2,3|", "||", "sin comas|sin comas|", "Ñ |Ñ ,4 |"};
+    QTest::newRow("puntos") << 4
+                            << QStringList{"P1|P1,1,2,3|", "||", "sin comas|sin comas|",
+                                           "Ñ |Ñ ,4 |"};
     QTest::newRow("medicion") << 0 << QStringList{"|P1,1,2,3|", "||", "|sin comas|", "|Ñ ,4 |"};
     QTest::newRow("perfiles") << 7 << QStringList{"|P1,1,2,3|", "||", "|sin comas|", "|Ñ ,4 |"};
 }
@@ -177,7 +181,8 @@ void TestImportar_Bruto::krt800_una_fila_por_linea()
     QFETCH(int, ope);
     QFETCH(QStringList, filas);
     banco->Familia("KRT800");
-    const auto hecho = Importar_KRT800(Fichero("P1,1,2,3\r\n\r\nsin comas\r\n\xd1 ,4 "), "Obra", ope);
+    const auto hecho =
+        Importar_KRT800(Fichero("P1,1,2,3\r\n\r\nsin comas\r\n\xd1 ,4 "), "Obra", ope);
     QVERIFY(hecho.completa);
     QCOMPARE(banco->Avisos(), QStringList{HECHA});
     QCOMPARE(banco->Filas("1"), filas);
@@ -247,7 +252,8 @@ void TestImportar_Bruto::demasiadas_sesiones()
 {
     Poner_Sesion(*banco, 32767, "KRT300", 0, {});
     QVERIFY(!Importar_Bruto(Fichero("h1\r\n"), "Obra", 0, Forma_Bruta::Lineas).completa);
-    QVERIFY(banco->Avisos().value(0).startsWith("Se produjo un error al importar el Fichero en Bruto\r(6) "));
+    QVERIFY(banco->Avisos().value(0).startsWith(
+        "Se produjo un error al importar el Fichero en Bruto\r(6) "));
     QCOMPARE(banco->Columna("SELECT ID FROM Registros"), QStringList{});
 }
 
@@ -258,11 +264,13 @@ void TestImportar_Bruto::el_dialogo_de_cada_familia_data()
     QTest::addColumn<int>("tipo");
     QTest::addColumn<int>("opcion");
     QTest::newRow("KRT300") << "KRT300"
-                            << QStringList{"Datos de Medición", "Datos de Coordenadas", "Librería de Códigos"}
+                            << QStringList{"Datos de Medición", "Datos de Coordenadas",
+                                           "Librería de Códigos"}
                             << 2 << 1;
     QTest::newRow("PX7") << "PX7" << QStringList{"Datos de Medición"} << 0 << 0;
     QTest::newRow("KRT800") << "KRT800"
-                            << QStringList{"Datos de Medición", "Puntos", "Perfiles Transversales"} << 0 << 0;
+                            << QStringList{"Datos de Medición", "Puntos", "Perfiles Transversales"}
+                            << 0 << 0;
     QTest::newRow("NV400") << "NV400" << QStringList{"Datos de Medición"} << 0 << 0;
 }
 

@@ -55,7 +55,8 @@ void TestModFBruto::el_dialogo_por_familia_data()
 {
     QTest::addColumn<QString>("maquina");
     QTest::addColumn<QString>("filtro");
-    QTest::newRow("KRT300") << "KRT300" << "Forma HD6|*.hd6|Forma LIN|*.txt";
+    QTest::newRow("KRT300") << "KRT300"
+                            << "Forma HD6|*.hd6|Forma LIN|*.txt";
     QTest::newRow("PX7") << "PX7"
                          << "Forma HD6|*.hd6|Forma LIN|*.txt|Formato en Bruto (*.*)|*.*";
     QTest::newRow("NV400") << "NV400"
@@ -128,14 +129,16 @@ void TestModFBruto::cada_rama_data()
                                 << QByteArray("E 1 1.0000 2.0000 3.000 1.3 1.5\r\n")
                                 << "Exportación a Formato Bronex finalizada";
     QTest::newRow("KRT800 tpc") << "KRT800" << 0 << "*.tpc" << b
-                                << QByteArray("         E          1     1.0000     2.0000      3.000"
-                                              "      1.3      1.5 C\r\n")
+                                << QByteArray(
+                                       "         E          1     1.0000     2.0000      3.000"
+                                       "      1.3      1.5 C\r\n")
                                 << "Exportación a Formato BronexCOD finalizada";
     QTest::newRow("KRT800 ang") << "KRT800" << 0 << "*.ang" << b
                                 << QByteArray("1 1.0000 2.0000 3.000 1.3 C\r\n")
                                 << "Exportación a Formato Angulos y Distancias finalizada";
     QTest::newRow("KRT800 lea") << "KRT800" << 0 << "*.lea" << QStringList{"STN E,1.5"}
-                                << QByteArray("S     E          1.5      0.0000     0.000     0.000\r\n")
+                                << QByteArray(
+                                       "S     E          1.5      0.0000     0.000     0.000\r\n")
                                 << "Exportación a Formato Desplazamientos en Bruto Finalizada";
     QTest::newRow("KRT800 ter") << "KRT800" << 7 << "*.ter" << QStringList{"5,1,2"}
                                 << QByteArray("*TER\r\n        5,       1,  0  ,  0\r\n"
@@ -187,7 +190,8 @@ void TestModFBruto::ter_no_recoge_lo_de_otro_dia()
     QVERIFY(!QFileInfo::exists(banco->Ruta("salida")));
     Elegir(banco->Ruta("no hay/salida"), 1);
     Exportar_Fichero_Bruto(banco->Guardar("KRT800", 7, QStringList{"5,1,2"}));
-    QVERIFY(banco->Avisos().value(0).startsWith("Se produjo un error al exportar un Fichero\r(76) "));
+    QVERIFY(
+        banco->Avisos().value(0).startsWith("Se produjo un error al exportar un Fichero\r(76) "));
 }
 
 void TestModFBruto::el_resto_entrega_el_temporal()
@@ -312,10 +316,14 @@ void TestModFBruto::bruto_escribe_y_se_esconde_data()
     QTest::addColumn<QByteArray>("salida");
     for (const bool disco : {false, true}) {
         const QByteArray d = disco ? "disco " : "bruto ";
-        QTest::newRow((d + "KRT300 primera").constData()) << disco << "KRT300" << 0 << QByteArray("_h1_\r\n");
-        QTest::newRow((d + "KRT300 segunda").constData()) << disco << "KRT300" << 1 << QByteArray("h1\r\n");
-        QTest::newRow((d + "PX7 primera").constData()) << disco << "PX7" << 0 << QByteArray("_h1_\r\n");
-        QTest::newRow((d + "KRT800 segunda").constData()) << disco << "KRT800" << 1 << QByteArray("h1\r\n");
+        QTest::newRow((d + "KRT300 primera").constData())
+            << disco << "KRT300" << 0 << QByteArray("_h1_\r\n");
+        QTest::newRow((d + "KRT300 segunda").constData())
+            << disco << "KRT300" << 1 << QByteArray("h1\r\n");
+        QTest::newRow((d + "PX7 primera").constData())
+            << disco << "PX7" << 0 << QByteArray("_h1_\r\n");
+        QTest::newRow((d + "KRT800 segunda").constData())
+            << disco << "KRT800" << 1 << QByteArray("h1\r\n");
         QTest::newRow((d + "NV400").constData()) << disco << "NV400" << 0 << QByteArray("h1\r\n");
     }
 }
@@ -333,10 +341,11 @@ void TestModFBruto::bruto_escribe_y_se_esconde()
                       [&] { escondido = true; });
     const Peticion_Fichero& p = banco->interfaz.peticiones.value(0);
     QCOMPARE(p.titulo, QString("Introduzca el nombre del Fichero a Exportar"));
-    QCOMPARE(p.filtro, disco ? QString("Todos los archivos (*.*)|*.*|Archivos de texto (*.txt)|*.txt|"
-                                       "Archivos hd6 (*.hd6)|*.hd6")
-                             : QString("Todos los archivos (*.*)|*.*|"
-                                       "Archivos Formato Bruto (*.HD6)|*.HD6"));
+    QCOMPARE(p.filtro, disco
+                           ? QString("Todos los archivos (*.*)|*.*|Archivos de texto (*.txt)|*.txt|"
+                                     "Archivos hd6 (*.hd6)|*.hd6")
+                           : QString("Todos los archivos (*.*)|*.*|"
+                                     "Archivos Formato Bruto (*.HD6)|*.HD6"));
     QCOMPARE(p.indice_filtro, 2);
     QCOMPARE(p.carpeta, Ruta_Aplicacion);
     QVERIFY(p.guardar);
@@ -403,7 +412,8 @@ void TestModFBruto::bruto_los_fallos()
     banco->interfaz.respuestas = {true};
     Exportar_En_Bruto(Dialogo_FrmExpBruto(), sesion, 0, false, [] {});
     avisos = banco->Avisos();
-    QVERIFY(avisos.value(1).startsWith("Se produjo un error al exportar el fichero en bruto\r(70) "));
+    QVERIFY(
+        avisos.value(1).startsWith("Se produjo un error al exportar el fichero en bruto\r(70) "));
     QVERIFY(QFileInfo::exists(Fichero_MDB));
 }
 

@@ -47,30 +47,32 @@ void TestCartomap::cada_caso_data()
     QTest::addColumn<QByteArray>("salida");
     QTest::addColumn<QStringList>("avisos");
     const QStringList nada;
-    QTest::newRow("solo el trabajo") << QByteArray("JOB  VALLE , x\r\n") << QByteArray("0,VALLE\r\n")
-                                     << nada;
-    QTest::newRow("sin blanco se deja") << QByteArray("JOB\r\n JOB A\r\n\r\n") << QByteArray() << nada;
+    QTest::newRow("solo el trabajo")
+        << QByteArray("JOB  VALLE , x\r\n") << QByteArray("0,VALLE\r\n") << nada;
+    QTest::newRow("sin blanco se deja")
+        << QByteArray("JOB\r\n JOB A\r\n\r\n") << QByteArray() << nada;
     QTest::newRow("estacion con todo")
         << QByteArray("STN E,1.5,V\r\nXYZ 1,2,3\r\nBKB B,10,300.5\r\n")
         << QByteArray("3,E,1,2,3,V\r\n1,E,1.5,B,109.5000,1,\r\n") << nada;
     QTest::newRow("estacion solo con punto atras") << QByteArray("STN E,1.5\r\nBKB B,10,3\r\n")
                                                    << QByteArray("1,E,1.5,B,7.0000,1,\r\n") << nada;
-    QTest::newRow("coordenadas sin punto atras") << QByteArray("JOB A\r\nSTN E,1.5\r\nXYZ 1,2,3\r\nSS 1,1\r\n")
-                                                 << QByteArray("0,A\r\n") << QStringList{SIN_ESTACION};
-    QTest::newRow("estacion la ultima") << QByteArray("STN E,1.5\r\n") << QByteArray()
-                                        << QStringList{SIN_ESTACION};
+    QTest::newRow("coordenadas sin punto atras")
+        << QByteArray("JOB A\r\nSTN E,1.5\r\nXYZ 1,2,3\r\nSS 1,1\r\n") << QByteArray("0,A\r\n")
+        << QStringList{SIN_ESTACION};
+    QTest::newRow("estacion la ultima")
+        << QByteArray("STN E,1.5\r\n") << QByteArray() << QStringList{SIN_ESTACION};
     QTest::newRow("visado sin medida") << QByteArray("SS 1,1,C\r\nSS 2,1,C\r\nSD 1,2,3\r\n")
                                        << QByteArray() << QStringList{SIN_SD};
     QTest::newRow("visado el ultimo") << QByteArray("SS 1,1,C\r\nSD 1,2,3\r\nSS 2,1,C\r\n")
                                       << QByteArray("2,1,1,2,3,1,C\r\n") << QStringList{SIN_SD};
-    QTest::newRow("FS y SD sueltos no son nada") << QByteArray("FS 1,1,C\r\nSD 1,2,3\r\n")
-                                                 << QByteArray() << nada;
-    QTest::newRow("el azimut redondea la mitad")
-        << QByteArray("STN E,1\r\nBKB B,0.00005,0\r\n") << QByteArray("1,E,1,B,0.0001,1,\r\n") << nada;
-    QTest::newRow("negativo y mitad")
-        << QByteArray("STN E,1\r\nBKB B,0,0.00005\r\n") << QByteArray("1,E,1,B,400.0000,1,\r\n") << nada;
-    QTest::newRow("angulos que faltan") << QByteArray("STN E,1\r\nBKB B\r\n")
-                                        << QByteArray("1,E,1,B,0.0000,1,\r\n") << nada;
+    QTest::newRow("FS y SD sueltos no son nada")
+        << QByteArray("FS 1,1,C\r\nSD 1,2,3\r\n") << QByteArray() << nada;
+    QTest::newRow("el azimut redondea la mitad") << QByteArray("STN E,1\r\nBKB B,0.00005,0\r\n")
+                                                 << QByteArray("1,E,1,B,0.0001,1,\r\n") << nada;
+    QTest::newRow("negativo y mitad") << QByteArray("STN E,1\r\nBKB B,0,0.00005\r\n")
+                                      << QByteArray("1,E,1,B,400.0000,1,\r\n") << nada;
+    QTest::newRow("angulos que faltan")
+        << QByteArray("STN E,1\r\nBKB B\r\n") << QByteArray("1,E,1,B,0.0000,1,\r\n") << nada;
 }
 
 void TestCartomap::cada_caso()
@@ -90,8 +92,9 @@ void TestCartomap::sin_entrada_dos_avisos()
     banco->Escribir("salida", "lo de antes");
     QVERIFY(!Exportar_Cartomap(banco->Ruta("no"), banco->Ruta("salida")));
     QCOMPARE(banco->interfaz.avisos.value(1).icono, Icono::Critico);
-    QCOMPARE(banco->Avisos(), (QStringList{"El fichero de Entrada '" + banco->Ruta("no") + " no existe",
-                                           "El fichero de entrada especificado no existe"}));
+    QCOMPARE(banco->Avisos(),
+             (QStringList{"El fichero de Entrada '" + banco->Ruta("no") + " no existe",
+                          "El fichero de entrada especificado no existe"}));
     QCOMPARE(banco->Leer("salida"), QByteArray("lo de antes"));
 }
 
@@ -99,9 +102,11 @@ void TestCartomap::una_salida_imposible()
 {
     banco->Escribir("entrada", "JOB A\r\n");
     QVERIFY(!Exportar_Cartomap(banco->Ruta("entrada"), banco->Ruta("no hay/salida")));
-    QVERIFY(banco->Avisos().value(0).startsWith("Se produjo un error al abrir el Fichero de Salida\r(76) "));
+    QVERIFY(banco->Avisos().value(0).startsWith(
+        "Se produjo un error al abrir el Fichero de Salida\r(76) "));
     QVERIFY(!Exportar_Cartomap(banco->Ruta("entrada"), banco->Ruta("./entrada")));
-    QVERIFY(banco->Avisos().value(0).startsWith("Se produjo un error al abrir el Fichero de Salida\r(70) "));
+    QVERIFY(banco->Avisos().value(0).startsWith(
+        "Se produjo un error al abrir el Fichero de Salida\r(70) "));
     QCOMPARE(banco->Leer("entrada"), QByteArray("JOB A\r\n"));
 }
 
@@ -114,7 +119,8 @@ void TestCartomap::mas_de_65535_pares()
     QVERIFY(Exportar_Cartomap(banco->Ruta("entrada"), banco->Ruta("salida")));
     banco->Escribir("entrada", libreta + "NOT x\r\n");
     QVERIFY(!Exportar_Cartomap(banco->Ruta("entrada"), banco->Ruta("salida")));
-    QVERIFY(banco->Avisos().value(0).startsWith("Se produjo un error al convertir a Formato CARTOMAP\r(9) "));
+    QVERIFY(banco->Avisos().value(0).startsWith(
+        "Se produjo un error al convertir a Formato CARTOMAP\r(9) "));
 }
 
 PRUEBA(TestCartomap)

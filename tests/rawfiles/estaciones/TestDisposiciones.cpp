@@ -119,13 +119,14 @@ void TestDisposiciones::cada_caso_data()
     QTest::newRow("el segundo SD repite el punto")
         << top << QStringList{"STN E,1.6", "SS 1,1.5,C", "SD 1,2,3", "SD 4,5,6"}
         << QByteArray("E,1,1.0000,2.0000,3.000,1.5,1.6\r\nE,1,4.0000,5.0000,6.000,1.5,1.6\r\n");
-    QTest::newRow("FS es un punto como SS") << top << QStringList{"FS 9,2", "SD 1,2,3"}
-                                            << QByteArray(",9,1.0000,2.0000,3.000,2,\r\n");
+    QTest::newRow("FS es un punto como SS")
+        << top << QStringList{"FS 9,2", "SD 1,2,3"} << QByteArray(",9,1.0000,2.0000,3.000,2,\r\n");
     QTest::newRow("una medida que falta queda vacia")
         << top << QStringList{"SS 1,1.5", "SD 1,,3"} << QByteArray(",1,1.0000,,3.000,1.5,\r\n");
     QTest::newRow("BronexCOD sin estacion")
         << tpc << QStringList{"SS 1,1.5,C", "SD 1,2,3"}
-        << QByteArray("                    1     1.0000     2.0000      3.000      1.5          C\r\n");
+        << QByteArray(
+               "                    1     1.0000     2.0000      3.000      1.5          C\r\n");
     QTest::newRow("qtr no tapa lo que llega")
         << tpc << QStringList{"SD 1,2,3", "STN E,1.6", "SS 7,1,K", "SD 1,2,3"}
         << QByteArray("                          1.0000     2.0000      3.000                  \r\n"
@@ -172,7 +173,8 @@ void TestDisposiciones::sin_separador_no_hace_nada()
 {
     QFETCH(Exportar, exportar);
     banco->separador.clear();
-    QVERIFY(!exportar(banco->Guardar("KRT800", 0, QStringList{"SD 1,2,3"}).id, banco->Ruta("salida")));
+    QVERIFY(
+        !exportar(banco->Guardar("KRT800", 0, QStringList{"SD 1,2,3"}).id, banco->Ruta("salida")));
     QVERIFY(!QFileInfo::exists(banco->Ruta("salida")));
 }
 

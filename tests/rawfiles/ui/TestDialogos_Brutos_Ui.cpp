@@ -113,8 +113,8 @@ void TestDialogos_Brutos_Ui::los_dos_de_exportar()
     const auto sesion = banco->Guardar(maquina, 0, QStringList{"h1"});
     Al_Abrirse abierto([&](QWidget& w) {
         QCOMPARE(w.objectName(), disco ? QString("FrmExpBrut") : QString("FrmExpBruto"));
-        QCOMPARE(w.windowTitle(),
-                 disco ? QString("Exportar Fichero a Disco") : QString("Exportar Fichero en Bruto"));
+        QCOMPARE(w.windowTitle(), disco ? QString("Exportar Fichero a Disco")
+                                        : QString("Exportar Fichero en Bruto"));
         QCOMPARE(Hijo<QGroupBox>(w, "Frame1").title(), QString("Tipo de Exportación"));
         QCOMPARE(Hijo<QRadioButton>(w, "OptFor", 0).text(), QString("Formato \"&Lineas\""));
         QCOMPARE(Hijo<QRadioButton>(w, "OptFor", 1).text(),
@@ -125,8 +125,10 @@ void TestDialogos_Brutos_Ui::los_dos_de_exportar()
                  Familia_De(maquina).serie == Serie::A);
         Pulsar(w, "BtnCan");
     });
-    if (disco) Dialogos::Unico<FrmExpBrut>().Abrir(sesion);
-    else Dialogos::Unico<FrmExpBruto>().Abrir(sesion);
+    if (disco)
+        Dialogos::Unico<FrmExpBrut>().Abrir(sesion);
+    else
+        Dialogos::Unico<FrmExpBruto>().Abrir(sesion);
     QCOMPARE(abierto.veces, 1);
 }
 
@@ -185,7 +187,8 @@ void TestDialogos_Brutos_Ui::importar_lo_que_muestra()
         for (int i = 0; i < 3; ++i)
             QCOMPARE(Hijo<QRadioButton>(w, "OptFor", i).text(), QString(textos[i]));
         QVERIFY(Hijo<QRadioButton>(w, "OptFor", 1).isChecked());
-        QCOMPARE(Hijo<QPushButton>(w, "BtnSel").toolTip(), QString("Seleccione el Fichero a Importar"));
+        QCOMPARE(Hijo<QPushButton>(w, "BtnSel").toolTip(),
+                 QString("Seleccione el Fichero a Importar"));
         const auto& tipos = Hijo<QComboBox>(w, "CbTipo");
         QCOMPARE(tipos.currentIndex(), 2);
         QCOMPARE(tipos.itemText(1), QString("Datos de Coordenadas"));
@@ -256,8 +259,8 @@ void TestDialogos_Brutos_Ui::peticion_los_cinco_textos()
         for (int i = 0; i < 5; ++i) {
             auto& caja = Hijo<QLineEdit>(w, QString("dato%1").arg(i + 1));
             const auto hijos = w.findChildren<QLabel*>();
-            const auto suyo = std::ranges::find_if(
-                hijos, [&](const QLabel* l) { return l->buddy() == &caja; });
+            const auto suyo =
+                std::ranges::find_if(hijos, [&](const QLabel* l) { return l->buddy() == &caja; });
             QVERIFY(suyo != hijos.end());
             QCOMPARE((*suyo)->text(), QString(rotulos[i]));
             QTest::keyClicks(&caja, QString("texto %1").arg(i + 1));
