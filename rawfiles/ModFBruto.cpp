@@ -23,9 +23,9 @@ QString Filtro_Bruto(const Sesion_Elegida& sesion)
 {
     QString filtro = Filtro_Extensiones(sesion.maquina, sesion.ope, QStringLiteral("D"));
     if (filtro.isNull()) return filtro;
-    if (!Familia_De(sesion.maquina).hd6_propio)
-        filtro += QStringLiteral("|Formato en Bruto (*.*)|*.*");
-    return filtro;
+    if (Familia_De(sesion.maquina).hd6_propio) return filtro;
+    const QString bruto = QStringLiteral("Formato en Bruto (*.*)|*.*");
+    return filtro.isEmpty() ? bruto : filtro + u'|' + bruto;
 }
 
 QStringList Patrones_Brutos(const Sesion_Elegida& sesion)

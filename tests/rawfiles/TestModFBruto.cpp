@@ -15,6 +15,7 @@ private Q_SLOTS:
     void cleanup() { banco.reset(); }
     void el_dialogo_por_familia_data();
     void el_dialogo_por_familia();
+    void una_operacion_sin_tipos_ofrece_el_bruto();
     void una_operacion_sin_fila_acaba_el_programa();
     void insiste_hasta_que_hay_nombre();
     void cancelar_calla();
@@ -78,6 +79,13 @@ void TestModFBruto::el_dialogo_por_familia()
     QCOMPARE(p.filtro, filtro);
     QCOMPARE(p.carpeta, Ruta_Aplicacion);
     QVERIFY(!p.guardar);
+}
+
+void TestModFBruto::una_operacion_sin_tipos_ofrece_el_bruto()
+{
+    Base_Datos->Execute("UPDATE KRT2 SET Conv = ''");
+    QCOMPARE(Patrones_Brutos(banco->Guardar("NV400", 0, QStringList{"g"})), QStringList{"*.*"});
+    QCOMPARE(Patrones_Brutos(banco->Guardar("KRT300", 0, QStringList{"h"})), QStringList{});
 }
 
 void TestModFBruto::una_operacion_sin_fila_acaba_el_programa()
