@@ -1,5 +1,6 @@
 #include "app/cli/Ordenes.h"
 
+#include "app/cli/Ordenes_Brutos.h"
 #include "app/cli/Ordenes_Codigos.h"
 #include "app/cli/Ordenes_Conversion.h"
 #include "app/cli/Ordenes_Export.h"
@@ -33,6 +34,11 @@ const QList<Orden>& Ordenes()
          Orden_Formato_Nuevo},
         {"formato-borrar", "formato-borrar --maquina CLAVE --nombre NOMBRE", Orden_Formato_Borrar},
         {"exportar", Uso_Exportar(), Orden_Exportar},
+        {"exportar-bruto", Uso_Exportar_Bruto(), Orden_Exportar_Bruto},
+        {"importar-bruto",
+         "importar-bruto FICHERO... --modelo NOMBRE --ope N --nombre NOMBRE "
+         "[--formato maquina|lineas]",
+         Orden_Importar_Bruto},
         {"borrar", "borrar ID", Orden_Borrar},
         {"compactar", "compactar", Orden_Compactar},
         {"base", "base", Orden_Base},

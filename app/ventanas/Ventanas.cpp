@@ -13,6 +13,7 @@
 #include "formats/Formato_Existente.h"
 #include "formats/ui/Dialogos_Formatos.h"
 #include "formats/ui/Frmformatos.h"
+#include "rawfiles/ui/Dialogos_Brutos.h"
 #include "session/ui/Dialogos_Sesion.h"
 #include "session/ui/frmDescargas.h"
 #include "session/ui/FrmTxt.h"
@@ -55,8 +56,6 @@ void Conectar_Descargas()
     Puertas_Descargas& puertas = Puertas_De_Descargas();
     puertas.Formato_Existente = Exporta_o_Imprime_Formato_Existente;
     puertas.Formato_Nuevo = Exporta_Formato_Nuevo;
-    puertas.Guardar_Bruto = [](const Sesion_Elegida&) { No_Disponible("Guardar Como..."); };
-    puertas.Importar_Bruto = [] { No_Disponible("Importar de Disco"); };
 }
 
 // The toolbar looks at the family, the menu's entry doesn't.
@@ -82,6 +81,7 @@ void Conectar_Dialogos(Interfaz_Qt& interfaz)
     Conectar_Dialogos_Transfer();
     Conectar_Dialogos_Codigos();
     Conectar_Descargas();
+    Conectar_Dialogos_Brutos();
 }
 
 void Conectar_Entradas(FrmMain& principal)

@@ -25,6 +25,7 @@
 #include "formats/Formato_Nuevo.h"
 #include "formats/ModFormatos.h"
 #include "formats/ui/Frmformatos.h"
+#include "rawfiles/Peticiones_Rawfiles.h"
 #include "session/Peticiones_Sesion.h"
 #include "session/ui/FrmDatos.h"
 #include "session/ui/frmDescargas.h"
@@ -247,6 +248,28 @@ void Codigos(Escenario& e)
     Escenario::Modelo("KRT-310");
 }
 
+void Ficheros_Brutos(Escenario& e)
+{
+    const auto sesion = Buscar_Sesion(*Base_Datos, 2);
+    if (!sesion) qFatal("No session");
+    Puertas_Descargas& puertas = Puertas_De_Descargas();
+    e.Retratar_Modal("FrmExpBruto", [&] { puertas.Exportar_En_Bruto(*sesion); });
+    e.Retratar_Modal("FrmExpBrut", [&] { puertas.Exportar_A_Disco(*sesion); });
+    e.Retratar_Modal(
+        "FrmImpBru", [&] { puertas.Importar_Bruto(); },
+        [](QWidget& w) {
+            De<QLineEdit>(w, "Text1").setText("ficheros/campo_krt300.txt");
+            De<QLineEdit>(w, "Text2").setText("Valle alto");
+            De<QComboBox>(w, "CbTipo").setCurrentIndex(0);
+        });
+    e.Retratar_Modal(
+        "Peticion", [] { Peticiones_De_Rawfiles().Pedir_Datos_IGN(); },
+        [](QWidget& w) {
+            De<QLineEdit>(w, "dato1").setText("NV-40217");
+            De<QLineEdit>(w, "dato4").setText("Brigada 1");
+        });
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -265,5 +288,6 @@ int main(int argc, char** argv)
     Exportar(escenario);
     Conversiones(escenario);
     Codigos(escenario);
+    Ficheros_Brutos(escenario);
     return 0;
 }
