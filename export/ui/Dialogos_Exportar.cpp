@@ -1,5 +1,6 @@
 #include "export/ui/Dialogos_Exportar.h"
 
+#include "core/ModEstTotal.h"
 #include "core/ui/Dialogos.h"
 #include "export/Peticiones_Exportar.h"
 #include "export/ui/FrmDXF.h"
@@ -31,7 +32,8 @@ void Conectar_Dialogos_Exportar()
         Dialogos::Unico<FrmDXF>().Mostrar_Con(origen);
     };
     Puertas_De_Descargas().Ver_Plano = [](const Sesion_Elegida& sesion) {
-        Dialogos::Unico<FrmPlano>().Ver(sesion);
+        if (Comprobar_Hay_Registros(*Base_Datos, sesion.id))
+            Dialogos::Unico<FrmPlano>().Ver(sesion);
     };
     Peticiones_De_Exportar().Abrir_DXF = [](const Trabajo_Exportar& trabajo) {
         Peticiones_De_Exportar().Mostrar_DXF(Dibujo_De_Sesion(trabajo));
