@@ -13,6 +13,8 @@ Resultado_Recepcion Procesar_Recepcion(const Datos_Recepcion& datos)
     if (!serie) return {};
     std::optional<Resultado_Recepcion> guardada = serie->guardar(datos);
     if (!guardada) return {};
+    // A library is no session: it leaves the database as large as it was.
+    if (Operacion(datos.operacion) == Operacion::Libreria) return *guardada;
     // What a damaged database has taken may not be there the next time it is asked for.
     if (Compactar_BD().Danada()) {
         guardada->completa = false;
