@@ -1,5 +1,6 @@
 #include "app/cli/Instalacion.h"
 
+#include "codes/Enlace_Librerias.h"
 #include "core/Configuracion.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
@@ -8,6 +9,7 @@ Instalacion::Instalacion(const Contexto& c) : contexto(c), interfaz(c)
 {
     Ruta_Aplicacion = QDir::cleanPath(QDir(c.dir).absolutePath());
     if (!Cargar_Configuracion(Ruta_Aplicacion)) throw Orden_Rechazada{};
+    Conectar_Librerias();
 }
 
 Instalacion::~Instalacion()

@@ -1,4 +1,5 @@
 #include "app/cli/Instalacion.h"
+#include "app/cli/Opciones_Comunes.h"
 #include "app/cli/Ordenes_Export.h"
 #include "app/cli/Ordenes_Sesion.h"
 #include "core/ModEstTotal.h"
@@ -16,21 +17,6 @@ QStringList Palabras_Tipo()
     for (const Salida_Exportar* salida : Salidas_Por_Palabra())
         palabras << salida->palabra;
     return palabras;
-}
-
-QStringList Palabras_Separador()
-{
-    QStringList palabras;
-    for (const Fila_Separador& fila : Separadores())
-        palabras << fila.palabra;
-    return palabras;
-}
-
-// "a, b o c"
-QString Enumerar(QStringList palabras)
-{
-    const QString ultima = palabras.takeLast();
-    return palabras.isEmpty() ? ultima : palabras.join(", ") + " o " + ultima;
 }
 
 const Salida_Exportar& Salida_De_Palabra(const QString& palabra)
@@ -60,20 +46,9 @@ Pedido Leer_Pedido(const QStringList& palabras)
     p.fichero = a.Obligada("salida");
     p.titulos = a.Hay("titulos");
     p.salida = &Salida_De_Palabra(tipo);
-    const QString separador = a.Opcion("separador", Separadores().front().palabra);
-    p.separador = Indice_Separador(separador);
-    if (p.separador < 0)
-        throw Error_Uso{"El separador es " + Enumerar(Palabras_Separador()) + ": " + separador};
+    p.separador = Leer_Separador(a);
     if (p.fichero.isEmpty()) throw Error_Uso{"Falta el nombre del fichero de salida"};
-    if (a.Hay("desplazamiento")) {
-        p.desplazamiento = a.Opcion("desplazamiento").split(u',');
-        if (p.desplazamiento->size() != 3)
-            throw Error_Uso{"El desplazamiento se escribe X,Y,Z: " + a.Opcion("desplazamiento")};
-        for (const QString& eje : *p.desplazamiento)
-            if (Teclear_Desplazamiento(eje) != eje)
-                throw Error_Uso{"El desplazamiento \"" + eje +
-                                "\" no es un número con punto decimal"};
-    }
+    p.desplazamiento = Leer_Desplazamiento(a);
     return p;
 }
 

@@ -1,5 +1,7 @@
 #include "app/cli/Ordenes.h"
 
+#include "app/cli/Ordenes_Brutos.h"
+#include "app/cli/Ordenes_Codigos.h"
 #include "app/cli/Ordenes_Conversion.h"
 #include "app/cli/Ordenes_Export.h"
 #include "app/cli/Ordenes_Sesion.h"
@@ -32,8 +34,15 @@ const QList<Orden>& Ordenes()
          Orden_Formato_Nuevo},
         {"formato-borrar", "formato-borrar --maquina CLAVE --nombre NOMBRE", Orden_Formato_Borrar},
         {"exportar", Uso_Exportar(), Orden_Exportar},
+        {"exportar-bruto", Uso_Exportar_Bruto(), Orden_Exportar_Bruto},
+        {"importar-bruto",
+         "importar-bruto FICHERO... --modelo NOMBRE --ope N --nombre NOMBRE "
+         "[--formato maquina|lineas]",
+         Orden_Importar_Bruto},
         {"borrar", "borrar ID", Orden_Borrar},
         {"compactar", "compactar", Orden_Compactar},
+        {"base", "base", Orden_Base},
+        {"recuperar", "recuperar [COPIA]", Orden_Recuperar},
         {"convertidor", "convertidor FUNCION ARGUMENTO...", Orden_Convertidor},
         {"convertir",
          "convertir ENTRADA SALIDA [--eje N] [--perfil NOMBRE] [--seccion A:B] "
@@ -42,8 +51,24 @@ const QList<Orden>& Ordenes()
         {"descargar",
          "descargar --modelo NOMBRE --ope N --puerto DISPOSITIVO --nombre NOMBRE [--velocidad V]",
          Orden_Descargar},
+        {"enviar", Uso_Enviar(), Orden_Enviar},
         {"rescates", "rescates", Orden_Rescates},
         {"rescatar", "rescatar FICHERO --modelo NOMBRE --ope N --nombre NOMBRE", Orden_Rescatar},
+        {"librerias", "librerias [--serie A|B]", Orden_Librerias},
+        {"libreria-ver", "libreria-ver LIB --serie A|B", Orden_Libreria_Ver},
+        {"libreria-guardar", "libreria-guardar LIB --serie A|B --descripcion D --fichero F",
+         Orden_Libreria_Guardar},
+        {"libreria-exportar", "libreria-exportar LIB --serie A|B --salida F",
+         Orden_Libreria_Exportar},
+        {"libreria-borrar", "libreria-borrar LIB --serie A|B", Orden_Libreria_Borrar},
+        {"enviar-libreria",
+         "enviar-libreria LIBRERIA --modelo NOMBRE --puerto DISPOSITIVO [--seguimiento] "
+         "[--velocidad V]",
+         Orden_Enviar_Libreria},
+        {"recibir-libreria",
+         "recibir-libreria --modelo NOMBRE --puerto DISPOSITIVO --destino base|fichero "
+         "--nombre NOMBRE [--velocidad V]",
+         Orden_Recibir_Libreria},
         {"tabla",
          "tabla ENTRADA SALIDA [--separador tabulacion|coma|espacio] "
          "[--version \"Excel 3.0\"|\"Excel 4.0\"|\"Excel 5.0\"|\"Excel 8.0\"] "

@@ -1,5 +1,6 @@
 #include "app/ventanas/Ventanas.h"
 
+#include "codes/ui/Dialogos_Codigos.h"
 #include "conversions/ui/Dialogos_Conversion.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
@@ -12,6 +13,7 @@
 #include "formats/Formato_Existente.h"
 #include "formats/ui/Dialogos_Formatos.h"
 #include "formats/ui/Frmformatos.h"
+#include "rawfiles/ui/Dialogos_Brutos.h"
 #include "session/ui/Dialogos_Sesion.h"
 #include "session/ui/frmDescargas.h"
 #include "session/ui/FrmTxt.h"
@@ -54,8 +56,6 @@ void Conectar_Descargas()
     Puertas_Descargas& puertas = Puertas_De_Descargas();
     puertas.Formato_Existente = Exporta_o_Imprime_Formato_Existente;
     puertas.Formato_Nuevo = Exporta_Formato_Nuevo;
-    puertas.Guardar_Bruto = [](const Sesion_Elegida&) { No_Disponible("Guardar Como..."); };
-    puertas.Importar_Bruto = [] { No_Disponible("Importar de Disco"); };
 }
 
 // The toolbar looks at the family, the menu's entry doesn't.
@@ -79,7 +79,9 @@ void Conectar_Dialogos(Interfaz_Qt& interfaz)
     Conectar_Dialogos_Exportar();
     Conectar_Dialogos_Conversion();
     Conectar_Dialogos_Transfer();
+    Conectar_Dialogos_Codigos();
     Conectar_Descargas();
+    Conectar_Dialogos_Brutos();
 }
 
 void Conectar_Entradas(FrmMain& principal)
@@ -90,6 +92,7 @@ void Conectar_Entradas(FrmMain& principal)
     principal.Al_Elegir("Toolbar1(3)", Mostrar<frmDescargas>("Descargas"));
     principal.Al_Elegir("Formatos", Mostrar<Frmformatos>("Formatos Disponibles"));
     principal.Al_Elegir("Toolbar1(4)", Formatos_De_Toolbar);
+    principal.Al_Elegir("Toolbar1(5)", Mostrar_Librerias);
     principal.Al_Elegir("Mnu_ConvEst", [] { Mostrar_frmConvEst(0); });
     principal.Al_Elegir("Mnu_ConvLandxml", [] { Mostrar_frmConvEst(1); });
 }

@@ -19,6 +19,7 @@ bool Es_Consulta(const QString& fuente)
 Conexion& Viva(const std::shared_ptr<Conexion>& conexion)
 {
     if (!conexion) throw Error_Ejecucion(3420);
+    conexion->Poner_Al_Dia();
     return *conexion;
 }
 

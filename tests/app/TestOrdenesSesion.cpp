@@ -25,6 +25,7 @@ private Q_SLOTS:
     void un_formato_repetido_no_se_guarda();
     void borrar_quita_la_sesion_con_permiso();
     void compactar_deja_su_copia();
+    void recuperar_funciona_con_la_base_danada();
     void un_ini_que_falta_se_dice();
 
 private:
@@ -293,6 +294,32 @@ void TestOrdenesSesion::compactar_deja_su_copia()
     Base_Datos.reset();
     QCOMPARE(Correr({"compactar"}), int(HECHO));
     QVERIFY(QFile::exists(base->Ruta("MDB/esttotal.bak")));
+    QCOMPARE(Correr({"sesiones"}), int(HECHO));
+    QCOMPARE(Lineas().size(), 3);
+}
+
+void TestOrdenesSesion::recuperar_funciona_con_la_base_danada()
+{
+    Base_Datos.reset();
+    QCOMPARE(Correr({"recuperar"}), int(RECHAZADO));
+    QVERIFY(errores.contains("No hay ninguna copia"));
+    QCOMPARE(Correr({"compactar"}), int(HECHO));
+    base->Escribir("MDB/EstTotal.mdb", QByteArray("rota").repeated(3000));
+    QCOMPARE(Correr({"sesiones"}), int(RECHAZADO));
+    QVERIFY(errores.contains("La base de datos está dañada"));
+    QVERIFY(errores.contains("(3343)"));
+    QCOMPARE(Correr({"base"}), int(HECHO));
+    QCOMPARE(Lineas()[0], "Base de datos: " + Fichero_MDB);
+    QCOMPARE(Lineas().size(), 4);
+    QVERIFY(Lineas()[2].endsWith("\tsana"));
+    base->Escribir("mala.bak", "rota");
+    QCOMPARE(Correr({"recuperar", base->Ruta("mala.bak")}), int(RECHAZADO));
+    QVERIFY(errores.contains("(3343)"));
+    QCOMPARE(Correr({"recuperar", base->Ruta("nada.bak")}), int(RECHAZADO));
+    QCOMPARE(Correr({"recuperar", "a", "b"}), int(MAL_USO));
+    QCOMPARE(Correr({"recuperar"}), int(HECHO));
+    QCOMPARE(Lineas().size(), 2);
+    QVERIFY(QFile::exists(Lineas()[1].mid(int(qstrlen("La de antes: ")))));
     QCOMPARE(Correr({"sesiones"}), int(HECHO));
     QCOMPARE(Lineas().size(), 3);
 }
