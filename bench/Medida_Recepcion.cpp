@@ -106,4 +106,4 @@ BENCHMARK(Guardar_131072)->UseManualTime()->Iterations(7)->Unit(benchmark::kMill
 
 } // namespace
 
-BENCHMARK_MAIN();
+MEDIDAS_JUZGADAS()

@@ -120,11 +120,15 @@ int Orden_Ver(const Contexto& c, const QStringList& palabras)
         return HECHO;
     }
     c.Fila({"Secuencia", "Punto", "Campo", "Valor"});
+    Visor_Registros visor(*Base_Datos, sesion.maquina, sesion.ope);
+    QString datos;
     while (r.Siguiente()) {
-        const auto vista = Ver_Registro(sesion.maquina, sesion.ope, {}, r.Texto(2), r.Texto(1));
+        r.Texto(2, datos);
+        const Vista_Registro* const vista = visor.Mirar(datos);
         if (!vista) continue;
+        const QString secuencia = r.Texto(0), punto = r.Texto(1);
         for (const Linea_Rejilla& l : Llenar_Rejilla(vista->nombres, vista->valores))
-            c.Fila({r.Texto(0), r.Texto(1), l.campo, l.valor});
+            c.Fila({secuencia, punto, l.campo, l.valor});
     }
     return HECHO;
 }

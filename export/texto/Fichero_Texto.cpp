@@ -47,6 +47,16 @@ void Fichero_Texto::Agregar(QStringView texto)
     Ansi::Agregar_Bytes(pendiente, texto);
 }
 
+void Fichero_Texto::Agregar_Bytes(QByteArrayView bytes)
+{
+    pendiente.append(bytes.data(), bytes.size());
+}
+
+void Fichero_Texto::Agregar_Blancos(qsizetype cuantos)
+{
+    if (cuantos > 0) pendiente.append(cuantos, ' ');
+}
+
 void Fichero_Texto::Fin_De_Linea()
 {
     pendiente += "\r\n";
