@@ -5,6 +5,7 @@
 #include "tests/app/Correr.h"
 
 #include <QFile>
+#include <QProcess>
 
 // The orders that draw, run in this process on an installation of the tests' own.
 class TestOrdenesDibujo : public QObject {
@@ -19,6 +20,10 @@ private Q_SLOTS:
     void dxf_dice_que_falta_data();
     void dxf_dice_que_falta();
     void dxf_fichero_dibuja_la_lista();
+    void imprimir_escribe_el_texto_de_la_vista();
+    void imprimir_dice_que_falta_data();
+    void imprimir_dice_que_falta();
+    void el_programa_escribe_paginas_y_planos();
 
 private:
     Salida En_La_Base(const QStringList& palabras) const
@@ -159,6 +164,85 @@ void TestOrdenesDibujo::dxf_fichero_dibuja_la_lista()
     QVERIFY(coma.mensajes.contains("Línea 1: falta el título"));
     QVERIFY(!QFile::exists(base->Ruta("b.dxf")));
     QCOMPARE(En_La_Base(orden + QStringList{"guion"}).estado, int(MAL_USO));
+}
+
+void TestOrdenesDibujo::imprimir_escribe_el_texto_de_la_vista()
+{
+    const Salida hecho =
+        En_La_Base({"imprimir",          "1",         "--formato", "NXYZ",        "--salida",
+                    base->Ruta("a.rtf"), "--titulo",  "Peñón",     "--subtitulo", "Dos",
+                    "--trabajo",         "Presa",     "--nombre",  "Ana",         "--cabeceras",
+                    "--centrar",         "--anchura", "80",        "--columnas",  "Nº,,Norte"});
+    QCOMPARE(hecho.mensajes, QString());
+    QCOMPARE(hecho.estado, int(HECHO));
+    const QList<QByteArray> lineas = base->Leer("a.rtf").split('\n');
+    QCOMPARE(lineas[2], QByteArray("\\deflang1034\\pard\\qc\\plain\\f2\\fs28\\b Pe\\'f1\\'f3n\r"));
+    QCOMPARE(lineas[3], QByteArray("\\par \\pard\\qc\\plain\\f2\\fs20\\b Dos\r"));
+    QCOMPARE(lineas[4], QByteArray("\\par \\pard\\qc\\plain\\f2\\fs20\\b Trabajo:  Presa   "
+                                   "Nombre:  Ana   \r"));
+    // The columns take 2 + 12 + 8 + 12 characters: "Punto" gave way to "Nº" and "Coordenada Y" to
+    // "Norte", the others keep their names.
+    const QString margen((80 - (2 + 12 + 8 + 12)) / 2, ' ');
+    QVERIFY2(
+        lineas[5].startsWith(("\\par " + margen).toLatin1() +
+                             "\\pard\\plain\\f2\\fs16\\b \\pard\\plain\\f2\\fs16\\b\\ul N\\'ba"),
+        lineas[5].constData());
+    QVERIFY(lineas[5].contains("Coordenada X\\plain") && lineas[5].contains("Norte\\plain"));
+    QVERIFY2(lineas[6].startsWith(("\\par \\pard\\plain\\f2\\fs16 " + margen).toLatin1() + "P1 "),
+             lineas[6].constData());
+    QCOMPARE(lineas.size(), 10);
+}
+
+void TestOrdenesDibujo::imprimir_dice_que_falta_data()
+{
+    QTest::addColumn<QStringList>("opciones");
+    QTest::addColumn<int>("estado");
+    QTest::addColumn<QString>("mensaje");
+    QTest::newRow("otra extensión")
+        << QStringList{"--salida", "x.doc"} << int(MAL_USO) << ".rtf o .pdf";
+    QTest::newRow("anchura 0") << QStringList{"--salida", "x.rtf", "--anchura", "0"} << int(MAL_USO)
+                               << "mayor que cero";
+    QTest::newRow("anchura con letras")
+        << QStringList{"--salida", "x.rtf", "--anchura", "a"} << int(MAL_USO) << "anchura";
+    QTest::newRow("nombre sin trabajo") << QStringList{"--salida", "x.rtf", "--nombre", "Ana"}
+                                        << int(MAL_USO) << "Debe introducir el Trabajo";
+    QTest::newRow("columnas de más") << QStringList{"--salida", "x.rtf", "--columnas", "A,B,C,D,E"}
+                                     << int(MAL_USO) << "Hay 4 columnas, y se dan 5 nombres";
+}
+
+void TestOrdenesDibujo::imprimir_dice_que_falta()
+{
+    QFETCH(QStringList, opciones);
+    const Salida hecho = En_La_Base(QStringList{"imprimir", "1", "--formato", "NXYZ"} + opciones);
+    QTEST(hecho.estado, "estado");
+    QFETCH(QString, mensaje);
+    QVERIFY2(hecho.mensajes.contains(mensaje), qPrintable(hecho.mensajes));
+    QVERIFY(!QFile::exists("x.rtf"));
+}
+
+// What is drawn needs the graphics part, which the program brings up for these orders alone.
+void TestOrdenesDibujo::el_programa_escribe_paginas_y_planos()
+{
+    const auto correr = [&](const QStringList& palabras) {
+        QProcess p;
+        p.start(QString(INSTALACION) + "/miraldos-cli",
+                QStringList{"--dir", base->Ruta(".")} + palabras);
+        if (!p.waitForFinished(60000)) return -1;
+        return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -2;
+    };
+    QCOMPARE(correr({"imprimir", "1", "--formato", "NXYZ", "--salida", base->Ruta("a.pdf")}), 0);
+    QVERIFY(base->Leer("a.pdf").startsWith("%PDF-"));
+    const std::pair<const char*, const char*> planos[] = {
+        {"p.png", "\x89PNG"}, {"p.pdf", "%PDF-"}, {"p.svg", "<?xml"}};
+    for (const auto& [nombre, firma] : planos) {
+        QCOMPARE(correr({"plano", "1", "--salida", base->Ruta(nombre), "--escala", "500"}), 0);
+        QVERIFY2(base->Leer(nombre).startsWith(firma), nombre);
+    }
+    QCOMPARE(correr({"plano", "1", "--salida", base->Ruta("p.png")}), int(RECHAZADO));
+    QCOMPARE(correr({"plano", "1", "--salida", base->Ruta("p.jpg")}), int(MAL_USO));
+    QCOMPARE(correr({"plano", "1", "--salida", base->Ruta("q.png"), "--escala", "0"}),
+             int(MAL_USO));
+    QCOMPARE(correr({"plano", "9", "--salida", base->Ruta("q.png")}), int(RECHAZADO));
 }
 
 PRUEBA(TestOrdenesDibujo)

@@ -311,9 +311,9 @@ void TestDialogos_Brutos_Ui::el_menu_de_la_rejilla()
     for (const QAction* a : menu.actions())
         if (!a->isSeparator()) nombres << a->objectName();
     QCOMPARE(nombres, (QStringList{"MnuBtnVerdatos", "MnuBtnNuevoformato", "MnuBtnFormatoExistente",
-                                   "MnuBtnPrn", "MnuBtnExpBru", "MnuBtnImpBrud1", "MnuBtnEliminar",
-                                   "MnuBtnCan", "MnubtnAyuda", "MnuExpBruto", "MnuExpBrut",
-                                   "MnuGenerales"}));
+                                   "MnuBtnPrn", "MnuBtnPlano", "MnuBtnExpBru", "MnuBtnImpBrud1",
+                                   "MnuBtnEliminar", "MnuBtnCan", "MnubtnAyuda", "MnuExpBruto",
+                                   "MnuExpBrut", "MnuGenerales"}));
     for (const auto& [entrada, dialogo] :
          {std::pair{"MnuExpBruto", "FrmExpBruto"}, std::pair{"MnuExpBrut", "FrmExpBrut"}}) {
         Al_Abrirse abierto([&](QWidget& w) { Pulsar(w, "BtnCan"); }, dialogo);
