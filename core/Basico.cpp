@@ -4,8 +4,18 @@
 #include "core/Error_Ejecucion.h"
 #include "core/Numero_Escrito.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+
+namespace {
+
+// So many characters of a number hold at most 15 digits, which a double holds exactly.
+constexpr qsizetype CIFRAS_EXACTAS = 15;
+constexpr double POTENCIAS[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+} // namespace
 
 double Basico::Val(QStringView texto)
 {
@@ -120,6 +130,42 @@ double Basico::CDbl(const QString& texto)
     return *x;
 }
 
+std::optional<double> Basico::Numero_O_Nada(QStringView texto)
+{
+    const QStringView t = texto.trimmed();
+    const bool negativo = t.startsWith(u'-');
+    quint64 cifras = 0;
+    qsizetype cuantas = 0, decimales = -1;
+    bool llano = t.size() <= CIFRAS_EXACTAS;
+    for (qsizetype i = negativo ? 1 : 0; llano && i < t.size(); ++i) {
+        if (t[i] >= u'0' && t[i] <= u'9') {
+            cifras = cifras * 10 + quint64(t[i].unicode() - u'0');
+            ++cuantas;
+            if (decimales >= 0) ++decimales;
+        } else if ((t[i] == u'.' || t[i] == u',') && decimales < 0 && cuantas > 0) {
+            decimales = 0;
+        } else {
+            llano = false;
+        }
+    }
+    if (!llano || cuantas == 0) {
+        try {
+            return Leer_Numero_Espanol(t.toString().replace(u'.', u','));
+        } catch (const Error_Ejecucion&) {
+            return std::nullopt; // a number, but none that fits
+        }
+    }
+    // Both are exact, so that the quotient is the nearest number, as any good reading gives it.
+    const double x = double(cifras) / POTENCIAS[std::max<qsizetype>(decimales, 0)];
+    return negativo ? -x : x;
+}
+
+double Basico::Leer_Numero(QStringView texto)
+{
+    const auto numero = Numero_O_Nada(texto);
+    return numero ? *numero : CDbl(texto.toString().replace(u'.', u','));
+}
+
 bool Basico::IsNumeric(const QString& texto)
 {
     return Es_Numero_Espanol(texto);
@@ -142,6 +188,33 @@ QString Basico::Texto_Numero(double x, bool coma)
 QString Basico::Formato(double numero, const QString& dibujo)
 {
     return Dibujo_Numero(dibujo).Texto(numero);
+}
+
+void Basico::Agregar_Fijo(QByteArray& bytes, double numero, int decimales)
+{
+    // The 15-digit reading moves a number by less than this part of itself: farther from a half
+    // than that, it rounds as the number itself does.
+    constexpr double HOLGURA = 1e-14, ENTERO_EXACTO = 1e13;
+    if (decimales >= 0 && decimales <= 6) {
+        const double escalado = std::fabs(numero) * POTENCIAS[decimales];
+        const double suelo = std::floor(escalado), resto = escalado - suelo;
+        if (escalado < ENTERO_EXACTO && std::fabs(resto - 0.5) > HOLGURA * (escalado + 1)) {
+            char cifras[24];
+            char* const fin = std::end(cifras);
+            char* i = fin;
+            quint64 n = quint64(suelo) + (resto > 0.5 ? 1 : 0);
+            for (int d = 0; n > 0 || d <= decimales; ++d, n /= 10) {
+                if (d == decimales && d > 0) *--i = '.';
+                *--i = char('0' + n % 10);
+            }
+            if (numero < 0) *--i = '-';
+            bytes.append(i, fin - i);
+            return;
+        }
+    }
+    QString dibujo = QStringLiteral("0");
+    if (decimales > 0) dibujo += u'.' + QString(decimales, u'0');
+    bytes += Formato(numero, dibujo).replace(u',', u'.').toLatin1();
 }
 
 QString Basico::Formato(const QString& texto, const QString& dibujo)

@@ -106,7 +106,8 @@ void Lanzar_Descarga(const Familia& familia, int operacion)
 
 void Lanzar_Carga(const Familia& familia, int operacion, const QString& filtro)
 {
-    if (Reclamar_La_En_Curso()) return;
+    // A file takes no line.
+    if (familia.carga != Carga::Fichero && Reclamar_La_En_Curso()) return;
     switch (familia.serie) {
     case Serie::A:
         Cargar_Serie_A(operacion);

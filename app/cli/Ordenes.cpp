@@ -8,6 +8,8 @@
 #include "app/cli/Ordenes_Transfer.h"
 #include "core/Error_Ejecucion.h"
 
+#include <algorithm>
+
 namespace {
 
 int Orden_Ayuda(const Contexto& c, const QStringList&)
@@ -34,6 +36,11 @@ const QList<Orden>& Ordenes()
          Orden_Formato_Nuevo},
         {"formato-borrar", "formato-borrar --maquina CLAVE --nombre NOMBRE", Orden_Formato_Borrar},
         {"exportar", Uso_Exportar(), Orden_Exportar},
+        {"dxf", Uso_DXF(), Orden_DXF},
+        {"dxf-fichero", Uso_DXF_Fichero(), Orden_DXF_Fichero},
+        {"imprimir", Uso_Imprimir(), Orden_Imprimir, true},
+        {"plano", "plano ID --salida FICHERO.png|FICHERO.pdf|FICHERO.svg [--escala N]", Orden_Plano,
+         true},
         {"exportar-bruto", Uso_Exportar_Bruto(), Orden_Exportar_Bruto},
         {"importar-bruto",
          "importar-bruto FICHERO... --modelo NOMBRE --ope N --nombre NOMBRE "
@@ -95,6 +102,13 @@ void Contexto::Linea(const QString& texto) const
 void Contexto::Mensaje(const QString& texto) const
 {
     errores->write((texto + u'\n').toUtf8());
+}
+
+bool Hay_Que_Dibujar(const QStringList& palabras)
+{
+    return std::ranges::any_of(Ordenes(), [&](const Orden& orden) {
+        return orden.dibuja && palabras.contains(orden.nombre);
+    });
 }
 
 int Ejecutar_Orden(Contexto contexto, const QStringList& palabras)

@@ -34,10 +34,14 @@ struct Orden {
     QString nombre;
     QString uso; ///< its words, for the help: "tabla ENTRADA SALIDA [--separador coma]"
     int (*ejecutar)(const Contexto&, const QStringList& palabras);
+    bool dibuja = false; ///< needs the fonts, and with them the graphics part of the library
 };
 
 /// All orders, in the order of the help. A new order is one file Orden_X.cpp and one row here.
 const QList<Orden>& Ordenes();
+
+/// @return true when the words name an order that draws
+bool Hay_Que_Dibujar(const QStringList& palabras);
 
 /// Runs one command line.
 /// @param palabras  all words behind the program's name; --dir and --si may stand anywhere

@@ -10,6 +10,7 @@
 #include "core/ui/frmPantalla.h"
 #include "core/ui/Piezas.h"
 #include "export/ui/Dialogos_Exportar.h"
+#include "export/ui/ExportDXF.h"
 #include "formats/Formato_Existente.h"
 #include "formats/ui/Dialogos_Formatos.h"
 #include "formats/ui/Frmformatos.h"
@@ -92,6 +93,7 @@ void Conectar_Entradas(FrmMain& principal)
     principal.Al_Elegir("Toolbar1(3)", Mostrar<frmDescargas>("Descargas"));
     principal.Al_Elegir("Formatos", Mostrar<Frmformatos>("Formatos Disponibles"));
     principal.Al_Elegir("Toolbar1(4)", Formatos_De_Toolbar);
+    principal.Al_Elegir("Mnu_ConvDXF", Mostrar<ExportDXF>());
     principal.Al_Elegir("Toolbar1(5)", Mostrar_Librerias);
     principal.Al_Elegir("Mnu_ConvEst", [] { Mostrar_frmConvEst(0); });
     principal.Al_Elegir("Mnu_ConvLandxml", [] { Mostrar_frmConvEst(1); });

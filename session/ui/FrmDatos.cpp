@@ -5,10 +5,12 @@
 #include "core/ui/Dialogos.h"
 #include "core/ui/Piezas.h"
 #include "session/ModVDatos.h"
+#include "session/ui/frmDescargas.h"
 #include "session/ui/FrmEditar.h"
 #include "session/ui/Modelo_Lista.h"
 #include "session/ui/Rejilla.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
@@ -34,10 +36,13 @@ FrmDatos::FrmDatos()
     mitades->setStretchFactor(1, 1);
     mitades->setChildrenCollapsible(false);
     QPushButton* const BtnOperaciones = Piezas::Boton("BtnOperaciones", "&Ver con formato");
+    QPushButton* const BtnPlano =
+        Piezas::Boton("BtnPlano", "Ver &plano", "Dibuja los puntos de la sesión");
     QPushButton* const BtnCan = Piezas::Boton("BtnCan", "&Cerrar");
     QPushButton* const btnAyuda = Piezas::Boton("btnAyuda", "&Ayuda");
     auto* const botones = new QHBoxLayout;
     botones->addWidget(BtnOperaciones);
+    botones->addWidget(BtnPlano);
     botones->addStretch();
     botones->addWidget(BtnCan);
     botones->addWidget(btnAyuda);
@@ -49,6 +54,12 @@ FrmDatos::FrmDatos()
     Poner_Botones(BtnOperaciones, BtnCan);
     connect(Data1, &Modelo_Lista::reposicion, this, &FrmDatos::Data1_Reposition);
     connect(BtnOperaciones, &QPushButton::clicked, this, &FrmDatos::BtnOperaciones_Click);
+    const auto ver_plano = [this] { Puertas_De_Descargas().Ver_Plano(sesion_vista); };
+    auto* const accion = new QAction(QStringLiteral("Ver plano"), DBGrid1);
+    DBGrid1->addAction(accion);
+    DBGrid1->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(accion, &QAction::triggered, this, ver_plano);
+    connect(BtnPlano, &QPushButton::clicked, this, ver_plano);
     connect(BtnCan, &QPushButton::clicked, this, &Ventana::Ocultar);
     connect(btnAyuda, &QPushButton::clicked, this, [] { Mostrar_Ayuda_Web("vdatos"); });
 }

@@ -76,6 +76,8 @@ QWidget* frmDescargas::Hacer_Botones()
          [this] { Exporta_o_Imprime_Formato_Existente("E"); }},
         {u"BtnPrn", u"&Imprimir Fichero", u"Imprime la sesión seleccionada",
          [this] { Exporta_o_Imprime_Formato_Existente("I"); }},
+        {u"BtnPlano", u"Ver &plano", u"Dibuja los puntos de la sesión seleccionada",
+         [this] { Con_Sesion(Puertas_De_Descargas().Ver_Plano); }},
         {u"BtnExpBru", u"Guardar Como...", u"Guardar datos del fichero seleccionado",
          [this] { Con_Sesion(Puertas_De_Descargas().Guardar_Bruto); }},
         {u"BtnImpBrud1", u"Importar de Disco", u"Importar Fichero en Bruto",

@@ -18,6 +18,8 @@ struct Puertas_Descargas {
     std::function<void(const std::optional<Sesion_Elegida>&)> Formato_Nuevo;
     /// Raw export of a session.
     std::function<void(const Sesion_Elegida&)> Guardar_Bruto;
+    /// The plan of a session's points, here and in `FrmDatos`.
+    std::function<void(const Sesion_Elegida&)> Ver_Plano = [](const Sesion_Elegida&) {};
     /// Raw import.
     std::function<void()> Importar_Bruto;
     /// The plain raw dialogs, which stand in the grid's menu alone.

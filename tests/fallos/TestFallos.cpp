@@ -210,7 +210,7 @@ void TestFallos::Una_Vez(const Trabajo& trabajo, unsigned clase, int n, int erro
 {
     Empezar();
     trabajo.preparar();
-    Llamadas::Armar(banco->base.Ruta("."), clase, n, error, seguidas);
+    Llamadas::Armar(Ruta_Aplicacion + u'/', clase, n, error, seguidas);
     const bool dicho = trabajo.hacer();
     Llamadas::Desarmar();
     trabajo.comprobar(dicho);
@@ -221,13 +221,13 @@ void TestFallos::Una_Vez(const Trabajo& trabajo, unsigned clase, int n, int erro
 void TestFallos::la_trampa_caza()
 {
     Empezar();
-    Llamadas::Armar(banco->base.Ruta("."), Llamadas::ESCRIBIR, 1, ENOSPC, false);
-    QFile f(banco->base.Ruta("x"));
+    Llamadas::Armar(Ruta_Aplicacion + u'/', Llamadas::ESCRIBIR, 1, ENOSPC, false);
+    QFile f(Ruta_Aplicacion + u'/');
     QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     QCOMPARE(f.write("a"), -1);
     QCOMPARE(f.write("a"), 1);
     QCOMPARE(Llamadas::Desarmar(), 2);
-    Llamadas::Armar(banco->base.Ruta("."), Llamadas::ABRIR, 0, EIO, false);
+    Llamadas::Armar(Ruta_Aplicacion + u'/', Llamadas::ABRIR, 0, EIO, false);
     QVERIFY(QFile::exists(f.fileName()));
     QVERIFY(f.open(QIODevice::ReadOnly) || f.isOpen());
     Llamadas::Desarmar();
@@ -235,7 +235,7 @@ void TestFallos::la_trampa_caza()
     // nothing.
     for (const Averia& a : AVERIAS) {
         Empezar();
-        Llamadas::Armar(banco->base.Ruta("."), a.clase, 0, 0, false);
+        Llamadas::Armar(Ruta_Aplicacion + u'/', a.clase, 0, 0, false);
         QVERIFY(El_Trabajo("guardar KRT300").hacer());
         QVERIFY2(Llamadas::Desarmar() > 0, a.nombre);
     }
@@ -259,7 +259,7 @@ void TestFallos::cada_llamada_que_falla()
     const Trabajo t = El_Trabajo(trabajo);
     Empezar();
     t.preparar();
-    Llamadas::Armar(banco->base.Ruta("."), clase, 0, 0, false);
+    Llamadas::Armar(Ruta_Aplicacion + u'/', clase, 0, 0, false);
     QVERIFY(t.hacer());
     const int llamadas = Llamadas::Desarmar();
     t.comprobar(true);

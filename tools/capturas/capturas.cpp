@@ -2,6 +2,7 @@
 // Usage: capturas DIRECTORIO_INSTALADO CARPETA_SALIDA
 
 #include "app/ventanas/Aplicacion.h"
+#include "app/ventanas/Ventana_Convert.h"
 #include "app/ventanas/Visor_Ayuda.h"
 #include "codes/Peticiones_Codigos.h"
 #include "codes/ui/Dialogos_Codigos.h"
@@ -20,6 +21,9 @@
 #include "core/ui/FrmProc.h"
 #include "core/ui/Frmutils.h"
 #include "export/GuardarN.h"
+#include "export/impresion/Dialogo_Imprimir.h"
+#include "export/Peticiones_Exportar.h"
+#include "export/ui/ExportDXF.h"
 #include "export/ui/FrmExportar.h"
 #include "formats/Formato_Existente.h"
 #include "formats/Formato_Nuevo.h"
@@ -37,6 +41,7 @@
 #include "transfer/ui/FrmSplash.h"
 #include "transfer/ui/Frmsplash1.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -209,6 +214,41 @@ void Exportar(Escenario& e)
     frm.Descargar();
 }
 
+void Dibujos(Escenario& e)
+{
+    const auto sesion = Buscar_Sesion(*Base_Datos, 2);
+    if (!sesion) qFatal("No session");
+    Poner_Campos_Exportar({"Punto", "Coordenada X", "Coordenada Y", "Coordenada Z", "Código"});
+    Trabajo_Exportar trabajo{2, "KRT300", 1, "NXYZCOD"};
+    trabajo.fichero = En_Instalacion("ficheros/linderos.dxf");
+    e.Retratar_Modal(
+        "FrmDXF", [&] { Peticiones_De_Exportar().Abrir_DXF(trabajo); },
+        [](QWidget& w) { De<QComboBox>(w, "CbFormato").setCurrentIndex(1); });
+    auto& lista = Dialogos::Unico<ExportDXF>();
+    lista.Mostrar();
+    e.Retratar(*lista.Marco(), "ExportDXF");
+    lista.Descargar();
+    e.Retratar_Modal(
+        "FrmImpFormato", [&] { Peticiones_De_Formatos().Abrir_Imprimir(trabajo); },
+        [](QWidget& w) {
+            De<QCheckBox>(w, "Check1").setChecked(true);
+            De<QLineEdit>(w, "Text1").setText("Linderos del valle alto");
+            De<QCheckBox>(w, "Check2").setChecked(true);
+            De<QCheckBox>(w, "Check5").setChecked(true);
+        });
+    e.Retratar_Modal("FrmImpEdtCol", [] {
+        Peticiones_De_Impresion().Editar_Columnas({"Punto", "Coordenada X", "Coordenada Y"});
+    });
+    e.Retratar_Modal("FrmImpDat", [] { Peticiones_De_Impresion().Pedir_Trabajo({"Presa", "Ana"}); });
+    e.Retratar_Modal("FrmPlano", [&] { Puertas_De_Descargas().Ver_Plano(*sesion); });
+    Avance_Exportar callado;
+    Transformar_DXF(Dibujo_De_Sesion(trabajo), Modo_DXF::Tres_D, {}, callado);
+    Ventana_Convert visor;
+    visor.show();
+    visor.Abrir(trabajo.fichero);
+    e.Retratar(visor, "Convert");
+}
+
 void Conversiones(Escenario& e)
 {
     Mostrar_frmConvEst(1);
@@ -286,6 +326,7 @@ int main(int argc, char** argv)
     Pequenos(escenario);
     Formatos(escenario);
     Exportar(escenario);
+    Dibujos(escenario);
     Conversiones(escenario);
     Codigos(escenario);
     Ficheros_Brutos(escenario);
