@@ -72,13 +72,14 @@ qint64 Para_Cada_Punto(const Datos_Formateados& datos, Avance_Exportar& avance,
     if (const QString falta = columnas.Falta(); !falta.isEmpty())
         throw Error_Ejecucion(3265, "Falta el campo \"" + falta + '"');
     const auto celda = [&](std::optional<std::size_t> columna, std::size_t fila) {
-        return columna ? QStringView(datos.filas[*columna][fila]) : QStringView();
+        return columna ? datos.filas[*columna].Celda(fila) : QString();
     };
     const std::size_t total = datos.Numero_De_Filas();
     Marcador marcador(avance, qint64(total));
     qint64 omitidos = 0;
     for (std::size_t fila = 0; fila < total; ++fila) {
-        Punto_Medido punto{celda(columnas.nombre, fila), 0, 0, 0, celda(columnas.codigo, fila)};
+        const QString nombre = celda(columnas.nombre, fila), codigo = celda(columnas.codigo, fila);
+        Punto_Medido punto{nombre, 0, 0, 0, codigo};
         bool bien = true;
         const auto leer = [&](std::optional<std::size_t> columna) {
             const auto numero = Basico::Numero_O_Nada(celda(columna, fila));

@@ -72,12 +72,12 @@ QByteArray Renderiza_Pagina(Base& bd, const Datos_Formateados& datos, const Para
     Textos_Marcados marcadas(bd, datos.lineas_especiales);
     Renglon renglon(SEPARADOR);
     for (std::size_t fila = 0; fila < datos.Numero_De_Filas(); ++fila) {
-        if (const Marca_Fila* const marca = Marca_De(datos.filas[0][fila])) {
+        if (const Marca_Fila* const marca = Marca_De(datos.filas[0].Vista(fila).Primera())) {
             rtf += RTF::FILA_MARCADA;
             RTF::Agregar(rtf, marcadas.Siguiente(*marca, {}));
         } else {
             for (std::size_t c = 0; c < datos.filas.size(); ++c)
-                renglon.Poner(datos.filas[c][fila], anchos[c]);
+                renglon.Poner(datos.filas[c].Celda(fila), anchos[c]);
             rtf += RTF::FILA + margen;
             RTF::Agregar(rtf, renglon.Texto());
             renglon.Vaciar();

@@ -64,7 +64,7 @@ class Fila {
 public:
     Fila(const Datos_Formateados& d, std::size_t f) : datos(d), fila(f) {}
 
-    QString Texto(Campo campo) const { return datos.filas[campo][fila].trimmed(); }
+    QString Texto(Campo campo) const { return datos.filas[campo].Celda(fila).trimmed(); }
     QString Texto(Campo campo, Campo otro) const
     {
         const QString texto = Texto(campo);
@@ -72,7 +72,7 @@ public:
     }
     std::optional<double> Numero(Campo campo) const
     {
-        return Basico::Numero_O_Nada(datos.filas[campo][fila]);
+        return Basico::Numero_O_Nada(datos.filas[campo].Celda(fila));
     }
     std::optional<Lugar> Sitio(Campo x, Campo y) const
     {
