@@ -52,6 +52,31 @@ QChar Separador_800(int ope)
     return Operacion(ope) == Operacion::Alineaciones ? u' ' : u',';
 }
 
+std::vector<QByteArrayView> Piezas_De(QByteArrayView datosg)
+{
+    std::vector<QByteArrayView> piezas;
+    for (qsizetype desde = 0; desde <= datosg.size();) {
+        const qsizetype p = datosg.indexOf(char(SEP_LISTA), desde);
+        const qsizetype fin = p < 0 ? datosg.size() : p;
+        piezas.push_back(datosg.sliced(desde, fin - desde));
+        desde = fin + 1;
+    }
+    return piezas;
+}
+
+// Identifier and field of a KRT800 item of `DatosG`.
+QByteArrayView Nombre_De_Item(QByteArrayView pieza)
+{
+    const qsizetype campo = pieza.indexOf(char(SEP_CAMPO));
+    const qsizetype valor = campo < 0 ? -1 : pieza.indexOf(char(SEP_CAMPO), campo + 1);
+    return valor < 0 ? pieza : pieza.first(valor);
+}
+
+bool Nombran_Lo_Mismo(QByteArrayView una, QByteArrayView otra)
+{
+    return una == otra || Nombre_De_Item(una) == Nombre_De_Item(otra);
+}
+
 // Runs a routine that must leave quietly whatever happens.
 template <typename Rutina> void En_Silencio(const char* nombre, Rutina&& rutina)
 {
@@ -289,21 +314,20 @@ void Decodificador::General(QByteArrayView datosg, QStringList& valores)
 {
     if (datosg.isEmpty() || !Hay_Generales()) return;
     if (datosg != ultimos_generales) {
-        ultimos_generales = datosg.toByteArray();
-        generales_leidos.clear();
-        const QString texto = QString::fromUtf8(datosg);
         if (familia.serie == Serie::B)
-            Leer_Generales_800(texto);
+            Leer_Generales_800(datosg);
         else
-            Leer_Generales(texto);
+            Leer_Generales(QString::fromUtf8(datosg));
+        ultimos_generales = datosg.toByteArray();
     }
     for (const General_Leido& leido : generales_leidos)
-        if (leido.valor) valores[leido.lugar] = *leido.valor;
+        if (leido.valor) valores[leido.pedido->lugar] = *leido.valor;
 }
 
 // The first item that begins with a field's identifier holds it.
 void Decodificador::Leer_Generales(QStringView datosg)
 {
+    generales_leidos.clear();
     for (const General_Pedido& pedido : *generales)
         for (const QStringView pieza : datosg.tokenize(QChar(SEP_LISTA))) {
             if (pieza.left(1) != pedido.id) continue;
@@ -311,30 +335,43 @@ void Decodificador::Leer_Generales(QStringView datosg)
             Guardar(cortado, datosg, [&](QString& valor) {
                 pedido.plan.De_Columnas(pieza.mid(1), pedido.posicion, valor);
             });
-            generales_leidos.push_back({pedido.lugar, cortado});
+            generales_leidos.push_back({&pedido, cortado});
             break;
         }
 }
 
-// The first item of a field's identifier and name holds it: identifier, field and value.
-void Decodificador::Leer_Generales_800(QStringView datosg)
+// Each sight brings one item anew and leaves the others as they were: as long as they name the same
+// fields, only what changed is read.
+void Decodificador::Leer_Generales_800(QByteArrayView datosg)
 {
-    std::vector<bool> hallado(generales->size(), false);
-    for (const QStringView pieza : datosg.tokenize(QChar(SEP_LISTA))) {
-        const QStringView id = Vista_Trozo(1, pieza, SEP_CAMPO);
-        const QStringView campo = Vista_Trozo(2, pieza, SEP_CAMPO);
-        for (std::size_t i = 0; i < generales->size(); ++i) {
-            const General_Pedido& pedido = (*generales)[i];
-            if (hallado[i] || id != pedido.id || campo != pedido.campo) continue;
-            hallado[i] = true;
-            const QStringView token = Vista_Trozo(3, pieza, SEP_CAMPO);
-            General_Leido leido{pedido.lugar, QString()};
-            Guardar(*leido.valor, datosg,
-                    [&](QString& valor) { pedido.plan.De_Token(token, valor); });
-            if (token.startsWith(u'*')) leido.valor.reset();
-            generales_leidos.push_back(std::move(leido));
-        }
+    const std::vector<QByteArrayView> antes = Piezas_De(ultimos_generales);
+    const std::vector<QByteArrayView> ahora = Piezas_De(datosg);
+    if (!std::ranges::equal(antes, ahora, Nombran_Lo_Mismo)) return Casar_Generales_800(ahora);
+    for (General_Leido& leido : generales_leidos)
+        if (ahora[leido.pieza] != antes[leido.pieza]) Leer_Item(leido, ahora[leido.pieza]);
+}
+
+// The first item of a field's identifier and name holds it: identifier, field and value.
+void Decodificador::Casar_Generales_800(const std::vector<QByteArrayView>& piezas)
+{
+    generales_leidos.clear();
+    for (const General_Pedido& pedido : *generales) {
+        const QByteArray nombre = (pedido.id + QChar(SEP_CAMPO) + pedido.campo).toUtf8();
+        const auto pieza = std::ranges::find(piezas, QByteArrayView(nombre), Nombre_De_Item);
+        if (pieza == piezas.end()) continue;
+        generales_leidos.push_back({&pedido, {}, std::size_t(pieza - piezas.begin())});
+        Leer_Item(generales_leidos.back(), *pieza);
     }
+}
+
+void Decodificador::Leer_Item(General_Leido& leido, QByteArrayView pieza)
+{
+    const QString item = QString::fromUtf8(pieza);
+    const QStringView token = Vista_Trozo(3, item, SEP_CAMPO);
+    leido.valor.reset();
+    if (token.startsWith(u'*')) return;
+    leido.valor.emplace();
+    Guardar(*leido.valor, item, [&](QString& valor) { leido.pedido->plan.De_Token(token, valor); });
 }
 
 void Decodificador::Poner_Punto(const QString& punto, QStringList& valores) const

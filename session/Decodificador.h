@@ -146,8 +146,9 @@ private:
     };
     // What general records give to the values: a text, or nothing, which leaves the old one.
     struct General_Leido {
-        qsizetype lugar;
+        const General_Pedido* pedido;
         std::optional<QString> valor;
+        std::size_t pieza = 0; // that it was read from
     };
 
     const Registro& Preparar(QStringView id);
@@ -155,7 +156,9 @@ private:
     void Cortar_Trozos(const Registro& registro, QStringView linea, QStringList& valores);
     void Preparar_Generales();
     void Leer_Generales(QStringView datosg);
-    void Leer_Generales_800(QStringView datosg);
+    void Leer_Generales_800(QByteArrayView datosg);
+    void Casar_Generales_800(const std::vector<QByteArrayView>& piezas);
+    void Leer_Item(General_Leido& leido, QByteArrayView pieza);
     template <typename Sacar> bool Guardar(QString& valor, QStringView linea, Sacar&& sacar);
 
     Base& bd;

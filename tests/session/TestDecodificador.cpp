@@ -5,6 +5,7 @@
 #include "tests/apoyo/Instrumentos.h"
 #include "tests/apoyo/Prueba.h"
 
+#include <QRandomGenerator>
 #include <sqlite3.h>
 
 class TestDecodificador : public QObject {
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void una_linea_de_krt800_data();
     void una_linea_de_krt800();
     void los_generales_de_krt800_casan_registro_y_campo();
+    void los_generales_seguidos_son_los_de_cada_uno_data();
+    void los_generales_seguidos_son_los_de_cada_uno();
     void el_nivel_llena_por_lugares();
     void una_fila_a_mano_se_ve_al_momento();
     void la_base_reabierta_vacia_la_cache();
@@ -612,6 +615,62 @@ void TestDecodificador::los_generales_de_krt800_casan_registro_y_campo()
     QCOMPARE(valores[1], QStringLiteral("E1"));
     Decodificar_General(*Base_Datos, item("STN", "Estación", "E2"), "KRT800", nombres, valores, 4);
     QCOMPARE(valores[1], QStringLiteral("E1"));
+}
+
+void TestDecodificador::los_generales_seguidos_son_los_de_cada_uno_data()
+{
+    QTest::addColumn<QString>("maquina");
+    QTest::addColumn<QStringList>("piezas");
+    QTest::newRow("KRT300") << "KRT300"
+                            << QStringList{
+                                   "EEST1   +01500", "EEST2   +01A00", "E", "JOBRA", "", "EÑ"};
+    const QString campo = QChar(SEP_CAMPO);
+    const QString estacion = "STN" + campo + "Estación",
+                  altura = "STN" + campo + "Altura Instrumento";
+    QTest::newRow("KRT800") << "KRT800"
+                            << QStringList{estacion + campo + "E1",
+                                           estacion + campo + "E2",
+                                           estacion + campo + "*",
+                                           estacion,
+                                           altura + campo + "1.50",
+                                           altura + campo + "1.60" + campo + "9",
+                                           altura + campo,
+                                           altura + campo + "-.x0",
+                                           "SS" + campo + "Punto" + campo + "7",
+                                           "STN",
+                                           ""};
+}
+
+// A decoder kept over many lines gives what one made anew for each of them gives.
+void TestDecodificador::los_generales_seguidos_son_los_de_cada_uno()
+{
+    QFETCH(const QString, maquina);
+    QFETCH(const QStringList, piezas);
+    Base_De_Prueba p;
+    Poner_Instrumentos(p);
+    Clave_Estacion = maquina;
+    const QStringList nombres = {"Altura Instrumento", "Estación", "Punto", "Estación"};
+    QRandomGenerator azar(800);
+    Decodificador seguido(*Base_Datos, maquina, 1, nombres);
+    QStringList lista;
+    int llenas = 0;
+    for (int i = 0; i < 3000; ++i) {
+        // Mostly one item changes; now and then one comes, goes or moves.
+        if (lista.isEmpty() || azar.bounded(6) == 0)
+            lista.insert(azar.bounded(int(lista.size()) + 1), piezas[azar.bounded(piezas.size())]);
+        else if (azar.bounded(6) == 0)
+            lista.removeAt(azar.bounded(lista.size()));
+        else
+            lista[azar.bounded(lista.size())] = piezas[azar.bounded(piezas.size())];
+        if (lista.size() > 5) lista.removeFirst();
+        const QString datosg = lista.join(QChar(SEP_LISTA));
+        QStringList de_seguido = {"a", "b", "c", "d"}, de_uno = de_seguido;
+        seguido.General(datosg, de_seguido);
+        Decodificar_General(*Base_Datos, datosg, maquina, nombres, de_uno, 1);
+        QCOMPARE(de_seguido, de_uno);
+        llenas += de_uno[0] != u"a" && de_uno[1] != u"b";
+    }
+    QVERIFY(llenas > 100);
 }
 
 void TestDecodificador::el_nivel_llena_por_lugares()
