@@ -25,7 +25,7 @@ QStringList Fila(const Lista_Puntos& lista, std::size_t fila)
 {
     QStringList celdas;
     for (const auto& columna : lista.datos.filas)
-        celdas << columna.at(fila);
+        celdas << columna.Celda(fila);
     return celdas;
 }
 

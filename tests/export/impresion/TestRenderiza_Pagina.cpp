@@ -72,7 +72,7 @@ void TestRenderiza_Pagina::otra_cuenta_escribe_lo_mismo()
     for (std::size_t f = 0; f < datos.Numero_De_Filas(); ++f) {
         QStringList celdas;
         for (const auto& columna : datos.filas)
-            celdas << columna[f];
+            celdas << columna.Celda(f);
         tabla += Ansi::A_Bytes(celdas.join('\t')) + '\n';
     }
     base->Escribir("tabla.txt", tabla);
@@ -126,7 +126,7 @@ void TestRenderiza_Pagina::una_fila_marcada_va_en_negrita()
 {
     Poner_Instrumentos(*base);
     Datos_Formateados datos = Tabla();
-    datos.filas[0][1] = QString(QChar(6)) + "resto";
+    datos.filas[0] = {"P1", QString(QChar(6)) + "resto", "3"};
     datos.lineas_especiales = QStringList{"t1 2"};
     const QByteArray rtf = Render({}, datos);
     QCOMPARE(rtf.count("\\par \\par \\pard\\plain\\f2\\fs16\\b Cabecera"), 1);
