@@ -147,10 +147,9 @@ void TestOrdenesBrutos::cada_patron()
 {
     QFETCH(QStringList, palabras);
     QFETCH(QByteArray, salida);
-    QFETCH(QString, mensajes);
     QCOMPARE(Exportar(palabras + QStringList{"--salida", Salida()}), int(HECHO));
     QCOMPARE(banco->Leer("salida"), salida);
-    QCOMPARE(this->mensajes, mensajes);
+    QTEST(mensajes, "mensajes");
     QCOMPARE(texto, QString());
 }
 
