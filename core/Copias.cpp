@@ -122,18 +122,11 @@ QString Copias::Recuperar(const QString& copia)
     Ficheros::Copiar(copia, nueva);
     try {
         Base::Abrir(nueva); // it can be used before it takes the place of the other
-        if (Base_Datos) Base_Datos->Close();
-        Base_Datos.reset();
+        // Handles and transactions of this process stay: one that is open refuses the exchange.
         Cambiar_Base(Fichero_MDB, nueva, aparte);
     } catch (...) {
-        const Error_Ejecucion error = Error_En_Curso();
         QFile::remove(nueva);
-        try {
-            if (!Base_Datos) Base_Datos = Base::Abrir(Fichero_MDB);
-        } catch (const Error_Ejecucion& e) {
-            Anotar("Copias::Recuperar", e.descripcion); // as damaged as before
-        }
-        throw error;
+        throw;
     }
     Base_Datos = Base::Abrir(Fichero_MDB);
     Estado_Global::Unico<Aviso_Dado>().dado = false;

@@ -221,9 +221,11 @@ QString Esquema::Es_Fecha(const Columna& columna)
     const QString cifra = QStringLiteral("[0-9]");
     const QString dibujo =
         QStringLiteral("%1-%2-%2 %2:%2:%2").arg(cifra.repeated(4), cifra.repeated(2));
-    // The form first: what else the date functions take for a moment ("now") is none that was stored.
-    return QStringLiteral("CASE WHEN %1 GLOB '%2' THEN strftime('%Y-%m-%d %H:%M:%S',%1)=%1 "
-                          "ELSE %1 IS NULL END")
+    // Only a shifted moment is worked out anew, so that the 30th of February is none. The form
+    // first: what else the date functions take for a moment ("now") is none that was stored.
+    return QStringLiteral(
+               "CASE WHEN %1 GLOB '%2' THEN strftime('%Y-%m-%d %H:%M:%S',%1,'+0 days')=%1 "
+               "ELSE %1 IS NULL END")
         .replace(QStringLiteral("%1"), columna.nombre)
         .replace(QStringLiteral("%2"), dibujo);
 }

@@ -283,7 +283,8 @@ void TestSesiones::compactar_lo_danado_lo_dice()
     // Neither the database nor the good copy has been touched.
     QCOMPARE(p->Leer("MDB/esttotal.bak"), copia);
     Base_Datos.reset();
-    QCOMPARE(p->Leer("MDB/EstTotal.mdb"), rota);
+    // Its first page counts how often it was opened; the others hold what they held.
+    QCOMPARE(p->Leer("MDB/EstTotal.mdb").mid(4096), rota.mid(4096));
 }
 
 PRUEBA(TestSesiones)
