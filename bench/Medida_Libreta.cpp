@@ -42,9 +42,7 @@ void Exportar(benchmark::State& estado)
     const double despues = Memoria_MB();
     const QByteArray bytes = Leer_Todo(sala.Salida());
     if (bytes.count("\r\n") != c.filas) return estado.SkipWithError("rows are missing");
-    const auto suelo = [&] {
-        return Recorrer_Y_Escribir(sesion, bytes, sala.Ruta("suelo.txt"));
-    };
+    const auto suelo = [&] { return Recorrer_Y_Escribir(sesion, bytes, sala.Ruta("suelo.txt")); };
     Medir_Proporcion(estado, c.tope, suelo, obra);
     estado.counters["memoria_MB"] = despues - antes;
     estado.counters["tope_MB"] = 40;
@@ -76,8 +74,7 @@ void Guardar_Y_Exportar(benchmark::State& estado)
     const QByteArray bytes = Leer_Todo(sala.Salida());
     if (bytes.count("\r\n") != c.filas) return estado.SkipWithError("rows are missing");
     const auto suelo = [&] {
-        return Insertar_A_Pelo(sesion) +
-               Recorrer_Y_Escribir(sesion, bytes, sala.Ruta("suelo.txt"));
+        return Insertar_A_Pelo(sesion) + Recorrer_Y_Escribir(sesion, bytes, sala.Ruta("suelo.txt"));
     };
     Medir_Proporcion(estado, 1.5, suelo, obra);
 }

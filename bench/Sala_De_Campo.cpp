@@ -44,7 +44,8 @@ public:
 // A number in fixed columns: a sign and digits.
 QString Cifras(qint64 valor, int ancho)
 {
-    return (valor < 0 ? u'-' : u'+') + QString::number(std::abs(valor)).rightJustified(ancho - 1, u'0');
+    return (valor < 0 ? u'-' : u'+') +
+           QString::number(std::abs(valor)).rightJustified(ancho - 1, u'0');
 }
 
 QString Decimales(qint64 miles, int decimales)
@@ -71,7 +72,8 @@ class Conexion_Pelada {
 public:
     Conexion_Pelada()
     {
-        if (sqlite3_open(QFile::encodeName(Fichero_MDB).constData(), &bd) != SQLITE_OK) std::abort();
+        if (sqlite3_open(QFile::encodeName(Fichero_MDB).constData(), &bd) != SQLITE_OK)
+            std::abort();
         Hacer("PRAGMA synchronous=NORMAL");
         Hacer("PRAGMA cache_size=-16000");
     }
@@ -115,8 +117,7 @@ Sala_De_Campo::~Sala_De_Campo()
 
 qint64 Sala_De_Campo::Guardar(const Datos_Recepcion& datos) const
 {
-    const auto guardar =
-        maquina == u"KRT800" ? Guardar_Descarga_KRT800 : Guardar_Descarga_KRT300;
+    const auto guardar = maquina == u"KRT800" ? Guardar_Descarga_KRT800 : Guardar_Descarga_KRT300;
     const auto guardada = guardar(datos);
     return guardada && !guardada->sesiones.isEmpty() ? guardada->sesiones.first().toLongLong() : 0;
 }
@@ -162,7 +163,8 @@ Datos_Recepcion Libreta_KRT800(int puntos)
     for (int p = 0; p < puntos; ++p) {
         if (p % PUNTOS_POR_ESTACION == 0)
             b += "STN E" + QString::number(p / PUNTOS_POR_ESTACION) + ",1.457,VERTICE\r\nXYZ " +
-                 Decimales(456191339 + p, 3) + ",4478320.433,617.438\r\nBKB BASE0,252.2536,111.6075\r\n";
+                 Decimales(456191339 + p, 3) +
+                 ",4478320.433,617.438\r\nBKB BASE0,252.2536,111.6075\r\n";
         b += "SS " + QString::number(1000 + p) + ",1.300," + CODIGOS[p % 5] + "\r\nSD " +
              Decimales(p * 7919LL % 399999, 4) + ',' + Decimales(95000 + p % 9999, 4) + ',' +
              Decimales(9000 + p * 137 % 99999, 3) + "\r\n";
