@@ -17,9 +17,12 @@ template <class Clase> std::unique_ptr<Receptor> Hacer()
 }
 
 const Serie_En_Linea SERIES[] = {
-    {Serie::A, Hacer<Receptor_KRT300>, Guardar_Descarga_KRT300},
-    {Serie::B, Hacer<Receptor_KRT800>, Guardar_Descarga_KRT800},
-    {Serie::Nivel, Hacer<Receptor_NV400>, Guardar_Descarga_NV400},
+    {Serie::A, Hacer<Receptor_KRT300>, Guardar_Descarga_KRT300,
+     QStringLiteral("trama")},
+    {Serie::B, Hacer<Receptor_KRT800>, Guardar_Descarga_KRT800,
+     QStringLiteral("línea")},
+    {Serie::Nivel, Hacer<Receptor_NV400>, Guardar_Descarga_NV400,
+     QStringLiteral("línea")},
 };
 
 } // namespace

@@ -15,6 +15,8 @@ struct Serie_En_Linea {
     /// Stores a finished reception. Null when the series stores nothing of that operation: the
     /// database is then left alone altogether.
     std::optional<Resultado_Recepcion> (*guardar)(const Datos_Recepcion& datos);
+    /// What its wire is made of, as `Frase_Faltas` says it.
+    QString unidad;
 };
 
 /// @return the row of the family; null for a key that no family has, whose bytes nobody hears

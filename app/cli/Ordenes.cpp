@@ -39,10 +39,11 @@ const QList<Orden>& Ordenes()
          "[--clase alineacion|rasante|transversal|puntos]",
          Orden_Convertir},
         {"descargar",
-         "descargar --modelo NOMBRE --ope N --puerto DISPOSITIVO --nombre NOMBRE [--velocidad V]",
+         "descargar --modelo NOMBRE --ope N --puerto DISPOSITIVO --nombre NOMBRE [--velocidad V] "
+         "[--espera S]",
          Orden_Descargar},
         {"rescates", "rescates", Orden_Rescates},
-        {"rescatar", "rescatar FICHERO --modelo NOMBRE --ope N --nombre NOMBRE", Orden_Rescatar},
+        {"rescatar", "rescatar FICHERO --modelo NOMBRE --nombre NOMBRE [--ope N] [--forzar]", Orden_Rescatar},
         {"tabla",
          "tabla ENTRADA SALIDA [--separador tabulacion|coma|espacio] "
          "[--version \"Excel 3.0\"|\"Excel 4.0\"|\"Excel 5.0\"|\"Excel 8.0\"] "

@@ -188,6 +188,13 @@ const Esquema::Tabla* Esquema::Buscar_Tabla(const QString& nombre)
     return nullptr;
 }
 
+int Esquema::Ancho(const QString& tabla, const QString& columna)
+{
+    const Tabla* const t = Buscar_Tabla(tabla);
+    const Columna* const c = t ? t->Buscar_Columna(columna) : nullptr;
+    return c && c->tipo == Tipo::Texto ? c->ancho : 0;
+}
+
 QStringList Esquema::Sentencias()
 {
     QStringList sql;

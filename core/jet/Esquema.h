@@ -46,6 +46,8 @@ struct Tabla {
 const QList<Tabla>& Tablas();
 /// A table by its name, compared without case; null when there is none.
 const Tabla* Buscar_Tabla(const QString& nombre);
+/// Characters that a text column takes; 0 when there is no such column or it has no limit.
+int Ancho(const QString& tabla, const QString& columna);
 /// SQL that makes all tables and indexes in an empty database.
 QStringList Sentencias();
 

@@ -141,7 +141,7 @@ void TestDespacho::que_arranca_cada_operacion_data()
     QTest::addColumn<int>("avisos");
     QTest::newRow("KRT300 0") << "KRT300" << 0 << "D" << "ayuda D0 paso 1" << 0;
     QTest::newRow("KRT300 1") << "KRT300" << 1 << "D" << "ayuda D1 paso 1" << 0;
-    QTest::newRow("KRT300 11 es 1") << "KRT300" << 11 << "D" << "ayuda D1 paso 1" << 0;
+    QTest::newRow("KRT300 11, con su ayuda") << "KRT300" << 11 << "D" << "ayuda D11 paso 1" << 0;
     QTest::newRow("PX7 0") << "PX7" << 0 << "D" << "ayuda D0 paso 1" << 0;
     QTest::newRow("KRT300 5 nada") << "KRT300" << 5 << "D" << "" << 0;
     QTest::newRow("KRT300 libreria") << "KRT300" << 2 << "D" << "" << 1;
