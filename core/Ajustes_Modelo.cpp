@@ -15,40 +15,54 @@ void Fijar(Combo_Ajustes& combo, const QStringList& lista, const QString& texto)
 
 void Cargar_Modelos(Carga_Frmutils& c)
 {
+    QStringList& nombres = c.combos[QStringLiteral("Combo6")].lista;
     const auto base = Base::Abrir(Fichero_MDB);
     Conjunto_Registros krt = base->OpenRecordset("SELECT * FROM KRT ORDER BY NOMBRE");
     for (; !krt.Es_EOF(); krt.MoveNext()) {
-        c.modelo.lista << krt.Texto("Nombre");
+        nombres << krt.Texto("Nombre");
         c.claves += QChar(SEP_LISTA) + krt.Texto("Clave");
     }
     c.claves.remove(0, 1);
 }
 
+void Fijar_Listas(Carga_Frmutils& c)
+{
+    for (const Ajuste& fila : Tabla_Ajustes())
+        if (fila.lista)
+            Fijar(c.combos[QString::fromLatin1(fila.control)], fila.lista(),
+                  *std::get<Ajuste_Texto>(fila.lugar).global);
+}
+
+// An unknown model ends the load with the first one shown and the other options left empty, so that
+// accepting the dialog writes them as off.
+void Mostrar_Primer_Modelo(Carga_Frmutils& c)
+{
+    Interfaz_Actual().Mensaje(
+        QStringLiteral("Se ha encontrado en el fichero ini una máquina no definida"),
+        Icono::Critico);
+    Combo_Ajustes& modelo = c.combos[QStringLiteral("Combo6")];
+    if (modelo.lista.isEmpty()) throw Error_Ejecucion(383);
+    modelo.texto = modelo.lista[0];
+    // Showing another entry is picking it.
+    if (const auto velocidades = Elegir_Modelo(modelo.texto))
+        c.combos[QStringLiteral("Combo1")] = *velocidades;
+}
+
 void Cargar(Carga_Frmutils& c)
 {
-    Fijar(c.puerto, Lista_Puertos(), Puerto);
-    Fijar(c.bits, Lista_Bits(), Bits_Datos);
-    Fijar(c.paridad, Lista_Paridades(), Paridad);
-    Fijar(c.parada, Lista_Paradas(), Bits_Parada);
-    c.velocidad = Lista_Velocidades(Vel_Puerto);
+    Fijar_Listas(c);
+    c.combos[QStringLiteral("Combo1")] = Lista_Velocidades(Vel_Puerto);
     Cargar_Modelos(c);
-    c.fijo = Modelo_Fijo;
-    if (!c.modelo.lista.contains(Nombre_Estacion)) {
-        Interfaz_Actual().Mensaje(
-            QStringLiteral("Se ha encontrado en el fichero ini una máquina no definida"),
-            Icono::Critico);
-        if (c.modelo.lista.isEmpty()) throw Error_Ejecucion(383);
-        c.modelo.texto = c.modelo.lista[0];
-        // Showing another entry is picking it.
-        if (const auto velocidades = Elegir_Modelo(c.modelo.texto)) c.velocidad = *velocidades;
+    c.casillas.fijo = Modelo_Fijo;
+    Combo_Ajustes& modelo = c.combos[QStringLiteral("Combo6")];
+    if (!modelo.lista.contains(Nombre_Estacion)) {
+        Mostrar_Primer_Modelo(c);
         return;
     }
-    c.modelo.texto = Nombre_Estacion;
-    c.ayuda = Ayuda_Visible;
-    c.recuerde = Ayuda_Recuerde;
-    c.cargas = Offset_Cargas;
-    c.exportar = Offset_Exportar;
-    c.cabeceras = Mostrar_Cabeceras;
+    modelo.texto = Nombre_Estacion;
+    for (const Ajuste& fila : Tabla_Ajustes())
+        if (const auto* const marca = std::get_if<Ajuste_Marca>(&fila.lugar))
+            c.casillas.*marca->valor = *marca->global;
     c.animacion = En_Instalacion("bmp/verifica.gif");
 }
 

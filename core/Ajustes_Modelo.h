@@ -2,6 +2,7 @@
 
 #include "core/Configuracion.h"
 
+#include <map>
 #include <optional>
 #include <QString>
 #include <QStringList>
@@ -17,14 +18,11 @@ struct Combo_Ajustes {
 /// Controls of `Frmutils` after its load. The load ends early at a value that its list lacks; what
 /// comes behind it then keeps its empty value.
 struct Carga_Frmutils {
-    Combo_Ajustes puerto, bits, paridad, parada; ///< `Combo5`, `Combo2`, `Combo3`, `Combo4`
-    Combo_Ajustes velocidad;                     ///< `Combo1`
-    Combo_Ajustes modelo;                        ///< `Combo6`
-    QString claves;                              ///< tag of `Combo6`: keys joined with code 6
-    bool fijo = false;                           ///< `Check1`
-    /// `Check2` to `Check6`: unticked when the load ended at an unknown model, so that accepting
-    /// then saves them as "NO".
-    bool ayuda = false, recuerde = false, cargas = false, exportar = false, cabeceras = false;
+    std::map<QString, Combo_Ajustes> combos; ///< by the name of the control
+    QString claves;                          ///< tag of `Combo6`: keys joined with code 6
+    /// The marks of the check boxes alone. `Check2` to `Check6` are unticked when the load ended at
+    /// an unknown model, so that accepting then saves them as "NO".
+    Ajustes casillas;
     QString animacion; ///< file of the animated picture; empty: none
 };
 

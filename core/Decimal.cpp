@@ -1,6 +1,7 @@
 #include "core/Decimal.h"
 
 #include "core/Error_Ejecucion.h"
+#include "core/Numero_Escrito.h"
 
 #include <algorithm>
 #include <array>
@@ -101,42 +102,19 @@ std::optional<Decimal> Decimal::Leer(QStringView texto)
 
 Decimal Decimal::Prefijo(QStringView texto)
 {
-    // Blanks count for nothing wherever they stand; they are rare enough to pay for a copy.
-    QString sin_blancos;
-    const auto es_blanco = [](QChar c) { return c == u' ' || c == u'\t' || c == u'\n'; };
-    if (std::ranges::any_of(texto, es_blanco)) {
-        sin_blancos = texto.toString();
-        sin_blancos.removeIf(es_blanco);
-        texto = sin_blancos;
-    }
-    const bool signo = Quitar_Signo(texto);
-    qsizetype i = 0;
-    const auto pasar_cifras = [&] {
-        const qsizetype desde = i;
-        while (i < texto.size() && Es_Cifra(texto[i]))
-            ++i;
-        return texto.mid(desde, i - desde);
-    };
-    const QStringView entera = pasar_cifras();
-    QStringView fraccion;
-    if (i < texto.size() && texto[i] == u'.') {
-        ++i;
-        fraccion = pasar_cifras();
-    }
-    if (entera.isEmpty() && fraccion.isEmpty()) return {};
-    if (i == texto.size() || !QStringView(u"eEdD").contains(texto[i]))
-        return De_Partes(signo, entera, fraccion);
+    const Numero_Escrito n = Leer_Numero(texto, {.blancos = true});
+    const QStringView entera(n.entera), fraccion(n.fraccion);
+    if (!n.Hay()) return {};
+    if (n.exponente.isEmpty()) return De_Partes(n.negativo, entera, fraccion);
 
-    QStringView resto = texto.mid(i + 1);
-    const bool baja = Quitar_Signo(resto);
     qint64 exponente = 0;
-    for (qsizetype k = 0; k < resto.size() && Es_Cifra(resto[k]); ++k)
-        exponente = std::min<qint64>(exponente * 10 + qint64(Cifra(resto[k])), 1000);
+    for (const char16_t c : n.exponente)
+        exponente = std::min<qint64>(exponente * 10 + qint64(Cifra(c)), 1000);
     const QString todas = entera.toString() + fraccion.toString();
-    const qint64 punto = entera.size() + (baja ? -exponente : exponente);
-    if (punto <= 0) return De_Partes(signo, {}, QString(-punto, u'0') + todas);
+    const qint64 punto = entera.size() + (n.exponente_negativo ? -exponente : exponente);
+    if (punto <= 0) return De_Partes(n.negativo, {}, QString(-punto, u'0') + todas);
     const QString llenas = todas + QString(std::max<qint64>(0, punto - todas.size()), u'0');
-    return De_Partes(signo, QStringView(llenas).left(punto), QStringView(llenas).mid(punto));
+    return De_Partes(n.negativo, QStringView(llenas).left(punto), QStringView(llenas).mid(punto));
 }
 
 Decimal Decimal::Absoluto() const
@@ -194,6 +172,15 @@ quint64 Decimal::Redondeados(int n) const
     const quint64 resto = fraccion % unidad;
     if (resto * 2 > unidad || (resto * 2 == unidad && resto != 0 && cifras % 2 == 1)) ++cifras;
     return cifras % POTENCIA[std::size_t(n)];
+}
+
+std::optional<qint64> Decimal::En_Unidades(int n) const
+{
+    const quint64 unidad = POTENCIA[std::size_t(CIFRAS - n)];
+    // What is below 10^18 fits.
+    if (fraccion % unidad != 0 || entera >= unidad) return std::nullopt;
+    const auto unidades = qint64(entera * POTENCIA[std::size_t(n)] + fraccion / unidad);
+    return negativo ? -unidades : unidades;
 }
 
 QString Decimal::Decimales(int n) const

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <exception>
+#include <QString>
 
 /// A failure at run time: the classic number and its Spanish description. A routine that reports
 /// failures traps it at its one exit and shows it through `Informe_Error`.
@@ -11,6 +11,9 @@ public:
     explicit Error_Ejecucion(int numero);
     /// @param detalle  replaces the general description, e.g. the reason the system gave
     Error_Ejecucion(int numero, const QString& detalle);
+    /// @param detalle  what the failure is about (a file, a field, the system's reason): it stands
+    ///                 behind the general description and ": "
+    static Error_Ejecucion Con(int numero, const QString& detalle);
 
     const char* what() const noexcept override { return texto_what.constData(); }
 

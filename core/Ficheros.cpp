@@ -23,14 +23,9 @@ static int Numero_De(QFileDevice::FileError error)
     }
 }
 
-static Error_Ejecucion Error_Con_Nombre(int numero, const QString& ruta)
-{
-    return Error_Ejecucion(numero, Descripcion_Error(numero) + QStringLiteral(": ") + ruta);
-}
-
 Error_Ejecucion Ficheros::Error_De(const QFileDevice& fichero)
 {
-    return Error_Con_Nombre(
+    return Error_Ejecucion::Con(
         Numero_De(fichero.error()),
         QStringLiteral("%1 (%2)").arg(fichero.fileName(), fichero.errorString()));
 }
@@ -38,8 +33,8 @@ Error_Ejecucion Ficheros::Error_De(const QFileDevice& fichero)
 QByteArray Ficheros::Leer(const QString& ruta)
 {
     const QFileInfo donde(ruta);
-    if (!donde.exists()) throw Error_Con_Nombre(53, ruta);
-    if (donde.isDir()) throw Error_Con_Nombre(75, ruta);
+    if (!donde.exists()) throw Error_Ejecucion::Con(53, ruta);
+    if (donde.isDir()) throw Error_Ejecucion::Con(75, ruta);
     QFile fichero(ruta);
     if (!fichero.open(QIODevice::ReadOnly)) throw Error_De(fichero);
     QByteArray bytes = fichero.readAll();
@@ -52,20 +47,20 @@ static void Abrir_Escritura(QSaveFile& fichero, const QString& ruta)
 {
     if (ruta.isEmpty()) throw Error_Ejecucion(52);
     const QFileInfo donde(ruta);
-    if (donde.isDir()) throw Error_Con_Nombre(75, ruta);
-    if (!donde.absoluteDir().exists()) throw Error_Con_Nombre(76, ruta);
+    if (donde.isDir()) throw Error_Ejecucion::Con(75, ruta);
+    if (!donde.absoluteDir().exists()) throw Error_Ejecucion::Con(76, ruta);
     fichero.setFileName(ruta);
     // A file marked read-only is told as a failed write: nothing has been written yet.
     // Without a buffer: its flush takes a half-written block for written, and a full disk would
     // leave a file without its end.
     if (!fichero.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        throw Error_Con_Nombre(70, ruta);
+        throw Error_Ejecucion::Con(70, ruta);
 }
 
 static void Anadir(QSaveFile& fichero, const QByteArray& bytes)
 {
     if (fichero.write(bytes) == bytes.size()) return;
-    if (fichero.error() == QFileDevice::NoError) throw Error_Con_Nombre(61, fichero.fileName());
+    if (fichero.error() == QFileDevice::NoError) throw Error_Ejecucion::Con(61, fichero.fileName());
     throw Ficheros::Error_De(fichero);
 }
 
@@ -90,8 +85,8 @@ void Ficheros::Copiar(const QString& origen, const QString& destino)
 {
     constexpr qint64 TRAMO = 1024 * 1024;
     const QFileInfo donde(origen);
-    if (!donde.exists()) throw Error_Con_Nombre(53, origen);
-    if (donde.isDir()) throw Error_Con_Nombre(75, origen);
+    if (!donde.exists()) throw Error_Ejecucion::Con(53, origen);
+    if (donde.isDir()) throw Error_Ejecucion::Con(75, origen);
     QFile de(origen);
     if (!de.open(QIODevice::ReadOnly)) throw Error_De(de);
     QSaveFile a;

@@ -22,8 +22,7 @@ QStringList Leer_Lineas(const QString& ruta);
 
 /// Writes `bytes` beside `ruta` and takes the place of `ruta` with them.
 /// @throws Error_Ejecucion 52 for an empty name, 76 when the folder isn't there, 75 when `ruta` is
-/// a
-///         folder, 70 without permission, 61 on a full disk, 57 when the device fails otherwise
+///         a folder, 70 without permission, 61 on a full disk, 57 when the device fails otherwise
 void Escribir(const QString& ruta, const QByteArray& bytes);
 
 /// Copies a file of any size; `destino` appears whole or stays as it was.

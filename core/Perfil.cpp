@@ -61,6 +61,29 @@ qsizetype Final_De(const QStringList& lineas, qsizetype desde)
     return final;
 }
 
+// @return false when nothing had to change: a key to be removed that isn't there
+bool Poner(QStringList& lineas, const Perfil::Entrada& entrada)
+{
+    qsizetype dentro = Dentro_De(lineas, entrada.seccion);
+    const qsizetype i = Linea_De(lineas, dentro, entrada.clave);
+    if (entrada.valor.isNull()) {
+        if (i >= 0) lineas.removeAt(i);
+        return i >= 0;
+    }
+    // A line break would make another key of the rest.
+    const QString valor = entrada.valor.section(u'\r', 0, 0).section(u'\n', 0, 0);
+    const QString linea = entrada.clave + u'=' + valor;
+    if (dentro < 0) {
+        lineas << u'[' + entrada.seccion + u']';
+        dentro = lineas.size();
+    }
+    if (i >= 0)
+        lineas[i] = linea;
+    else
+        lineas.insert(Final_De(lineas, dentro), linea);
+    return true;
+}
+
 } // namespace
 
 QString Perfil::Leer(const QString& fichero, const QString& seccion, const QString& clave,
@@ -80,24 +103,16 @@ QString Perfil::Leer(const QString& fichero, const QString& seccion, const QStri
 void Perfil::Escribir(const QString& fichero, const QString& seccion, const QString& clave,
                       const QString& valor)
 {
+    Escribir_Todas(fichero, {{seccion, clave, valor}});
+}
+
+void Perfil::Escribir_Todas(const QString& fichero, const QList<Entrada>& entradas)
+{
     QStringList lineas = Lineas(fichero);
-    qsizetype dentro = Dentro_De(lineas, seccion);
-    const qsizetype i = Linea_De(lineas, dentro, clave);
-    if (valor.isNull()) {
-        if (i < 0) return;
-        lineas.removeAt(i);
-    } else {
-        // A line break would make another key of the rest.
-        const QString linea = clave + u'=' + valor.section(u'\r', 0, 0).section(u'\n', 0, 0);
-        if (dentro < 0) {
-            lineas << u'[' + seccion + u']';
-            dentro = lineas.size();
-        }
-        if (i >= 0)
-            lineas[i] = linea;
-        else
-            lineas.insert(Final_De(lineas, dentro), linea);
-    }
+    bool cambia = false;
+    for (const Entrada& entrada : entradas)
+        cambia = Poner(lineas, entrada) || cambia;
+    if (!cambia) return;
     QByteArray bytes;
     for (const QString& l : lineas)
         bytes += Ansi::A_Bytes(l) + "\r\n";

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 /// Private profile files (EstTotal.ini, Posicion.ini, Puertos.ini): sections, keys, Windows-1252,
@@ -15,5 +16,13 @@ QString Leer(const QString& fichero, const QString& seccion, const QString& clav
 /// @throws Error_Ejecucion 70, 75, 76 or 61 when the file can't be written; it then stays as it was
 void Escribir(const QString& fichero, const QString& seccion, const QString& clave,
               const QString& valor);
+
+/// One key to be written; a null `valor` removes it.
+struct Entrada {
+    QString seccion, clave, valor;
+};
+/// Writes or replaces several keys in their order, with one write of the file: all of them stand in
+/// it afterwards, or none. @throws Error_Ejecucion as `Escribir`
+void Escribir_Todas(const QString& fichero, const QList<Entrada>& entradas);
 
 } // namespace Perfil

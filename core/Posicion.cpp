@@ -6,10 +6,6 @@
 #include "core/ModEstTotal.h"
 #include "core/Perfil.h"
 
-#include <optional>
-#include <utility>
-#include <vector>
-
 namespace {
 
 constexpr int LARGO_VALOR = 50;
@@ -52,27 +48,24 @@ void Leer_Posicion(Posicion_Ventana& v, const QString& fichero, const QString& s
 void Guardar_Posicion(const Posicion_Ventana& v, const QString& fichero, const QString& seccion,
                       int modo)
 {
-    std::vector<std::pair<const char*, int>> valores{{"state", v.estado}};
+    QList<Perfil::Entrada> entradas;
+    const auto anadir = [&](const QString& clave, int valor) {
+        entradas << Perfil::Entrada{seccion, clave, QString::number(valor)};
+    };
+    anadir(QStringLiteral("state"), v.estado);
     if (v.estado == 0 && modo > 0) {
-        valores.emplace_back("top", v.top);
-        valores.emplace_back("left", v.left);
+        anadir(QStringLiteral("top"), v.top);
+        anadir(QStringLiteral("left"), v.left);
         if (modo > 1) {
-            valores.emplace_back("width", v.width);
-            valores.emplace_back("height", v.height);
+            anadir(QStringLiteral("width"), v.width);
+            anadir(QStringLiteral("height"), v.height);
         }
     }
-    std::optional<Error_Ejecucion> ultimo;
-    for (const auto& [clave, valor] : valores) {
-        ultimo.reset();
-        try {
-            Perfil::Escribir(fichero, seccion, QString::fromLatin1(clave), QString::number(valor));
-        } catch (const Error_Ejecucion& e) {
-            ultimo.emplace(e);
-        }
+    try {
+        Perfil::Escribir_Todas(fichero, entradas);
+    } catch (const Error_Ejecucion& e) {
+        Informar(QStringLiteral("Se produjo un error al escribir en el fichero "), fichero, e);
     }
-    if (ultimo)
-        Informar(QStringLiteral("Se produjo un error al escribir en el fichero "), fichero,
-                 *ultimo);
 }
 
 QString Fichero_Posicion()

@@ -1,5 +1,6 @@
 #include "export/Dialogo_Exportar.h"
 
+#include "core/Estado_Global.h"
 #include "core/ModEstTotal.h"
 #include "export/excel/Forma_Excel.h"
 #include "export/GuardarN.h"
@@ -28,8 +29,7 @@ constexpr int VERSION_INICIAL = 3;
 
 Peticiones_Exportar& Peticiones_De_Exportar()
 {
-    static Peticiones_Exportar peticiones;
-    return peticiones;
+    return Estado_Global::Unico<Peticiones_Exportar>();
 }
 
 Dialogo_Exportar::Dialogo_Exportar(const Trabajo_Exportar& t) : trabajo(t)
@@ -141,7 +141,9 @@ bool Dialogo_Exportar::Exportar(Avance_Exportar& avance)
     }
     const Salida_Exportar& salida = Elegida();
     if (salida.dialogo) {
-        if (const Abrir_Salida& abrir = salida.dialogo()) abrir(trabajo);
+        Trabajo_Exportar con_fichero = trabajo;
+        con_fichero.fichero = fichero;
+        if (const Abrir_Salida& abrir = salida.dialogo()) abrir(con_fichero);
         return false;
     }
     bool hecho = false;

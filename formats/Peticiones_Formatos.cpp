@@ -1,5 +1,6 @@
 #include "formats/Peticiones_Formatos.h"
 
+#include "core/Estado_Global.h"
 #include "core/Interfaz.h"
 
 namespace {
@@ -23,6 +24,5 @@ Peticiones_Formatos Iniciales()
 
 Peticiones_Formatos& Peticiones_De_Formatos()
 {
-    static Peticiones_Formatos peticiones = Iniciales();
-    return peticiones;
+    return Estado_Global::Unico(Iniciales);
 }

@@ -15,6 +15,7 @@ struct Trabajo_Exportar {
     QString maquina; ///< of the session
     int ope = 0;
     QString formato;
+    QString fichero = {}; ///< chosen for it in `FrmExportar`; empty before
 };
 
 /// The dialogs that the flows of the formats show, as questions: the windows, the command line and

@@ -1,5 +1,6 @@
 #include "core/ModEstTotal.h"
 #include "core/Sucesos.h"
+#include "core/Texto_SQL.h"
 #include "session/Decodificador.h"
 
 #include <algorithm>
@@ -12,11 +13,6 @@ namespace {
 constexpr qint64 MAX_DIGITOS = 32767;
 
 using Clave = std::pair<QString, QString>;
-
-QString Doblar(const QString& texto)
-{
-    return Reemplazar(texto, "'", "''");
-}
 
 Fila_Campo Leer_Fila(const Conjunto_Registros& campos)
 {

@@ -1,7 +1,8 @@
 #include "session/Peticiones_Sesion.h"
 
+#include "core/Estado_Global.h"
+
 Peticiones_Sesion& Peticiones_De_Sesion()
 {
-    static Peticiones_Sesion peticiones;
-    return peticiones;
+    return Estado_Global::Unico<Peticiones_Sesion>();
 }

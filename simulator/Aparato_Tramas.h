@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/krt300.md
+
 #include "simulator/Aparato.h"
 #include "simulator/Fallos.h"
 
@@ -38,7 +40,6 @@ private:
     void Enviar_Trama(int n);
     void Seguir_Envio(char c);
     void Siguiente();
-    void Acabar_Envio();
 
     void Cerrar_Trama();
     void Contestar_Bloque();

@@ -4,6 +4,7 @@ namespace {
 
 using simulador::Opciones;
 
+// A list of its own on purpose: the simulator shares nothing with the program that it tries out.
 const QStringList APARATOS{"KRT300", "PX7", "KRT800", "NV400"};
 
 struct Opcion {

@@ -1,5 +1,6 @@
 #include "transfer/Proceso_Recepcion.h"
 
+#include "core/Copias.h"
 #include "core/ModEstTotal.h"
 #include "core/ModLOG.h"
 #include "core/Sesiones.h"
@@ -38,7 +39,13 @@ Resultado_Recepcion Procesar_Recepcion(const Datos_Recepcion& datos)
     if (!serie) return {};
     std::optional<Resultado_Recepcion> resultado = serie->guardar(datos);
     if (!resultado) return {};
-    Compactar_BD();
+    // A library is no session: it leaves the database as large as it was.
+    if (Operacion(datos.operacion) == Operacion::Libreria) return *resultado;
+    // What a damaged database has taken may not be there the next time it is asked for.
+    if (Compactar_BD().Danada()) {
+        resultado->guardada = false;
+        Copias::Avisar_Base_Danada(QStringLiteral("Lo recibido se conserva"));
+    }
     if (resultado->guardada) Comprobar_Guardado(*resultado);
     Q_EMIT Sucesos::Unico().sesiones_cambiadas();
     return *resultado;

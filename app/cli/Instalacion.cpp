@@ -1,12 +1,15 @@
 #include "app/cli/Instalacion.h"
 
+#include "codes/Enlace_Librerias.h"
 #include "core/Configuracion.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 
 Instalacion::Instalacion(const Contexto& c) : contexto(c), interfaz(c)
 {
     Ruta_Aplicacion = QDir::cleanPath(QDir(c.dir).absolutePath());
     if (!Cargar_Configuracion(Ruta_Aplicacion)) throw Orden_Rechazada{};
+    Conectar_Librerias();
 }
 
 Instalacion::~Instalacion()
@@ -30,8 +33,11 @@ void Instalacion::Elegir_Modelo(const QString& nombre) const
 
 void Instalacion::Elegir_Maquina(const QString& clave) const
 {
-    if (!QStringList{"KRT300", "KRT800", "NV400", "PX7"}.contains(clave)) {
-        contexto.Mensaje("No existe la máquina " + clave + ": KRT300, KRT800, NV400 o PX7");
+    QStringList claves = Claves_Familias();
+    if (!claves.contains(clave)) {
+        const QString ultima = claves.takeLast();
+        contexto.Mensaje("No existe la máquina " + clave + ": " + claves.join(", ") + " o " +
+                         ultima);
         throw Orden_Rechazada{};
     }
     Clave_Estacion = clave;
@@ -41,7 +47,8 @@ Sesion_Elegida Instalacion::Elegir_Sesion(qint64 id) const
 {
     const auto sesion = Buscar_Sesion(*Base_Datos, id);
     if (!sesion) {
-        contexto.Mensaje(QStringLiteral("No existe la sesión %1 (véase miraldos-cli sesiones)").arg(id));
+        contexto.Mensaje(
+            QStringLiteral("No existe la sesión %1 (véase miraldos-cli sesiones)").arg(id));
         throw Orden_Rechazada{};
     }
     Clave_Estacion = sesion->maquina;
@@ -55,6 +62,8 @@ void Instalacion::Comprobar_Operacion(int ope, const QString& tipo_ope) const
     operaciones.Seek({Clave_Estacion, ope, tipo_ope});
     if (!operaciones.NoMatch()) return;
     contexto.Mensaje(QStringLiteral("El modelo %1 no ofrece la operación %2 (véase miraldos-cli "
-                                    "operaciones)").arg(Nombre_Estacion).arg(ope));
+                                    "operaciones)")
+                         .arg(Nombre_Estacion)
+                         .arg(ope));
     throw Orden_Rechazada{};
 }

@@ -15,13 +15,18 @@ public:
 
     /// Makes `nombre` the model in force. @throws Orden_Rechazada when there is no such model
     void Elegir_Modelo(const QString& nombre) const;
-    /// Makes `clave` the family in force. @throws Orden_Rechazada when it is none of the four
+    /// Makes `clave` the family in force. @throws Orden_Rechazada when there is no such family
     void Elegir_Maquina(const QString& clave) const;
     /// The session `id`, its family being in force from here on.
     /// @throws Orden_Rechazada when there is no such session
     Sesion_Elegida Elegir_Sesion(qint64 id) const;
     /// @throws Orden_Rechazada when the family in force doesn't offer the operation
     void Comprobar_Operacion(int ope, const QString& tipo_ope) const;
+    /// The order answers the file dialogs from here on.
+    void Contestar_Ficheros(Interfaz_Consola::Respuesta_Fichero respuesta)
+    {
+        interfaz.ficheros = std::move(respuesta);
+    }
 
 private:
     Contexto contexto;

@@ -1,4 +1,5 @@
 #include "app/cli/Instalacion.h"
+#include "app/cli/Opciones_Comunes.h"
 #include "app/cli/Ordenes_Export.h"
 #include "app/cli/Ordenes_Sesion.h"
 #include "core/ModEstTotal.h"
@@ -13,22 +14,9 @@ namespace {
 QStringList Palabras_Tipo()
 {
     QStringList palabras;
-    for (const Salida_Exportar* salida : Salidas_Por_Palabra()) palabras << salida->palabra;
+    for (const Salida_Exportar* salida : Salidas_Por_Palabra())
+        palabras << salida->palabra;
     return palabras;
-}
-
-QStringList Palabras_Separador()
-{
-    QStringList palabras;
-    for (const Fila_Separador& fila : Separadores()) palabras << fila.palabra;
-    return palabras;
-}
-
-// "a, b o c"
-QString Enumerar(QStringList palabras)
-{
-    const QString ultima = palabras.takeLast();
-    return palabras.isEmpty() ? ultima : palabras.join(", ") + " o " + ultima;
 }
 
 const Salida_Exportar& Salida_De_Palabra(const QString& palabra)
@@ -44,7 +32,7 @@ struct Pedido {
     const Salida_Exportar* salida;
     int separador;
     bool titulos;
-    std::optional<QStringList> desplazamiento;  // X, Y, Z as typed
+    std::optional<QStringList> desplazamiento; // X, Y, Z as typed
 };
 
 Pedido Leer_Pedido(const QStringList& palabras)
@@ -58,19 +46,9 @@ Pedido Leer_Pedido(const QStringList& palabras)
     p.fichero = a.Obligada("salida");
     p.titulos = a.Hay("titulos");
     p.salida = &Salida_De_Palabra(tipo);
-    const QString separador = a.Opcion("separador", Separadores().front().palabra);
-    p.separador = Indice_Separador(separador);
-    if (p.separador < 0)
-        throw Error_Uso{"El separador es " + Enumerar(Palabras_Separador()) + ": " + separador};
+    p.separador = Leer_Separador(a);
     if (p.fichero.isEmpty()) throw Error_Uso{"Falta el nombre del fichero de salida"};
-    if (a.Hay("desplazamiento")) {
-        p.desplazamiento = a.Opcion("desplazamiento").split(u',');
-        if (p.desplazamiento->size() != 3)
-            throw Error_Uso{"El desplazamiento se escribe X,Y,Z: " + a.Opcion("desplazamiento")};
-        for (const QString& eje : *p.desplazamiento)
-            if (Teclear_Desplazamiento(eje) != eje)
-                throw Error_Uso{"El desplazamiento \"" + eje + "\" no es un número con punto decimal"};
-    }
+    p.desplazamiento = Leer_Desplazamiento(a);
     return p;
 }
 
@@ -85,7 +63,8 @@ public:
                                                                  const QString& forma) {
             const QStringList& d = *pedido.desplazamiento;
             // A box that is disabled stays empty.
-            Poner_Desplazamientos(x ? d[0] : QString(), y ? d[1] : QString(), z ? d[2] : QString(), forma);
+            Poner_Desplazamientos(x ? d[0] : QString(), y ? d[1] : QString(), z ? d[2] : QString(),
+                                  forma);
             return true;
         };
         Peticiones_De_Formatos().Abrir_Exportar = [&](const Trabajo_Exportar& trabajo) {
@@ -140,8 +119,8 @@ int Orden_Exportar(const Contexto& c, const QStringList& palabras)
     if (!formato.Ver()) return RECHAZADO;
     const qsizetype indice = formato.nombres.indexOf(pedido.formato);
     if (indice < 0) {
-        c.Mensaje("No existe el formato " + pedido.formato + " para la sesión; los hay: " +
-                  formato.nombres.join(", "));
+        c.Mensaje("No existe el formato " + pedido.formato +
+                  " para la sesión; los hay: " + formato.nombres.join(", "));
         return RECHAZADO;
     }
     formato.Elegir(int(indice));

@@ -22,15 +22,16 @@ int Orden_Formato_Nuevo(const Contexto& c, const QStringList& palabras)
 
     Formato_Nuevo formato(maquina);
     formato.Crear();
-    formato.Elegir_Tipo(int(Buscar_Trozo(formato.tag_tipos, QString::number(ope), QChar(SEP_LISTA))) - 1);
+    formato.Elegir_Tipo(
+        int(Buscar_Trozo(formato.tag_tipos, QString::number(ope), QChar(SEP_LISTA))) - 1);
     formato.Escribir_Nombre(nombre);
     formato.cabeceras = a.Hay("titulos");
     for (QString& campo : campos) {
         campo = Basico::Trim(campo);
         const qsizetype lugar = formato.listas.disponibles.indexOf(campo);
         if (lugar < 0) {
-            c.Mensaje("El campo \"" + campo + "\" no está disponible; los hay: " +
-                      formato.listas.disponibles.join(", "));
+            c.Mensaje("El campo \"" + campo +
+                      "\" no está disponible; los hay: " + formato.listas.disponibles.join(", "));
             return RECHAZADO;
         }
         formato.listas.Agregar({int(lugar)});

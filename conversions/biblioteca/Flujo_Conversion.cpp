@@ -3,6 +3,7 @@
 #include "conversions/biblioteca/Fichero_Lista.h"
 #include "conversions/biblioteca/Peticiones_Conversion.h"
 #include "conversions/biblioteca/Tabla_Funciones.h"
+#include "core/Estado_Global.h"
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
 
@@ -27,8 +28,7 @@ QString Pedir(const Peticion_Fichero& peticion)
 
 Peticiones_Conversion& Peticiones_De_Conversion()
 {
-    static Peticiones_Conversion unicas;
-    return unicas;
+    return Estado_Global::Unico<Peticiones_Conversion>();
 }
 
 QStringList Tomar_Lista()
@@ -75,7 +75,7 @@ void Mostrar_Omisiones(const Informe_Lectura& informe)
 static QString Pedir_Destino_Puntos(const QString& origen)
 {
     for (;;) {
-        const QString destino = Pedir({.titulo = QStringLiteral("Fichero Destino"),
+        QString destino = Pedir({.titulo = QStringLiteral("Fichero Destino"),
                                        .filtro = QStringLiteral("Puntos KRT (*.krt)|*.krt"),
                                        .carpeta = {},
                                        .extension = QStringLiteral("krt"),

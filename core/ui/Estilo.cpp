@@ -41,5 +41,6 @@ void Aplicar_Estilo(QApplication& aplicacion)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(Colores());
     QApplication::styleHints()->setShowShortcutsInContextMenus(true);
-    QCoreApplication::installTranslator(new Traductor_Qt(&aplicacion));
+    QCoreApplication::installTranslator(new Traductor_Qt(
+        QCoreApplication::applicationDirPath() + QStringLiteral("/idioma"), &aplicacion));
 }

@@ -2,6 +2,9 @@
 
 #include "core/Ajustes_Modelo.h"
 #include "core/Ayuda.h"
+#include "core/Copias.h"
+#include "core/ui/Dialogos.h"
+#include "core/ui/FrmCopias.h"
 #include "core/ui/Piezas.h"
 
 #include <QCheckBox>
@@ -14,6 +17,19 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
+
+namespace {
+
+const QString VELOCIDADES = QStringLiteral("Combo1"), MODELO = QStringLiteral("Combo6");
+// It has a frame of its own on the first tab; the other check boxes fill the second.
+const QString FIJAR = QStringLiteral("Check1");
+
+bool Con_Combo(const Ajuste& fila)
+{
+    return std::holds_alternative<Ajuste_Texto>(fila.lugar) && *fila.control != 0;
+}
+
+} // namespace
 
 Frmutils::Frmutils() : Ventana(QStringLiteral("Frmutils"))
 {
@@ -35,28 +51,27 @@ Frmutils::Frmutils() : Ventana(QStringLiteral("Frmutils"))
     connect(btnAyuda, &QPushButton::clicked, this, [] { Mostrar_Ayuda_Web("config"); });
     Recordar_Posicion("CONFIGURACION", 1);
     Cargar();
-    connect(Combo6, &QComboBox::currentIndexChanged, this, &Frmutils::Combo6_Click);
+    connect(combos[MODELO], &QComboBox::currentIndexChanged, this, &Frmutils::Combo6_Click);
 }
 
 QWidget* Frmutils::Hacer_Comunicaciones()
 {
     QGroupBox* const fraConnection = Piezas::Grupo("Preferencias de la conexión", "fraConnection");
     auto* const datos = new QFormLayout(fraConnection);
-    datos->addRow("Puerto:", Combo5 = Piezas::Combo("Combo5"));
-    datos->addRow("Velocidad:", Combo1 = Piezas::Combo("Combo1"));
-    datos->addRow("Bits de datos:", Combo2 = Piezas::Combo("Combo2"));
-    datos->addRow("Paridad:", Combo3 = Piezas::Combo("Combo3"));
-    datos->addRow("Bits de parada:", Combo4 = Piezas::Combo("Combo4"));
-    datos->addRow("Modelo:", Combo6 = Piezas::Combo("Combo6"));
-    for (QComboBox* const combo : {Combo1, Combo2, Combo3, Combo4, Combo5, Combo6})
-        combo->setMinimumWidth(150);
+    for (const Ajuste& fila : Tabla_Ajustes()) {
+        if (!Con_Combo(fila)) continue;
+        const QString nombre = QString::fromLatin1(fila.control);
+        combos[nombre] = Piezas::Combo(nombre);
+        combos[nombre]->setMinimumWidth(150);
+        datos->addRow(QString::fromUtf16(fila.rotulo), combos[nombre]);
+    }
 
     QGroupBox* const fijar = Piezas::Grupo(" Fijar Modelo Estación ", "Frame2");
     auto* const fila = new QHBoxLayout(fijar);
-    Check1 = Piezas::Casilla("Check1", {});
-    Check1->setAccessibleName("Fijar Modelo");
+    casillas[FIJAR] = Piezas::Casilla(FIJAR, {});
+    casillas[FIJAR]->setAccessibleName("Fijar Modelo");
     fila->addWidget(Piezas::Rotulo("Fijar Modelo", "LblFijar"));
-    fila->addWidget(Check1);
+    fila->addWidget(casillas[FIJAR]);
     fila->addStretch();
 
     Animation1 = Piezas::Imagen("Animation1", 96, 96);
@@ -75,19 +90,30 @@ QWidget* Frmutils::Hacer_Opciones()
 {
     auto* const pagina = new QWidget;
     auto* const caja = new QVBoxLayout(pagina);
-    caja->addWidget(Check2 = Piezas::Casilla("Check2", " Mostrar ayuda en Cargas y Descargas"));
-    caja->addWidget(
-        Check3 = Piezas::Casilla("Check3", " Mostrar Recordatorio de configuración del Puerto"));
-    caja->addWidget(Check4 = Piezas::Casilla(
-                        "Check4", "Mostrar Diálogo de Entrada de Desplazamientos en Cargas"));
-    caja->addWidget(
-        Check5 = Piezas::Casilla("Check5",
-                                 "Mostrar Diálogo de Entrada de Desplazamientos en Exportaciones"));
-    caja->addWidget(
-        Check6 = Piezas::Casilla(
-            "Check6", "Incluir cabeceras y resúmenes de los trabajos del nivel digital NV400"));
+    for (const Ajuste& fila : Tabla_Ajustes()) {
+        const QString nombre = QString::fromLatin1(fila.control);
+        if (!std::holds_alternative<Ajuste_Marca>(fila.lugar) || nombre == FIJAR) continue;
+        casillas[nombre] = Piezas::Casilla(nombre, QString::fromUtf16(fila.rotulo));
+        caja->addWidget(casillas[nombre]);
+    }
     caja->addStretch();
+    caja->addWidget(Hacer_Base());
     return pagina;
+}
+
+QWidget* Frmutils::Hacer_Base()
+{
+    QGroupBox* const grupo = Piezas::Grupo("Base de datos", "FrameBase");
+    QLabel* const lugar = Piezas::Rotulo(Lugar_De_La_Base(), "LblBase");
+    lugar->setWordWrap(true);
+    lugar->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QPushButton* const BtnRecuperar = Piezas::Boton("BtnRecuperar", "&Recuperar de la copia...");
+    auto* const caja = new QVBoxLayout(grupo);
+    caja->addWidget(lugar);
+    caja->addWidget(BtnRecuperar, 0, Qt::AlignRight);
+    connect(BtnRecuperar, &QPushButton::clicked, this,
+            [] { Dialogos::Unico<FrmCopias>().Mostrar_Modal(); });
+    return grupo;
 }
 
 void Frmutils::Pestana(int indice)
@@ -104,20 +130,13 @@ void Frmutils::Llenar(QComboBox& combo, const Combo_Ajustes& ajustes)
 
 void Frmutils::Cargar()
 {
-    const Carga_Frmutils carga = Cargar_Frmutils();
-    Llenar(*Combo5, carga.puerto);
-    Llenar(*Combo2, carga.bits);
-    Llenar(*Combo3, carga.paridad);
-    Llenar(*Combo4, carga.parada);
-    Llenar(*Combo1, carga.velocidad);
-    Llenar(*Combo6, carga.modelo);
-    Combo6->setProperty("Tag", carga.claves);
-    Check1->setChecked(carga.fijo);
-    Check2->setChecked(carga.ayuda);
-    Check3->setChecked(carga.recuerde);
-    Check4->setChecked(carga.cargas);
-    Check5->setChecked(carga.exportar);
-    Check6->setChecked(carga.cabeceras);
+    Carga_Frmutils carga = Cargar_Frmutils();
+    for (const auto& [nombre, combo] : combos)
+        Llenar(*combo, carga.combos[nombre]);
+    combos[MODELO]->setProperty("Tag", carga.claves);
+    for (const Ajuste& fila : Tabla_Ajustes())
+        if (const auto* const marca = std::get_if<Ajuste_Marca>(&fila.lugar))
+            casillas[QString::fromLatin1(fila.control)]->setChecked(carga.casillas.*marca->valor);
     if (!carga.animacion.isEmpty()) {
         auto* const pelicula = new QMovie(carga.animacion, {}, Animation1);
         Animation1->setMovie(pelicula);
@@ -127,30 +146,26 @@ void Frmutils::Cargar()
 
 void Frmutils::Cargar_Combo1(const QString& lista)
 {
-    Llenar(*Combo1, Lista_Velocidades(lista));
+    Llenar(*combos[VELOCIDADES], Lista_Velocidades(lista));
 }
 
 void Frmutils::Combo6_Click()
 {
-    if (const auto velocidades = Elegir_Modelo(Combo6->currentText()))
-        Llenar(*Combo1, *velocidades);
+    if (const auto velocidades = Elegir_Modelo(combos[MODELO]->currentText()))
+        Llenar(*combos[VELOCIDADES], *velocidades);
 }
 
 void Frmutils::Command2_Click()
 {
     Ajustes ajustes;
-    ajustes.puerto = Combo5->currentText();
-    ajustes.velocidad = Combo1->currentText();
-    ajustes.bits = Combo2->currentText();
-    ajustes.paridad = Combo3->currentText();
-    ajustes.parada = Combo4->currentText();
-    ajustes.nombre = Combo6->currentText();
-    ajustes.fijo = Check1->isChecked();
-    ajustes.ayuda = Check2->isChecked();
-    ajustes.recuerde = Check3->isChecked();
-    ajustes.cargas = Check4->isChecked();
-    ajustes.exportar = Check5->isChecked();
-    ajustes.cabeceras = Check6->isChecked();
-    Aceptar_Frmutils(ajustes, Combo6->property("Tag").toString(), Combo6->currentIndex());
+    for (const Ajuste& fila : Tabla_Ajustes()) {
+        const QString nombre = QString::fromLatin1(fila.control);
+        if (const auto* const marca = std::get_if<Ajuste_Marca>(&fila.lugar))
+            ajustes.*marca->valor = casillas[nombre]->isChecked();
+        else if (Con_Combo(fila))
+            ajustes.*std::get<Ajuste_Texto>(fila.lugar).valor = combos[nombre]->currentText();
+    }
+    const QComboBox& modelo = *combos[MODELO];
+    Aceptar_Frmutils(ajustes, modelo.property("Tag").toString(), modelo.currentIndex());
     Descargar();
 }

@@ -2,6 +2,8 @@
 
 #include "core/ui/Ventana.h"
 
+#include <map>
+
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -22,13 +24,15 @@ public:
 private:
     QWidget* Hacer_Comunicaciones();
     QWidget* Hacer_Opciones();
+    QWidget* Hacer_Base();
     void Cargar();
     static void Llenar(QComboBox& combo, const Combo_Ajustes& ajustes);
     void Combo6_Click();
     void Command2_Click();
 
     QTabWidget* SSTab1;
-    QComboBox *Combo1, *Combo2, *Combo3, *Combo4, *Combo5, *Combo6;
-    QCheckBox *Check1, *Check2, *Check3, *Check4, *Check5, *Check6;
+    // By their names, those of the table of settings.
+    std::map<QString, QComboBox*> combos;
+    std::map<QString, QCheckBox*> casillas;
     QLabel* Animation1;
 };

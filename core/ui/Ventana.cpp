@@ -170,8 +170,11 @@ void Ventana::closeEvent(QCloseEvent* evento)
 {
     evento->accept();
     if (descargada) return;
+    const QPointer<Ventana> aqui(this);
+    const bool se_queda = isVisible() && !Consiente_Cerrar();
+    if (se_queda) evento->ignore();
+    if (se_queda || !aqui || descargada) return;
     descargada = true;
-    Q_EMIT descargandose();
     Al_Descargar();
     if (!seccion_posicion.isEmpty() && situada)
         Guardar_Posicion_Ventana(*Marco(), seccion_posicion, modo_posicion);

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/textos.md
+
 #include "export/Tarea_Exportar.h"
 
 // The writers of text files; their options are of the form `Opciones_Texto`.

@@ -10,11 +10,6 @@ namespace {
 
 constexpr qsizetype TRAMO = 64 * 1024;
 
-Error_Ejecucion Error_De_Nombre(int numero, const QString& ruta)
-{
-    return Error_Ejecucion(numero, Descripcion_Error(numero) + ": " + ruta);
-}
-
 // Blank, or with a wild card or a control character in it: never the name of a file.
 bool Es_Nombre(const QString& ruta)
 {
@@ -26,10 +21,10 @@ bool Es_Nombre(const QString& ruta)
 
 Fichero_Texto::Fichero_Texto(const QString& ruta) : fichero(ruta)
 {
-    if (!Es_Nombre(ruta)) throw Error_De_Nombre(53, ruta);
+    if (!Es_Nombre(ruta)) throw Error_Ejecucion::Con(53, ruta);
     const QFileInfo donde(ruta);
-    if (donde.isDir()) throw Error_De_Nombre(75, ruta);
-    if (!donde.absoluteDir().exists()) throw Error_De_Nombre(76, ruta);
+    if (donde.isDir()) throw Error_Ejecucion::Con(75, ruta);
+    if (!donde.absoluteDir().exists()) throw Error_Ejecucion::Con(76, ruta);
     if (!fichero.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw Ficheros::Error_De(fichero);
     pendiente.reserve(TRAMO + 1024);
@@ -50,6 +45,16 @@ void Fichero_Texto::Linea(QStringView texto)
 void Fichero_Texto::Agregar(QStringView texto)
 {
     Ansi::Agregar_Bytes(pendiente, texto);
+}
+
+void Fichero_Texto::Agregar_Bytes(QByteArrayView bytes)
+{
+    pendiente.append(bytes.data(), bytes.size());
+}
+
+void Fichero_Texto::Agregar_Blancos(qsizetype cuantos)
+{
+    if (cuantos > 0) pendiente.append(cuantos, ' ');
 }
 
 void Fichero_Texto::Fin_De_Linea()

@@ -5,11 +5,17 @@
 
 namespace {
 
-template <typename T>
-T Tomar(std::deque<T>& cola, const QString& que, const T& si_falta)
+// Outside a test function there is nothing to fail but the program.
+void Fallar(const QString& motivo)
+{
+    if (!QTest::currentTestFunction()) qFatal("%s", qPrintable(motivo));
+    QTest::qFail(qPrintable(motivo), __FILE__, __LINE__);
+}
+
+template <typename T> T Tomar(std::deque<T>& cola, const QString& que, const T& si_falta)
 {
     if (cola.empty()) {
-        QTest::qFail(qPrintable(QStringLiteral("No answer was queued for: ") + que), __FILE__, __LINE__);
+        Fallar("No answer was queued for: " + que);
         return si_falta;
     }
     T respuesta = cola.front();
@@ -27,19 +33,40 @@ Interfaz_Guion::Interfaz_Guion() : anterior(Poner_Interfaz(this))
 Interfaz_Guion::~Interfaz_Guion()
 {
     Poner_Interfaz(anterior);
+    // A test that has failed already left its script where it stood.
+    if (QTest::currentTestFailed()) return;
+    const QStringList sin_mirar = avisos.Sin_Mirar();
+    if (!sin_mirar.isEmpty())
+        Fallar("Boxes that the test did not expect: " + sin_mirar.join(" | "));
+    const std::size_t sobran = respuestas.size() + textos.size() + ficheros.size();
+    if (sobran > 0)
+        Fallar(QStringLiteral("Answers that nobody asked for: %1 to questions, %2 texts, %3 files")
+                   .arg(respuestas.size())
+                   .arg(textos.size())
+                   .arg(ficheros.size()));
+}
+
+QStringList Interfaz_Guion::Lista_Avisos::Sin_Mirar() const
+{
+    QStringList textos;
+    for (const Aviso& aviso : lista.mid(std::min(miradas, lista.size())))
+        textos << aviso.texto;
+    return textos;
 }
 
 QStringList Interfaz_Guion::Textos() const
 {
     QStringList lista;
-    for (const Aviso& a : avisos) lista << a.texto;
+    for (const Aviso& a : avisos)
+        lista << a.texto;
     return lista;
 }
 
 void Interfaz_Guion::Mensaje(const QString& texto, Icono icono, const QString& titulo)
 {
-    avisos.append({texto, icono, titulo});
-    if (al_avisar) al_avisar(avisos.last());
+    const Aviso aviso{texto, icono, titulo};
+    avisos.append(aviso);
+    if (al_avisar) al_avisar(aviso);
 }
 
 bool Interfaz_Guion::Preguntar(const QString& texto, Icono icono, const QString& titulo)
@@ -58,7 +85,8 @@ std::optional<QString> Interfaz_Guion::Pedir_Texto(const QString& titulo, const 
 std::optional<Fichero_Elegido> Interfaz_Guion::Pedir_Fichero(const Peticion_Fichero& peticion)
 {
     peticiones << peticion;
-    if (ficheros.empty()) throw std::runtime_error("no file queued");  // an asking loop would never end
+    if (ficheros.empty())
+        throw std::runtime_error("no file queued"); // an asking loop would never end
     return Tomar(ficheros, peticion.titulo, std::optional<Fichero_Elegido>());
 }
 

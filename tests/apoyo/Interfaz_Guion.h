@@ -2,14 +2,14 @@
 
 #include "core/Interfaz.h"
 
-#include <QList>
-#include <QString>
 #include <deque>
 #include <functional>
+#include <QList>
+#include <QString>
 
-/// The scripted interface: every call is recorded, answers are queued beforehand, and a call without
-/// an answer fails the test.
-/// Puts itself in use while it lives.
+/// The scripted interface: every call is recorded, answers are queued beforehand, and a call
+/// without an answer fails the test; so does, at its end, an answer that nobody asked for or a box
+/// that the test never looked at. Puts itself in use while it lives.
 class Interfaz_Guion : public Interfaz {
 public:
     Interfaz_Guion();
@@ -20,9 +20,42 @@ public:
         Icono icono = Icono::Ninguno;
         QString titulo;
     };
-    /// Message boxes and questions shown, in order. A test that ends with boxes it never looked at
-    /// should compare this list with an empty one.
-    QList<Aviso> avisos;
+    /// Boxes in order. Whoever asks for any of them, or for their number, has looked at all that
+    /// there are by then.
+    class Lista_Avisos {
+    public:
+        void append(const Aviso& aviso) { lista.append(aviso); }
+        void clear()
+        {
+            lista.clear();
+            miradas = 0;
+        }
+        qsizetype size() const { return Mirar().size(); }
+        bool isEmpty() const { return Mirar().isEmpty(); }
+        const Aviso& operator[](qsizetype i) const { return Mirar()[i]; }
+        const Aviso& at(qsizetype i) const { return Mirar().at(i); }
+        Aviso value(qsizetype i) const { return Mirar().value(i); }
+        const Aviso& first() const { return Mirar().constFirst(); }
+        const Aviso& last() const { return Mirar().constLast(); }
+        const Aviso& constFirst() const { return first(); }
+        const Aviso& constLast() const { return last(); }
+        QList<Aviso> mid(qsizetype desde) const { return Mirar().mid(desde); }
+        auto begin() const { return Mirar().constBegin(); }
+        auto end() const { return Mirar().constEnd(); }
+        /// Texts of the boxes that nobody has looked at.
+        QStringList Sin_Mirar() const;
+
+    private:
+        const QList<Aviso>& Mirar() const
+        {
+            miradas = lista.size();
+            return lista;
+        }
+        QList<Aviso> lista;
+        mutable qsizetype miradas = 0;
+    };
+    /// Message boxes and questions shown.
+    Lista_Avisos avisos;
     /// The texts alone.
     QStringList Textos() const;
 
@@ -32,17 +65,17 @@ public:
     std::deque<std::optional<Fichero_Elegido>> ficheros;
     /// What was asked.
     QList<Peticion_Fichero> peticiones;
-    QStringList preguntas_texto;  ///< "título|texto|inicial"
+    QStringList preguntas_texto; ///< "título|texto|inicial"
 
     int pitidos = 0;
-    int cursor = 0;            ///< busy cursors open
+    int cursor = 0; ///< busy cursors open
     int repintados = 0, pasos = 0;
-    QStringList procesos;      ///< labels that FrmProc showed
+    QStringList procesos; ///< labels that FrmProc showed
     qint64 proceso_valor = 0, proceso_maximo = 0;
     int procesos_abiertos = 0;
-    QStringList arrancados;    ///< programs started, arguments behind a "|"
-    QStringList vistos;        ///< files opened in the text viewer
-    QList<int> terminado;      ///< statuses of Terminar
+    QStringList arrancados; ///< programs started, arguments behind a "|"
+    QStringList vistos;     ///< files opened in the text viewer
+    QList<int> terminado;   ///< statuses of Terminar
     /// Runs at every `Dejar_Pasar` and `Proceso_Avanzar`: a test cancels or re-enters from here.
     std::function<void()> al_pasar;
     /// Runs at every message box, while it "stands".

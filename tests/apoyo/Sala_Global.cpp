@@ -1,6 +1,7 @@
 #include "tests/apoyo/Sala_Global.h"
 
 #include "core/Ayuda.h"
+#include "core/Estado_Global.h"
 #include "core/ModEstTotal.h"
 
 template <class T> void Sala_Global::Guardar(T& global, T inicial)
@@ -23,10 +24,17 @@ Sala_Global::Sala_Global()
     Guardar(Base_Datos, Base_Global());
     Guardar(datosexport, QStringList(QList<QString>(MAX_IDS)));
     Guardar(Paso_Ayuda, 1);
+    for (const Estado_Global::Pieza& pieza : Estado_Global::Piezas())
+        devolver.push_back(pieza.recordar());
+    conocidas = Estado_Global::Piezas().size();
 }
 
 Sala_Global::~Sala_Global()
 {
     for (auto it = devolver.rbegin(); it != devolver.rend(); ++it)
         (*it)();
+    // What was used for the first time meanwhile has no former value.
+    const auto& piezas = Estado_Global::Piezas();
+    for (std::size_t i = conocidas; i < piezas.size(); ++i)
+        piezas[i].reiniciar();
 }

@@ -1,3 +1,4 @@
+#include "core/Familia.h"
 #include "tests/apoyo/Instrumentos.h"
 #include "tests/apoyo/Prueba.h"
 #include "tests/app/Correr.h"
@@ -80,7 +81,7 @@ void TestFilasNuevas::un_modelo_y_una_clase_entran_por_filas()
     QVERIFY(!Orden(p, {"ver", "1", "--campos"}).texto.contains("Temperatura"));
 
     p.Fila("KRT", {{"Nombre", "TERMO-9"}, {"Clave", maquina}, {"VelPuerto", "9600"}});
-    if (maquina == u"KRT300" || maquina == u"PX7")
+    if (Familia_De(maquina).serie == Serie::A)
         Poner_Registro(p, maquina, {ope}, id, "Temperatura", "C",
                        {{"Temperatura", 5, "3,1", ".", "0.0"}, {"Sonda", 4}});
     else

@@ -66,39 +66,42 @@ void TestAjustes_Modelo::cleanup()
 
 void TestAjustes_Modelo::la_carga_llena_cada_lista()
 {
-    const Carga_Frmutils c = Cargar_Frmutils();
+    Carga_Frmutils c = Cargar_Frmutils();
     QVERIFY(interfaz->avisos.isEmpty());
-    QCOMPARE((QStringList{c.puerto.texto, c.velocidad.texto, c.bits.texto, c.paridad.texto,
-                          c.parada.texto, c.modelo.texto}),
-             (QStringList{"COM3", "9600", "8", "None", "1", "KRT305"}));
-    QCOMPARE(c.puerto.lista, Lista_Puertos());
-    QCOMPARE(c.modelo.lista, (QStringList{"KRT305", "NV410", "PX7-2"}));
+    QCOMPARE(
+        (QStringList{c.combos["Combo5"].texto, c.combos["Combo1"].texto, c.combos["Combo2"].texto,
+                     c.combos["Combo3"].texto, c.combos["Combo4"].texto, c.combos["Combo6"].texto}),
+        (QStringList{"COM3", "9600", "8", "None", "1", "KRT305"}));
+    QCOMPARE(c.combos["Combo5"].lista, Lista_Puertos());
+    QCOMPARE(c.combos["Combo6"].lista, (QStringList{"KRT305", "NV410", "PX7-2"}));
     QCOMPARE(c.claves, QStringLiteral("KRT300\u0006NV400\u0006PX7"));
-    QVERIFY(c.fijo && c.ayuda && c.exportar && !c.recuerde && !c.cargas && !c.cabeceras);
+    QVERIFY(c.casillas.fijo && c.casillas.ayuda && c.casillas.exportar && !c.casillas.recuerde &&
+            !c.casillas.cargas && !c.casillas.cabeceras);
     QCOMPARE(c.animacion, p->Ruta("bmp/verifica.gif"));
 }
 
 void TestAjustes_Modelo::un_modelo_sin_fila_acaba_la_carga()
 {
     Nombre_Estacion = "Otro";
-    const Carga_Frmutils c = Cargar_Frmutils();
+    Carga_Frmutils c = Cargar_Frmutils();
     QCOMPARE(interfaz->Textos(),
              QStringList{"Se ha encontrado en el fichero ini una máquina no definida"});
     QCOMPARE(interfaz->avisos[0].icono, Icono::Critico);
-    QCOMPARE(c.modelo.texto, QStringLiteral("KRT305"));
-    QVERIFY(c.fijo);
-    QVERIFY(!c.ayuda && !c.exportar);
+    QCOMPARE(c.combos["Combo6"].texto, QStringLiteral("KRT305"));
+    QVERIFY(c.casillas.fijo);
+    QVERIFY(!c.casillas.ayuda && !c.casillas.exportar);
     QCOMPARE(c.animacion, QString());
 }
 
 void TestAjustes_Modelo::aceptar_tras_un_modelo_sin_fila_guarda_no()
 {
     Nombre_Estacion = "Otro";
-    const Carga_Frmutils c = Cargar_Frmutils();
+    Carga_Frmutils c = Cargar_Frmutils();
+    QCOMPARE(interfaz->avisos.size(), 1);
     Ajustes a;
-    a.nombre = c.modelo.texto;
-    a.ayuda = c.ayuda;
-    a.exportar = c.exportar;
+    a.nombre = c.combos["Combo6"].texto;
+    a.ayuda = c.casillas.ayuda;
+    a.exportar = c.casillas.exportar;
     QVERIFY(Aceptar_Frmutils(a, c.claves, 0));
     const QByteArray ini = p->Leer("EstTotal.ini");
     QVERIFY(ini.contains("Visible=NO\r\n") && ini.contains("Exportar=NO\r\n"));
@@ -121,17 +124,18 @@ void TestAjustes_Modelo::un_valor_fuera_de_su_lista_acaba_la_carga()
     QFETCH(int, llenas);
     QString* const globales[] = {&Puerto, &Bits_Datos, &Paridad, &Bits_Parada};
     *globales[cual] = "even";
-    const Carga_Frmutils c = Cargar_Frmutils();
+    Carga_Frmutils c = Cargar_Frmutils();
     QCOMPARE(
         interfaz->Textos(),
         QStringList{"Se produjo un error al leer el fichero de inicialización\rProbablemente el "
                     "fichero tenga un formato incorrecto o haya sido manipulado"});
-    const Combo_Ajustes* const combos[] = {&c.puerto, &c.bits, &c.paridad, &c.parada};
+    const Combo_Ajustes* const combos[] = {&c.combos["Combo5"], &c.combos["Combo2"],
+                                           &c.combos["Combo3"], &c.combos["Combo4"]};
     for (int i = 0; i < 4; ++i)
         QCOMPARE(combos[i]->lista.isEmpty(), i >= llenas);
     QCOMPARE(combos[cual]->texto, QString());
-    QVERIFY(c.modelo.lista.isEmpty());
-    QVERIFY(!c.fijo && !c.ayuda);
+    QVERIFY(c.combos["Combo6"].lista.isEmpty());
+    QVERIFY(!c.casillas.fijo && !c.casillas.ayuda);
 }
 
 void TestAjustes_Modelo::sin_modelos_se_informa_del_ini()
@@ -178,7 +182,7 @@ void TestAjustes_Modelo::aceptar_toma_la_clave_por_su_lugar()
 {
     const QSignalSpy cambiado(&Sucesos::Unico(), &Sucesos::modelo_cambiado);
     const QSignalSpy guardados(&Sucesos::Unico(), &Sucesos::ajustes_guardados);
-    const Carga_Frmutils c = Cargar_Frmutils();
+    Carga_Frmutils c = Cargar_Frmutils();
     Ajustes a = Ajustes_Actuales();
     a.nombre = "PX7-2";
     a.fijo = false;
@@ -194,10 +198,10 @@ void TestAjustes_Modelo::aceptar_toma_la_clave_por_su_lugar()
 
 void TestAjustes_Modelo::el_segundo_com10_guarda_com10()
 {
-    const Carga_Frmutils c = Cargar_Frmutils();
+    Carga_Frmutils c = Cargar_Frmutils();
     for (const int lugar : {9, 10}) {
         Ajustes a = Ajustes_Actuales();
-        a.puerto = c.puerto.lista[lugar];
+        a.puerto = c.combos["Combo5"].lista[lugar];
         QVERIFY(Aceptar_Frmutils(a, c.claves, 0));
         QVERIFY(p->Leer("EstTotal.ini").contains("PORT=COM10\r\n"));
         QCOMPARE(Numero_Puerto(Puerto), 0);

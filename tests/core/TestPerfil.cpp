@@ -21,6 +21,8 @@ private Q_SLOTS:
     void quitar_una_clave();
     void un_salto_de_linea_no_hace_otra_clave();
     void los_acentos_van_en_su_pagina();
+    void varias_claves_de_una_vez();
+    void varias_claves_o_ninguna();
     void no_se_escribe_sin_permiso();
 
     void sin_seccion_la_ventana_queda_donde_esta();
@@ -160,6 +162,38 @@ void TestPerfil::los_acentos_van_en_su_pagina()
     QCOMPARE(p->Leer("x.ini"), QByteArray("[A]\r\nk=Se\xF1"
                                           "al \x80\r\n"));
     QCOMPARE(Perfil::Leer(p->Ruta("x.ini"), "A", "k", ""), QString::fromUtf8("Señal €"));
+}
+
+void TestPerfil::varias_claves_de_una_vez()
+{
+    p->Escribir("P.ini", "; nota\r\n[A]\r\nuno=1\r\nfuera=9\r\n[B]\r\ndos=2\r\n");
+    Perfil::Escribir_Todas(p->Ruta("P.ini"), {{"b", "dos", "22"},
+                                              {"C", "tres", "3"},
+                                              {"A", "fuera", QString()},
+                                              {"A", "otra", QString()},
+                                              {"C", "cuatro", ""},
+                                              {"A", "uno", "11"},
+                                              {"C", "tres", "33"}});
+    QCOMPARE(p->Leer("P.ini"), QByteArray("; nota\r\n[A]\r\nuno=11\r\n[B]\r\ndos=22\r\n[C]\r\n"
+                                          "tres=33\r\ncuatro=\r\n"));
+    // Nothing to take out: the file is not even touched.
+    Perfil::Escribir_Todas(p->Ruta("Q.ini"), {{"A", "uno", QString()}, {"B", "dos", QString()}});
+    Perfil::Escribir_Todas(p->Ruta("Q.ini"), {});
+    QVERIFY(!QFile::exists(p->Ruta("Q.ini")));
+}
+
+void TestPerfil::varias_claves_o_ninguna()
+{
+    p->Escribir("P.ini", "[A]\r\nuno=1\r\n");
+    {
+        const Sin_Privilegios s(Ruta_Aplicacion);
+        QCOMPARE(
+            Numero_De_Error([&] {
+                Perfil::Escribir_Todas(p->Ruta("P.ini"), {{"A", "uno", "2"}, {"A", "dos", "2"}});
+            }),
+            70);
+    }
+    QCOMPARE(p->Leer("P.ini"), QByteArray("[A]\r\nuno=1\r\n"));
 }
 
 void TestPerfil::no_se_escribe_sin_permiso()

@@ -134,6 +134,7 @@ void TestDialogoExportar::el_fichero_se_pide_hasta_que_vale()
     guion.respuestas = {true};
     d.Elegir_Fichero();
     QCOMPARE(d.fichero, p.Ruta("ficheros/hay.txt"));
+    QCOMPARE(guion.avisos.size(), 2);
     guion.ficheros = {std::nullopt};
     d.Elegir_Fichero();
     QCOMPARE(d.fichero, p.Ruta("ficheros/hay.txt"));

@@ -548,6 +548,7 @@ void TestDialogosFormatos::el_mantenimiento_elimina_tambien_lo_bloqueado()
     QVERIFY(m.listas.elegidos.isEmpty() && m.listas.disponibles.isEmpty() &&
             m.descripcion.isEmpty());
     QCOMPARE(m.nombres, (QStringList{"CODIGOS", "RAROS"}));
+    QCOMPARE(e.guion.Textos(), QStringList(2, "¿ Desea Eliminar el Formato ?"));
 }
 
 void TestDialogosFormatos::el_mantenimiento_hace_uno_nuevo()

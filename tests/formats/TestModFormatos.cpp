@@ -388,6 +388,7 @@ void TestModFormatos::un_apostrofo_en_el_nombre_rompe_la_sentencia()
     QVERIFY_THROWS_EXCEPTION(Error_Ejecucion,
                              Eliminar_Formato(*Base_Datos, "KRT300", "x' OR '1'='1"));
     QCOMPARE(Guardado(p).size(), 3);
+    QCOMPARE(guion.Textos(), QStringList(2, "¿ Desea Eliminar el Formato ?"));
 }
 
 void TestModFormatos::las_listas_no_repiten_nombres()

@@ -1,13 +1,9 @@
 #pragma once
 
+#include "core/Familia.h"
 #include "tools/base/Tablas.h"
 
 #include <QSet>
-
-/// The families that the program knows how to talk to.
-const QStringList& Familias();
-/// Those whose records are cut by fixed columns.
-bool Es_De_Columnas(const QString& familia);
 
 /// Checks of the whole set, one group a subject. Each adds the faults that it finds and goes on.
 /// `datos` is the folder that becomes the install directory; pictures are looked for in its

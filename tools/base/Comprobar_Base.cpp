@@ -3,17 +3,6 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
-const QStringList& Familias()
-{
-    static const QStringList lista{"KRT300", "PX7", "KRT800", "NV400"};
-    return lista;
-}
-
-bool Es_De_Columnas(const QString& familia)
-{
-    return familia == QLatin1String("KRT300") || familia == QLatin1String("PX7");
-}
-
 QString Familia_De(const Juego& juego, const QString& modelo)
 {
     const Tabla& krt = juego.at("KRT");
@@ -63,7 +52,7 @@ const QStringList& Velocidades()
 
 QString Motivo_Modelo(const Tabla& krt, qsizetype i, const QString& datos)
 {
-    if (!Familias().contains(krt.Celda(i, "Clave")))
+    if (!Claves_Familias().contains(krt.Celda(i, "Clave")))
         return QStringLiteral("familia desconocida \"%1\"").arg(krt.Celda(i, "Clave"));
     for (const QString& v : krt.Celda(i, "VelPuerto").split(','))
         if (!Velocidades().contains(v))
@@ -82,7 +71,7 @@ QString Motivo_Operacion(const Juego& juego, qsizetype i, const QSet<int>& descr
                          const QSet<QString>& tipos)
 {
     const Tabla& krt2 = juego.at("KRT2");
-    if (!Familias().contains(krt2.Celda(i, "Nombre")))
+    if (!Claves_Familias().contains(krt2.Celda(i, "Nombre")))
         return QStringLiteral("familia desconocida \"%1\"").arg(krt2.Celda(i, "Nombre"));
     if (!descritas.contains(krt2.Numero(i, "OPE")))
         return QStringLiteral("la operación %1 no tiene descripción en OPE")
@@ -107,7 +96,7 @@ void Comprobar_Modelos(const Juego& juego, const QString& datos, QList<Falta>& f
         if (const QString m = Motivo_Modelo(krt, i, datos); !m.isEmpty())
             faltas << krt.Falta_En(i, m);
     }
-    for (const QString& f : Familias())
+    for (const QString& f : Claves_Familias())
         if (!presentes.contains(f))
             faltas << Falta{krt.Fichero(), 0,
                             QStringLiteral("la familia %1 no tiene modelos").arg(f)};

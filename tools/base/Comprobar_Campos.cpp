@@ -10,8 +10,19 @@ constexpr int ULTIMO_LUGAR_NIVEL = 28; // fields of a level line that an export 
 
 bool Es_Nivel(const QString& familia)
 {
-    return familia == QLatin1String("NV400");
+    return Familia_De(familia).serie == Serie::Nivel;
 }
+
+bool Es_De_Columnas(const QString& familia)
+{
+    return Familia_De(familia).serie == Serie::A;
+}
+
+bool Es_De_Palabras(const QString& familia)
+{
+    return Familia_De(familia).serie == Serie::B;
+}
+
 /// The two halves of a level format stand in `Campos` as records of their own.
 bool Es_Mitad(const QString& id)
 {
@@ -26,7 +37,7 @@ bool Es_Coordenada(const QString& marca)
 
 QString Motivo_Identificador(const QString& familia, int ope, const QString& id)
 {
-    if (familia != QLatin1String("KRT800")) {
+    if (!Es_De_Palabras(familia)) {
         if (id.size() != 1 || id == QLatin1String("+") || id == QLatin1String("_"))
             return QStringLiteral("el identificador \"%1\" no es un carácter libre").arg(id);
         return Es_Mitad(id) ? QStringLiteral("\"0\" y \"1\" son las mitades del nivel") : QString();
@@ -34,10 +45,13 @@ QString Motivo_Identificador(const QString& familia, int ope, const QString& id)
     if (id.contains(' ') || id.contains(','))
         return QStringLiteral("el identificador \"%1\" lleva un separador").arg(id);
     // These operations have no identifier in the line: the program supplies the word.
-    if ((ope == 4) != (id == QLatin1String("Punto")))
-        return QStringLiteral("\"Punto\" es el registro de la operación 4 y el único");
-    if ((ope == 7) != (id == QLatin1String("Per.Trans")))
-        return QStringLiteral("\"Per.Trans\" es el registro de la operación 7 y el único");
+    for (const Operacion sin_id : {Operacion::Puntos, Operacion::Perfiles}) {
+        const QString fijo = Fila_De(sin_id).id_fijo;
+        if ((Operacion(ope) == sin_id) != (id == fijo))
+            return QStringLiteral("\"%1\" es el registro de la operación %2 y el único")
+                .arg(fijo)
+                .arg(int(sin_id));
+    }
     return {};
 }
 
@@ -70,12 +84,11 @@ QString Motivo_Registro(const Juego& juego, qsizetype i)
 {
     const Tabla& t = juego.at("Identificadores");
     const QString familia = t.Celda(i, "Nombre"), id = t.Celda(i, "ID");
-    if (!Familias().contains(familia))
+    if (!Claves_Familias().contains(familia))
         return QStringLiteral("familia desconocida \"%1\"").arg(familia);
     if (!Ofrece(juego, familia, t.Numero(i, "OPE"), QStringLiteral("D")))
         return QStringLiteral("%1 no descarga la operación %2").arg(familia, t.Celda(i, "OPE"));
-    if (QString m = Motivo_Identificador(familia, t.Numero(i, "OPE"), id); !m.isEmpty())
-        return m;
+    if (QString m = Motivo_Identificador(familia, t.Numero(i, "OPE"), id); !m.isEmpty()) return m;
     if (Campos_De(juego, familia, id).isEmpty())
         return QStringLiteral("el registro \"%1\" no tiene campos").arg(id);
     return Motivo_Ancho(juego, familia, id, t.Celda(i, "Ancho"));
@@ -112,8 +125,7 @@ QString Motivo_Marcas(const QString& familia, const QString& marca, int digitos,
 {
     if (marca.isEmpty() || marca == QLatin1String("NL")) return {};
     if (marca == QLatin1String("GE"))
-        return familia == QLatin1String("KRT800") ? QString()
-                                                  : QStringLiteral("la marca GE es de KRT800");
+        return Es_De_Palabras(familia) ? QString() : QStringLiteral("la marca GE es de KRT800");
     if (!Es_Coordenada(marca)) return QStringLiteral("marca \"%1\" desconocida").arg(marca);
     if (Es_Nivel(familia)) return QStringLiteral("el nivel no desplaza coordenadas");
     if (posdigit == QLatin1String("*"))
@@ -162,7 +174,7 @@ QString Motivo_Campo(const Juego& juego, qsizetype i)
     const Tabla& t = juego.at("Campos");
     const QString familia = t.Celda(i, "Maquina"), id = t.Celda(i, "ID");
     const int digitos = t.Numero(i, "Digitos");
-    if (!Familias().contains(familia))
+    if (!Claves_Familias().contains(familia))
         return QStringLiteral("familia desconocida \"%1\"").arg(familia);
     const bool mitad = Es_Nivel(familia) && Es_Mitad(id);
     if (!mitad && !Registros_De(juego, familia).contains(id))
@@ -258,8 +270,7 @@ void Comprobar_Repetidos(const Juego& juego, const QString& familia, QList<Falta
     for (qsizetype i = 0; i < t.Filas(); ++i) {
         if (t.Celda(i, "Maquina") != familia) continue;
         const bool general = generales.contains(t.Celda(i, "ID"));
-        if (familia == QLatin1String("KRT800") &&
-            general != (t.Celda(i, "Marcas") == QLatin1String("GE")))
+        if (Es_De_Palabras(familia) && general != (t.Celda(i, "Marcas") == QLatin1String("GE")))
             faltas << t.Falta_En(i, QStringLiteral("la marca GE y el registro general van juntos"));
         const auto [donde, nuevo] = vistos.emplace(t.Celda(i, "Campo"), i);
         if (nuevo) continue;
@@ -287,6 +298,6 @@ void Comprobar_Campos(const Juego& juego, QList<Falta>& faltas)
         if (Es_Nivel(clave.first) && !Es_Mitad(clave.second))
             Comprobar_Linea_Nivel(t, grupo, faltas);
     }
-    for (const QString& familia : Familias())
+    for (const QString& familia : Claves_Familias())
         Comprobar_Repetidos(juego, familia, faltas);
 }

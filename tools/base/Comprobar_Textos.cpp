@@ -21,7 +21,7 @@ QString Motivo_Formato(const Juego& juego, qsizetype i)
 {
     const Tabla& t = juego.at("Formatos1");
     const QString familia = t.Celda(i, "Maquina");
-    if (!Familias().contains(familia))
+    if (!Claves_Familias().contains(familia))
         return QStringLiteral("familia desconocida \"%1\"").arg(familia);
     if (!Es_Si_No(t.Celda(i, "cabeceras")) || !Es_Si_No(t.Celda(i, "Modificable")))
         return QStringLiteral("cabeceras y Modificable son SI o NO");
@@ -44,13 +44,13 @@ qsizetype Cabecera_De(const Tabla& formatos1, const QString& nombre, const QStri
     return -1;
 }
 
-QString Motivo_Campo_Nivel(const Juego& juego, const QString& campo)
+QString Motivo_Campo_Nivel(const Juego& juego, const QString& maquina, const QString& campo)
 {
     const QString mitad = campo.left(1);
     if (campo.mid(1, 1) != QLatin1String(":") ||
         (mitad != QLatin1String("0") && mitad != QLatin1String("1")))
         return QStringLiteral("\"%1\" no es mitad y campo, como 1:Lectura").arg(campo);
-    return Campos_De(juego, QStringLiteral("NV400"), mitad).contains(campo.mid(2))
+    return Campos_De(juego, maquina, mitad).contains(campo.mid(2))
                ? QString()
                : QStringLiteral("el formato nombra el campo desconocido \"%1\"").arg(campo.mid(2));
 }
@@ -63,9 +63,10 @@ QString Motivo_Linea_Formato(const Juego& juego, qsizetype i)
     if (cabecera < 0)
         return QStringLiteral("el formato %1 de %2 no está en Formatos1")
             .arg(t.Celda(i, "Nombre"), maquina);
-    if (maquina == QLatin1String("NV400")) return Motivo_Campo_Nivel(juego, campo);
+    const Familia& familia = Familia_De(maquina);
+    if (familia.serie == Serie::Nivel) return Motivo_Campo_Nivel(juego, maquina, campo);
     // The point's name is a column of the session in these families, not a field of a line.
-    if (campo == QLatin1String("Punto") && Es_De_Columnas(maquina)) return {};
+    if (campo == QLatin1String("Punto") && familia.ofrece_punto) return {};
     const int ope = juego.at("Formatos1").Numero(cabecera, "ope");
     for (const QString& id : Registros_De(juego, maquina, ope))
         if (Campos_De(juego, maquina, id).contains(campo)) return {};
@@ -75,8 +76,8 @@ QString Motivo_Linea_Formato(const Juego& juego, qsizetype i)
 /// Half of a level format's field; empty for the other families, which have but one part.
 QString Mitad(const Tabla& t, qsizetype i)
 {
-    return t.Celda(i, "Maquina") == QLatin1String("NV400") ? t.Celda(i, "Campo").left(1)
-                                                           : QString();
+    const bool nivel = Familia_De(t.Celda(i, "Maquina")).serie == Serie::Nivel;
+    return nivel ? t.Celda(i, "Campo").left(1) : QString();
 }
 
 void Comprobar_Secuencias(const Tabla& t, QList<Falta>& faltas)
@@ -97,7 +98,7 @@ QString Motivo_Ayuda(const Juego& juego, qsizetype i, const QString& datos)
     const Tabla& t = juego.at("Ayudas");
     const QString maquina = t.Celda(i, "Maquina");
     const QString familia = maquina.startsWith('*') ? maquina.mid(1) : Familia_De(juego, maquina);
-    if (!Familias().contains(familia))
+    if (!Claves_Familias().contains(familia))
         return QStringLiteral("modelo desconocido \"%1\"").arg(maquina);
     if (!Ofrece(juego, familia, t.Numero(i, "OPE"), t.Celda(i, "TipOpe")))
         return QStringLiteral("%1 no ofrece la operación %2 %3")

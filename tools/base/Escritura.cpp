@@ -1,6 +1,8 @@
 #include "tools/base/Escritura.h"
 
 #include "core/Error_Ejecucion.h"
+#include "core/Familia.h"
+#include "core/Renovacion.h"
 #include "core/jet/Base.h"
 #include "core/jet/Esquema.h"
 
@@ -36,7 +38,7 @@ QVariant Valor(const Juego& juego, const Tabla& t, qsizetype fila, const Esquema
         celda.isEmpty())
         return QVariant();
     if (tabla == QLatin1String("Formatos2") && columna.nombre == QLatin1String("Campo") &&
-        t.Celda(fila, "Maquina") == QLatin1String("NV400"))
+        Familia_De(t.Celda(fila, "Maquina")).serie == Serie::Nivel)
         return Campo_De_Nivel(celda);
     if (columna.nombre == QLatin1String("Codigos")) return QString(celda).replace(u'|', QChar(6));
     return celda;
@@ -79,7 +81,8 @@ void Escribir_Tabla(const Juego& juego, const Tabla& t, Base& base, QList<Falta>
 
 } // namespace
 
-bool Escribir_Base(const Juego& juego, const QString& fichero, QList<Falta>& faltas)
+bool Escribir_Base(const Juego& juego, const QString& fichero, QList<Falta>& faltas,
+                   const QString& sello)
 {
     const QString nueva = fichero + QStringLiteral(".nueva");
     QFile::remove(nueva);
@@ -90,6 +93,7 @@ bool Escribir_Base(const Juego& juego, const QString& fichero, QList<Falta>& fal
         for (const Definicion_Tabla& d : Definiciones())
             Escribir_Tabla(juego, juego.at(d.nombre), *base, faltas);
         transaccion.Confirmar();
+        Sellar_Entregadas(*base, sello);
         base->Close();
     }
     if (faltas.size() > antes) {

@@ -69,11 +69,21 @@ void Descarga::Preparar_Dialogo()
 
 void Descarga::BtnIniciar()
 {
-    if (!Iniciar_Habilitado() || !Empezar()) return;
-    if (const QString motivo = Diario_Recepcion::Impedimento(); !motivo.isEmpty())
+    if (!Empezar_Recepcion()) return;
+    if (!familia->arranque.isEmpty()) Enviar(familia->arranque);
+    timer1.start(Reloj_Actual().Espera(MS_SONDEO));
+    QTimer::singleShot(0, &El_Puerto(), &Puerto_Serie::Entregar);
+}
+
+bool Descarga::Empezar_Recepcion()
+{
+    if (!Iniciar_Habilitado() || !Empezar()) return false;
+    if (const QString motivo = Diario_Recepcion::Impedimento(); !motivo.isEmpty()) {
+        const Caja_Abierta caja(*this);
         Interfaz_Actual().Mensaje("No se puede escribir en la carpeta LOG (" + motivo +
                                       "); lo que se reciba estará sólo en memoria hasta que se guarde",
                                   Icono::Exclamacion);
+    }
     const Serie_En_Linea* const serie = Serie_De(*familia);
     receptor = serie ? serie->receptor() : nullptr;
     resultado = {};
@@ -82,14 +92,12 @@ void Descarga::BtnIniciar()
     Situar_Rayo();
     Poner_Etiqueta(ESPERANDO);
     Interfaz_Actual().Repintar();
-    if (!familia->arranque.isEmpty()) Enviar(familia->arranque);
-    timer1.start(Reloj_Actual().Espera(MS_SONDEO));
-    QTimer::singleShot(0, &El_Puerto(), &Puerto_Serie::Entregar);
+    return true;
 }
 
 void Descarga::Tic()
 {
-    if (en_aviso) return;
+    if (en_aviso || En_Aviso()) return;
     if (!familia->sondeo.isEmpty()) Enviar(familia->sondeo);
     if (++intentos == INTENTOS_MAXIMOS) Error_De_Cable();
 }
@@ -115,7 +123,8 @@ void Descarga::Error_De_Cable()
 
 void Descarga::Evento()
 {
-    if (Iniciar_Habilitado() || en_aviso || procesando) return;
+    if (Iniciar_Habilitado() && sin_boton && !En_Aviso()) Empezar_Recepcion();
+    if (Iniciar_Habilitado() || en_aviso || En_Aviso() || procesando) return;
     Recibir_Byte();
 }
 
@@ -266,6 +275,7 @@ QString Descarga::Que_Falta() const
     const Serie_En_Linea* const serie = Serie_De(*familia);
     QString frase = Frase_Faltas(resultado.faltas, serie ? serie->unidad : QString());
     if (resultado.error || frase.isEmpty())
-        frase = QString("La descarga no se ha guardado") + (frase.isEmpty() ? "" : ": ") + frase;
+        frase = QString("La descarga no se ha guardado") + (resultado.error ? "" : " entera") +
+                (frase.isEmpty() ? "" : ": ") + frase;
     return frase + "; " + (perdido ? "lo recibido no se ha podido conservar" : SE_CONSERVA);
 }

@@ -27,6 +27,9 @@ public:
     /// whole transfer, whatever model is chosen meanwhile.
     void Preparar(int operacion, const QString& nombre, int destino = 0);
 
+    /// The first byte begins the reception as well, without the button.
+    void Atender_Sin_Boton() { sin_boton = true; }
+
     /// The button: polls, begins the waiting and takes what already waits in the port.
     void BtnIniciar();
     /// One tick of the 500 ms timer.
@@ -61,6 +64,7 @@ protected:
 
 private:
     void Preparar_Dialogo();
+    bool Empezar_Recepcion();
     void Recibir_Byte();
     void Error_De_Cable();
     void Procesar();
@@ -77,5 +81,5 @@ private:
     Resultado_Recepcion resultado;
     bool perdido = false; ///< the last reception could not be kept anywhere
     int intentos = 0, eventos = 0;
-    bool en_aviso = false, procesando = false;
+    bool en_aviso = false, procesando = false, sin_boton = false;
 };

@@ -5,6 +5,7 @@
 #include "core/ModLOG.h"
 #include "core/Sesiones.h"
 #include "transfer/enlace/Almacen.h"
+#include "transfer/Peticiones_Transfer.h"
 
 #include <algorithm>
 #include <QSet>
@@ -207,6 +208,8 @@ std::optional<Resultado_Recepcion> Guardar_Descarga_KRT300(const Datos_Recepcion
     case Operacion::Coordenadas:
     case Operacion::Calculadas:
         break;
+    case Operacion::Libreria:
+        return Peticiones_De_Transfer().Guardar_Libreria(datos);
     default:
         return std::nullopt;
     }

@@ -159,6 +159,8 @@ void TestModCLIP::largo_de_la_curva()
     const bool titulos = anterior == "titulo";
     QVERIFY2(lineas.size() == (titulos ? 2 : 4), qPrintable(texto));
     QCOMPARE(lineas[titulos ? 0 : 1], linea);
+    // A heading where a vertex should stand is told, and passed over.
+    QCOMPARE(guion.avisos.size(), qsizetype(titulos));
 }
 
 void TestModCLIP::la_primera_pendiente_parte_de_cero()

@@ -27,6 +27,8 @@ private Q_SLOTS:
     void el_dialogo_de_fichero_devuelve_nombre_y_filtro();
     void el_dialogo_de_fichero_no_pregunta_por_el_que_existe();
     void el_dialogo_de_fichero_cancelado_no_da_nada();
+    void los_textos_de_los_controles_son_espanoles_data();
+    void los_textos_de_los_controles_son_espanoles();
     void los_filtros_data();
     void los_filtros();
     void el_proceso_es_modal_y_no_bloquea();
@@ -40,7 +42,7 @@ private Q_SLOTS:
 
 void TestInterfaz_Qt::init()
 {
-    QCoreApplication::installTranslator(new Traductor_Qt(this));
+    QCoreApplication::installTranslator(new Traductor_Qt(INSTALACION "/idioma", this));
     Proceso_Cancelado = false;
 }
 
@@ -210,6 +212,36 @@ void TestInterfaz_Qt::el_dialogo_de_fichero_cancelado_no_da_nada()
     Interfaz_Qt interfaz;
     Al_Abrirse caja([&](QWidget& w) { QTest::keyClick(&w, Qt::Key_Escape); });
     QVERIFY(!interfaz.Pedir_Fichero({.titulo = "x", .filtro = "Texto|*.txt"}).has_value());
+}
+
+void TestInterfaz_Qt::los_textos_de_los_controles_son_espanoles_data()
+{
+    QTest::addColumn<QByteArray>("contexto");
+    QTest::addColumn<QByteArray>("texto");
+    QTest::addColumn<QString>("espanol");
+    const auto caso = [](const char* contexto, const char* texto, const char* espanol) {
+        QTest::addRow("%s %s", contexto, texto)
+            << QByteArray(contexto) << QByteArray(texto) << QString(espanol);
+    };
+    for (const char* contexto : {"QPlatformTheme", "QShortcut"})
+        caso(contexto, "Cancel", "Cancelar");
+    caso("QPlatformTheme", "&Yes", "&Sí");
+    caso("QPlatformTheme", "OK", "Aceptar");
+    caso("QFileDialog", "Files of type:", "Ficheros de tipo:");
+    caso("QLineEdit", "&Paste", "&Pegar");
+    caso("QMdiSubWindow", "&Restore", "&Restaurar");
+    // What the toolkit's own translation lacks or has wrong.
+    caso("QFileDialog", "Choose", "Elegir");
+    caso("QFileDialog", "Go to the parent directory", "Ir al directorio superior");
+    caso("QFileDialog", "File Folder", "Carpeta de archivos");
+    caso("QFileDialog", "No such text", "No such text");
+}
+
+void TestInterfaz_Qt::los_textos_de_los_controles_son_espanoles()
+{
+    QFETCH(QByteArray, contexto);
+    QFETCH(QByteArray, texto);
+    QTEST(QCoreApplication::translate(contexto.constData(), texto.constData()), "espanol");
 }
 
 void TestInterfaz_Qt::los_filtros_data()
