@@ -56,21 +56,3 @@ bool Recorrer(const Camino_Formato& camino, const Contexto& contexto)
     formato.Aceptar([] {});
     return true;
 }
-
-std::optional<QStringList> Leer_Desplazamiento(const Argumentos& a)
-{
-    if (!a.Hay("desplazamiento")) return std::nullopt;
-    const QStringList ejes = a.Opcion("desplazamiento").split(u',');
-    if (ejes.size() != 3)
-        throw Error_Uso{"El desplazamiento se escribe X,Y,Z: " + a.Opcion("desplazamiento")};
-    for (const QString& eje : ejes)
-        if (Teclear_Desplazamiento(eje) != eje)
-            throw Error_Uso{"El desplazamiento \"" + eje + "\" no es un número con punto decimal"};
-    return ejes;
-}
-
-QString Enumerar(QStringList palabras)
-{
-    const QString ultima = palabras.takeLast();
-    return palabras.isEmpty() ? ultima : palabras.join(", ") + " o " + ultima;
-}

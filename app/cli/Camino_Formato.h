@@ -17,9 +17,3 @@ struct Camino_Formato {
 };
 /// @return false, the reason told, when the session has no lines or there is no such format
 bool Recorrer(const Camino_Formato& camino, const Contexto& contexto);
-
-/// The value of `--desplazamiento`, "X,Y,Z". @throws Error_Uso for another form
-std::optional<QStringList> Leer_Desplazamiento(const Argumentos& argumentos);
-
-/// "a, b o c"
-QString Enumerar(QStringList palabras);

@@ -1,5 +1,6 @@
 #include "app/cli/Camino_Formato.h"
 #include "app/cli/Instalacion.h"
+#include "app/cli/Opciones_Comunes.h"
 #include "app/cli/Ordenes_Export.h"
 #include "export/dxf/Conversion_DXF.h"
 #include "session/Separadores.h"

@@ -17,8 +17,10 @@ QString Texto_De(const QByteArray& bytes)
 {
     if (bytes.contains('\0')) throw Error_Ejecucion(13, "El fichero no es un texto");
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString texto = utf8(bytes);
-    return utf8.hasError() ? Ansi::A_Texto(bytes) : texto;
+    QString texto = utf8(bytes);
+    if (utf8.hasError()) return Ansi::A_Texto(bytes);
+    if (texto.startsWith(QChar(QChar::ByteOrderMark))) texto.remove(0, 1);
+    return texto;
 }
 
 QStringList Palabras(const QString& linea)

@@ -115,7 +115,7 @@ void TestFrmDXF::cada_boton_su_modo()
     QTEST((QList<int>{int(dibujo.count("PUNTOS\r")), int(dibujo.count("PUNTOS_2D\r")),
                       int(dibujo.count("PUNTOS_3D\r")), int(dibujo.count(" 30\r\n-0.500"))}),
           "cuentas");
-    QVERIFY(dibujo.contains(" 10\r\n7654.321\r\n 20\r\n1234.567\r\n"));
+    QVERIFY(dibujo.contains(" 10\r\n1234.567\r\n 20\r\n7654.321\r\n"));
 }
 
 void TestFrmDXF::los_ajustes_se_guardan_al_cerrar()

@@ -15,6 +15,7 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTableWidget>
 
@@ -188,9 +189,15 @@ void TestFrmImpFormato::un_pdf_tiene_sus_hojas()
         Guardar_PDF(impreso, fichero);
         const QByteArray pdf = sala->Leer("a.pdf");
         QVERIFY(pdf.startsWith("%PDF-") && pdf.trimmed().endsWith("%%EOF"));
-        QCOMPARE(pdf.count("/Type /Page\n"), 3);
-        QVERIFY2(pdf.contains(apaisado ? "/MediaBox [0 0 842 595]" : "/MediaBox [0 0 595 842]"),
-                 pdf.mid(pdf.indexOf("/MediaBox"), 40).constData());
+        static const QRegularExpression hoja("/Type\\s*/Page\\b"),
+            caja("/MediaBox\\s*\\[\\s*0 0 ([0-9.]+) ([0-9.]+)");
+        const QString texto = QString::fromLatin1(pdf);
+        QCOMPARE(texto.count(hoja), 3);
+        const auto medidas = caja.match(texto);
+        QVERIFY(medidas.hasMatch());
+        QCOMPARE(medidas.captured(1).toDouble() > medidas.captured(2).toDouble(), apaisado);
+        QCOMPARE(qRound(medidas.captured(1).toDouble() + medidas.captured(2).toDouble()),
+                 595 + 842);
     }
     const auto numero = [](auto&& hacer) {
         try {

