@@ -91,7 +91,8 @@ void Guardar_131072(benchmark::State& estado)
     const QString buffer = Buffer_De_Campo();
     const auto obra = [&] {
         Base_Datos->Execute("DELETE FROM Registros");
-        return Cronometrar([&] { Guardar_KRT300(buffer, 1, "KRT300", 0); });
+        Resultado_Recepcion resultado;
+        return Cronometrar([&] { Guardar_KRT300(buffer, 1, "KRT300", 0, resultado); });
     };
     obra();
     const qint64 guardados =

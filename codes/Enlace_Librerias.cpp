@@ -23,7 +23,7 @@ Resultado_Recepcion Guardar(const Datos_Recepcion& datos)
     Resultado_Recepcion resultado;
     const Libreria_Guardada hecho =
         Guardar_Libreria(datos.buffer, Destino(datos.destino), datos.nombre);
-    resultado.completa = hecho.Completa();
+    resultado.guardada = hecho.Completa();
     if (hecho.error)
         Informe_Error("Se produjo un error al guardar la librería; lo recibido se conserva",
                       *hecho.error);

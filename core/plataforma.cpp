@@ -9,10 +9,14 @@
 #include <io.h>
 #include <windows.h>
 #else
+#include <array>
+#include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/file.h>
 #include <sys/ioctl.h>
+#include <QSocketNotifier>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -48,6 +52,20 @@ bool plataforma::Sincronizar_Carpeta([[maybe_unused]] const QString& carpeta)
     const bool bien = fsync(d) == 0;
     close(d);
     return bien;
+#endif
+}
+
+bool plataforma::Marcar_En_Uso(const QFileDevice& fichero)
+{
+#ifdef Q_OS_WIN
+    // A byte far behind any data: reading the file stays possible.
+    OVERLAPPED lejos{};
+    lejos.OffsetHigh = 0x40000000;
+    return LockFileEx(reinterpret_cast<HANDLE>(_get_osfhandle(fichero.handle())),
+                      LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &lejos) != 0;
+#else
+    // A file system without marks doesn't know of others either.
+    return flock(fichero.handle(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 #endif
 }
 
@@ -115,5 +133,80 @@ bool plataforma::Puerto_Colgado([[maybe_unused]] qintptr descriptor)
     if (poll(&estado, 1, 0) < 1 || !(estado.revents & (POLLHUP | POLLERR | POLLNVAL))) return false;
     int pendientes = 0;
     return ioctl(int(descriptor), FIONREAD, &pendientes) != 0 || pendientes == 0;
+#endif
+}
+
+namespace {
+
+plataforma::Peticion_De_Fin* peticion = nullptr;
+
+#ifdef Q_OS_WIN
+
+// Runs on a thread of the system's, which kills the process when it returns: it waits a little for
+// the loop to end the program in order.
+BOOL WINAPI Al_Pedir_Fin(DWORD)
+{
+    constexpr DWORD MS_PARA_ACABAR = 4000;
+    if (!peticion) return FALSE;
+    QMetaObject::invokeMethod(peticion, &plataforma::Peticion_De_Fin::pedido, Qt::QueuedConnection);
+    Sleep(MS_PARA_ACABAR);
+    return TRUE;
+}
+
+#else
+
+constexpr std::array SENALES = {SIGTERM, SIGINT, SIGHUP};
+std::array<struct sigaction, SENALES.size()> anteriores;
+std::array<int, 2> tubo = {-1, -1};
+
+// All that a handler may do: the loop hears of it through the pipe.
+void Al_Pedir_Fin(int)
+{
+    const int error = errno;
+    const char uno = 1;
+    [[maybe_unused]] const ssize_t escrito = write(tubo[1], &uno, 1);
+    errno = error;
+}
+
+#endif
+
+} // namespace
+
+plataforma::Peticion_De_Fin::Peticion_De_Fin(QObject* padre) : QObject(padre)
+{
+    if (peticion) return;
+#ifdef Q_OS_WIN
+    peticion = this;
+    SetConsoleCtrlHandler(Al_Pedir_Fin, TRUE);
+#else
+    if (pipe2(tubo.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
+    peticion = this;
+    auto* const aviso = new QSocketNotifier(tubo[0], QSocketNotifier::Read, this);
+    connect(aviso, &QSocketNotifier::activated, this, [this] {
+        char c;
+        while (read(tubo[0], &c, 1) == 1) {
+        }
+        Q_EMIT pedido();
+    });
+    struct sigaction accion = {};
+    accion.sa_handler = Al_Pedir_Fin;
+    accion.sa_flags = SA_RESTART;
+    for (size_t i = 0; i < SENALES.size(); ++i)
+        sigaction(SENALES[i], &accion, &anteriores[i]);
+#endif
+}
+
+plataforma::Peticion_De_Fin::~Peticion_De_Fin()
+{
+    if (peticion != this) return;
+    peticion = nullptr;
+#ifdef Q_OS_WIN
+    SetConsoleCtrlHandler(Al_Pedir_Fin, FALSE);
+#else
+    for (size_t i = 0; i < SENALES.size(); ++i)
+        sigaction(SENALES[i], &anteriores[i], nullptr);
+    close(tubo[0]);
+    close(tubo[1]);
+    tubo = {-1, -1};
 #endif
 }

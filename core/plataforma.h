@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFileDevice>
+#include <QObject>
 #include <QString>
 
 /// The only unit (besides the simulator) that calls the operating system directly.
@@ -16,6 +17,10 @@ bool Reemplazar(const QString& nuevo, const QString& viejo);
 
 /// Makes names that were created, renamed or removed in `carpeta` outlive a power cut.
 bool Sincronizar_Carpeta(const QString& carpeta);
+
+/// Marks an open file as in use, for this program and others, until it is closed or the process
+/// ends in whatever way. @return false when somebody else has marked it
+bool Marcar_En_Uso(const QFileDevice& fichero);
 
 /// Gives `nuevo` the permissions, the group and, where the system lets us, the owner of `modelo`.
 /// @return false when some of it can't be done
@@ -34,5 +39,18 @@ void Poner_Sistema_De_Ficheros(Pregunta_Sistema pregunta);
 /// @param descriptor  of an open serial device
 /// @return true when its other end has gone and nothing is left to read
 bool Puerto_Colgado(qintptr descriptor);
+
+/// While it lives, a request of the system to end the program (termination, Ctrl-C, hang-up; the
+/// console's close on Windows) doesn't end it there and then: `pedido` comes, on the interface's
+/// loop. One at a time.
+class Peticion_De_Fin : public QObject {
+    Q_OBJECT
+public:
+    explicit Peticion_De_Fin(QObject* padre = nullptr);
+    ~Peticion_De_Fin() override;
+
+Q_SIGNALS:
+    void pedido();
+};
 
 } // namespace plataforma

@@ -58,8 +58,10 @@ void simulador::Aparato_Nivel::Contestado(bool bien)
         return;
     }
     if (estado == Estado::Callado) return;
-    if (!bien) {
-        Anotar(QStringLiteral("línea %1 rechazada").arg(linea));
+    if (!bien) Anotar(QStringLiteral("línea %1 rechazada").arg(linea));
+    // Noise is no line to go on from: the line itself has not gone out yet.
+    const bool sin_enviar = ruidosa == linea && !enviada;
+    if (!bien && (ajustes.repetir || sin_enviar || linea == 0 || linea > Ultima())) {
         Enviar_Linea();
     } else if (linea > Ultima()) {
         estado = Estado::Espera;
@@ -100,6 +102,7 @@ void simulador::Aparato_Nivel::Enviar_Linea()
         return;
     }
     const QByteArray& registro = ajustes.libreta->at(linea - 1);
+    enviada = false;
     // The noise is a line to the PC, which refuses it: that answer brings the line itself.
     if ((pendientes.ruido == linea || pendientes.ruido == 0) && ruidosa != linea) {
         ruidosa = linea;
@@ -112,6 +115,7 @@ void simulador::Aparato_Nivel::Enviar_Linea()
         estado = Estado::Callado;
         return;
     }
+    enviada = true;
     int& malas = pendientes.sumas[linea];
     Enviar(Linea_Con_Suma(registro, malas > 0));
     malas = std::max(0, malas - 1);

@@ -14,7 +14,8 @@ class Aparato_Nivel : public Aparato {
 public:
     struct Ajustes {
         std::optional<QList<QByteArray>> libreta; ///< its field book, if it has one
-        Fallos fallos;                            ///< of lines: the first record is line 1
+        bool repetir = true; ///< after a refusal: the same line again, or the next one
+        Fallos fallos;       ///< of lines: the first record is line 1
     };
     Aparato_Nivel(const Ajustes& ajustes, Salida salida, Nota nota);
 
@@ -34,6 +35,7 @@ private:
     Estado estado = Estado::Espera;
     int linea = 0;      ///< 0 start line, 1... the records, then the end line
     int ruidosa = 0;    ///< last line that had its noise
+    bool enviada = false; ///< the line under way has gone out itself, and not its noise alone
     QByteArray entrada; ///< the PC's line so far
 };
 

@@ -56,7 +56,7 @@ const QList<Opcion>& Tabla_Opciones()
          Poner_Numero<&Opciones::baudios, 1>},
         {"bloque", "N", "KRT300 y PX7: caracteres de cada trama (128)",
          Poner_Numero<&Opciones::bloque, 1>},
-        {"seguir", "", "KRT300 y PX7: tras un rechazo pasa a la trama siguiente",
+        {"seguir", "", "KRT300, PX7 y NV400: tras un rechazo pasa a la trama o línea siguiente",
          Poner_Si<&Opciones::seguir>},
         {"crlf", "", "KRT300 y PX7: CR LF detrás de cada trama", Poner_Si<&Opciones::fin_linea>},
         {"una-vez", "", "acaba tras la primera transferencia", Poner_Si<&Opciones::una_vez>},

@@ -32,7 +32,7 @@ void Empezar_Descarga(const Familia& familia, int operacion)
     if (Ayuda_Visible) pide.Mostrar_Pasos(DESCARGA, QString::number(operacion));
     Descarga* const descarga = pide.Dialogo_Descarga();
     if (!descarga || !descarga->Abrir_Puerto()) return;
-    descarga->Preparar(operacion, nombre);
+    descarga->Preparar(Operacion_En_El_Enlace(familia, operacion), nombre);
     pide.Mostrar_Descarga();
 }
 
@@ -42,7 +42,7 @@ void Descargar_Serie_A(const Familia& familia, int operacion)
     case Operacion::Medicion:
     case Operacion::Coordenadas:
     case Operacion::Calculadas:
-        Empezar_Descarga(familia, Operacion_En_El_Enlace(familia, operacion));
+        Empezar_Descarga(familia, operacion);
         break;
     case Operacion::Libreria:
         Peticiones_De_Transfer().Recibir_Libreria(operacion);

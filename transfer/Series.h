@@ -16,6 +16,8 @@ struct Serie_En_Linea {
     /// Stores a finished reception. Null when the series stores nothing of that operation: the
     /// database is then left alone altogether.
     std::optional<Resultado_Recepcion> (*guardar)(const Datos_Recepcion& datos);
+    /// What its wire is made of, as `Frase_Faltas` says it.
+    QString unidad;
     /// Makes the sender of one upload. Null for a series whose uploads don't go over the port.
     std::unique_ptr<Emisor> (*emisor)(const Datos_Envio& datos);
 };

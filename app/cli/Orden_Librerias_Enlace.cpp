@@ -68,7 +68,7 @@ bool Recibir(const Contexto& c, const QString& dispositivo)
     if (!mostrado) return false;
     descarga.BtnIniciar();
     if (descarga.En_Marcha()) espera.exec();
-    const bool hecha = descarga.Resultado().completa;
+    const bool hecha = descarga.Resultado().Completa();
     descarga.Abandonar();
     return hecha;
 }

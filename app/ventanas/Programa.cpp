@@ -4,6 +4,10 @@
 #include "app/ventanas/Ventanas.h"
 #include "core/Copias.h"
 #include "core/ModEstTotal.h"
+#include "core/plataforma.h"
+#include "transfer/enlace/Descarga.h"
+
+#include <QSessionManager>
 
 #include <memory>
 #include <QApplication>
@@ -36,6 +40,18 @@ int Arrancar_Y_Esperar(const QString& ruta, const Interfaz_Qt& interfaz)
     } catch (...) {
         Fallo_Sin_Atrapar(Error_En_Curso());
     }
+    const plataforma::Peticion_De_Fin fin;
+    QObject::connect(&fin, &plataforma::Peticion_De_Fin::pedido, qApp, [] {
+        if (Conversacion* const transferencia = Transferencia_En_Curso())
+            transferencia->Abandonar();
+        Interfaz_Actual().Terminar(ESTADO_FALLO);
+    });
+    // The end of the user's session may be called off by another program: the transfer goes on, and
+    // what came is safe.
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, qApp, [](QSessionManager&) {
+        if (auto* const descarga = qobject_cast<Descarga*>(Transferencia_En_Curso()))
+            descarga->Asegurar();
+    });
     // The model's dialog has a loop of its own, in which the run may have been ended already.
     QTimer reposo;
     Revisar_En_Reposo(reposo);

@@ -216,6 +216,13 @@ const Esquema::Tabla* Esquema::Buscar_Tabla(const QString& nombre)
     return nullptr;
 }
 
+int Esquema::Ancho(const QString& tabla, const QString& columna)
+{
+    const Tabla* const t = Buscar_Tabla(tabla);
+    const Columna* const c = t ? t->Buscar_Columna(columna) : nullptr;
+    return c && c->tipo == Tipo::Texto ? c->ancho : 0;
+}
+
 QString Esquema::Es_Fecha(const Columna& columna)
 {
     const QString cifra = QStringLiteral("[0-9]");

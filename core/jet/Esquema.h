@@ -49,6 +49,8 @@ struct Tabla {
 const QList<Tabla>& Tablas();
 /// A table by its name, compared without case; null when there is none.
 const Tabla* Buscar_Tabla(const QString& nombre);
+/// Characters that a text column takes; 0 when there is no such column or it has no limit.
+int Ancho(const QString& tabla, const QString& columna);
 /// Version of the tables as they stand here: a database of a lower one is brought up when it is
 /// opened, one of a higher one is refused.
 inline constexpr int VERSION = 1;

@@ -10,6 +10,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <csignal>
+
 // Whole roads: the real programs, the real protocol, a pseudo-terminal between them.
 class TestCaminos : public QObject {
     Q_OBJECT
@@ -24,6 +26,13 @@ private Q_SLOTS:
     void el_cable_cortado_deja_un_comienzo_que_se_rescata_data();
     void el_cable_cortado_deja_un_comienzo_que_se_rescata();
     void matado_conserva_lo_de_hace_un_segundo();
+    void lo_que_no_se_repite_se_dice_data();
+    void lo_que_no_se_repite_se_dice();
+    void la_espera_acaba_con_lo_que_se_para();
+    void el_nombre_se_mira_antes_de_descargar();
+    void una_senal_conserva_lo_recibido_data();
+    void una_senal_conserva_lo_recibido();
+    void rescatar_no_cambia_de_familia_ni_de_operacion();
     void el_silencio_se_dice();
     void un_puerto_que_no_esta_se_dice();
     void un_puerto_ocupado_se_dice();
@@ -157,6 +166,14 @@ static void Sin_Relleno(QStringList& lineas)
         lineas.last().chop(1);
 }
 
+// Of the last one what was acknowledged is there.
+static void Es_Comienzo(const QStringList& guardados, const QStringList& esperados)
+{
+    const qsizetype n = guardados.size() - 1;
+    QCOMPARE(guardados.first(n), esperados.first(n));
+    QVERIFY(esperados[n].startsWith(guardados.last()));
+}
+
 void TestCaminos::cada_familia_descarga_su_libreta_data()
 {
     QTest::addColumn<QString>("maquina");
@@ -229,7 +246,11 @@ void TestCaminos::eot_en_mitad_de_una_trama_guarda_lo_anterior()
 {
     Simular("KRT300", Libreta("campo_krt300.txt"), {"--fallo", "eot:4"});
     const Salida s = Descargar("KRT300", 0);
-    QCOMPARE(s.estado, 0);
+    QCOMPARE(s.estado, 1);
+    QCOMPARE(s.texto, QString("1\n"));
+    QVERIFY2(s.errores.contains("1 trama sin terminar; lo recibido se conserva\n"),
+             qPrintable(s.errores));
+    QCOMPARE(Diarios().size(), 1);
     const QStringList guardados = Guardados("1");
     const QStringList esperados = Registros_De(Libreta("campo_krt300.txt"), "KRT300");
     QVERIFY(guardados.size() > 5 && guardados.size() < esperados.size());
@@ -276,7 +297,7 @@ void TestCaminos::el_cable_cortado_deja_un_comienzo_que_se_rescata()
             linea.chop(2);
     const QStringList esperados = Registros_De(Libreta(libreta), maquina);
     QVERIFY(!guardados.isEmpty() && guardados.size() < esperados.size());
-    QCOMPARE(guardados, esperados.first(guardados.size()));
+    Es_Comienzo(guardados, esperados);
     QCOMPARE(Diarios(), QStringList());
 }
 
@@ -306,9 +327,105 @@ void TestCaminos::matado_conserva_lo_de_hace_un_segundo()
                           "--nombre", "Rescatada"});
     QCOMPARE(r.estado, 0);
     const QStringList guardados = Guardados(r.texto);
-    QCOMPARE(guardados,
-             Registros_De(Libreta("jornada_krt300.txt"), "KRT300").first(guardados.size()));
+    Es_Comienzo(guardados, Registros_De(Libreta("jornada_krt300.txt"), "KRT300"));
     QVERIFY(guardados.size() > 5);
+}
+
+void TestCaminos::lo_que_no_se_repite_se_dice_data()
+{
+    QTest::addColumn<QString>("maquina");
+    QTest::addColumn<QString>("libreta");
+    QTest::addColumn<QString>("falta");
+    QTest::newRow("KRT300") << "KRT300" << "campo_krt300.txt" << "1 trama rechazada y no repetida";
+    QTest::newRow("NV400") << "NV400" << "campo_nv400.txt" << "1 línea rechazada y no repetida";
+}
+
+void TestCaminos::lo_que_no_se_repite_se_dice()
+{
+    QFETCH(QString, maquina);
+    QFETCH(QString, libreta);
+    QFETCH(QString, falta);
+    Simular(maquina, Libreta(libreta), {"--fallo", "suma:3", "--seguir"});
+    const Salida s = Descargar(maquina, 0);
+    QCOMPARE(s.estado, 1);
+    QVERIFY2(s.errores.contains(falta), qPrintable(s.errores));
+    QVERIFY2(s.errores.contains("; lo recibido se conserva\n"), qPrintable(s.errores));
+    QCOMPARE(Diarios().size(), 1);
+}
+
+void TestCaminos::la_espera_acaba_con_lo_que_se_para()
+{
+    Simular("KRT300", Libreta("campo_krt300.txt"), {"--fallo", "silencio:2"});
+    const Salida s = Cli({"descargar", "--modelo", "KRT300", "--ope", "0", "--puerto", Ruta("com1"),
+                          "--nombre", "Obra", "--espera", "1"});
+    QCOMPARE(s.estado, 1);
+    QVERIFY2(s.errores.contains("No llega nada desde hace 1 segundos: "), qPrintable(s.errores));
+    QVERIFY2(s.errores.contains("lo recibido se conserva"), qPrintable(s.errores));
+    QCOMPARE(Diarios().size(), 1);
+}
+
+void TestCaminos::el_nombre_se_mira_antes_de_descargar()
+{
+    for (const QString& nombre : {QString(), QString("  "), QString(51, 'x')}) {
+        const Salida s = Cli({"descargar", "--modelo", "KRT300", "--ope", "0", "--puerto", "/no/hay",
+                              "--nombre", nombre});
+        QCOMPARE(s.estado, 2);
+        QVERIFY2(s.errores.startsWith("El nombre de la sesión"), qPrintable(s.errores));
+    }
+}
+
+void TestCaminos::una_senal_conserva_lo_recibido_data()
+{
+    QTest::addColumn<int>("senal");
+    QTest::newRow("TERM") << SIGTERM;
+    QTest::newRow("INT") << SIGINT;
+    QTest::newRow("HUP") << SIGHUP;
+}
+
+void TestCaminos::una_senal_conserva_lo_recibido()
+{
+    QFETCH(int, senal);
+    Simular("KRT300", Libreta("jornada_krt300.txt"), {"--baudios", "4800"});
+    QProcess p;
+    p.start(INSTALACION "/miraldos-cli", {"--dir", dir, "descargar", "--modelo", "KRT300", "--ope", "0",
+                                          "--puerto", Ruta("com1"), "--nombre", "Obra"});
+    QTRY_COMPARE_WITH_TIMEOUT(Diarios().size(), 1, 20000);
+    QTest::qWait(300);
+    // While it runs nobody else makes a session of it.
+    const Salida r = Cli({"rescatar", Diarios().first(), "--modelo", "KRT300", "--nombre", "X"});
+    QCOMPARE(r.estado, 1);
+    QVERIFY2(r.errores.contains("está en curso"), qPrintable(r.errores));
+    QVERIFY(Cli({"rescates"}).texto.contains("\ten curso\n"));
+    ::kill(static_cast<pid_t>(p.processId()), senal);
+    QVERIFY(p.waitForFinished(20000));
+    QCOMPARE(p.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(p.exitCode(), 1);
+    const QString dicho = QString::fromUtf8(p.readAllStandardError());
+    QVERIFY2(dicho.contains("Se ha pedido el fin del programa: "), qPrintable(dicho));
+    QVERIFY2(dicho.contains("; lo recibido se conserva"), qPrintable(dicho));
+    QCOMPARE(Diarios().size(), 1);
+}
+
+void TestCaminos::rescatar_no_cambia_de_familia_ni_de_operacion()
+{
+    Simular("KRT300", Libreta("campo_krt300.txt"), {"--fallo", "corte:777", "--baudios", "4800"});
+    Descargar("KRT300", 0);
+    const QString diario = QFileInfo(Diarios().value(0)).fileName();
+    const auto rescatar = [&](const QStringList& palabras) {
+        return Cli(QStringList{"rescatar", diario, "--nombre", "R"} + palabras);
+    };
+    Salida s = rescatar({"--modelo", "KRT800"});
+    QCOMPARE(s.estado, 1);
+    QVERIFY2(s.errores.contains("La recepción es de un KRT300 y no de un KRT800"), qPrintable(s.errores));
+    s = rescatar({"--modelo", "KRT300", "--ope", "1"});
+    QCOMPARE(s.estado, 1);
+    QVERIFY2(s.errores.contains("es de la operación 0 y no de la 1"), qPrintable(s.errores));
+    QCOMPARE(Diarios().size(), 1);
+    s = rescatar({"--modelo", "KRT300"});
+    QCOMPARE(s.estado, 0);
+    QVERIFY2(s.errores.contains("puede estar incompleto"), qPrintable(s.errores));
+    QCOMPARE(Diarios().size(), 0);
+    QVERIFY(QFile::exists(Ruta("LOG/" + diario + ".rescatada")));
 }
 
 void TestCaminos::el_silencio_se_dice()

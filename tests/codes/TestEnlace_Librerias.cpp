@@ -92,7 +92,7 @@ void TestEnlace_Librerias::una_libreria_llega_a_la_base()
     puerto->Llegan(Trama("_:001PINO      _:002ROBLE     _:003          "));
     puerto->Llegan("\4");
     QCOMPARE(sala->Codigos(Serie::A, "NUEVA"), QStringList({"PINO", "ROBLE"}));
-    QVERIFY(descarga->Resultado().completa);
+    QVERIFY(descarga->Resultado().Completa());
     QCOMPARE(Diarios(), QStringList());
     // No session, and the database was not compacted.
     QCOMPARE(sala->Columna("SELECT ID FROM Sesiones"), QStringList());

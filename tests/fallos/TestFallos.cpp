@@ -97,7 +97,7 @@ Trabajo TestFallos::El_Trabajo(const QString& nombre)
             buffer += maquina == u"KRT800" ? QStringLiteral("SS %1,1\r\n").arg(i)
                                            : QStringLiteral("_+P%1_A%1").arg(i);
         try {
-            return Banco_Recepcion::Procesar(maquina, 0, buffer).completa;
+            return Banco_Recepcion::Procesar(maquina, 0, buffer).Completa();
         } catch (const Error_Ejecucion&) {
             return false; // who drives the transfer keeps the journal
         }

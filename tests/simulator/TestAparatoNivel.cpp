@@ -15,6 +15,7 @@ private Q_SLOTS:
     void empieza_tambien_con_el_sondeo();
     void repite_la_linea_rechazada();
     void fallos();
+    void tras_un_rechazo_puede_seguir();
     void el_ruido_espera_su_rechazo();
     void una_respuesta_que_no_se_entiende_se_pasa();
 
@@ -110,6 +111,24 @@ void TestAparatoNivel::fallos()
     b.Abrir();
     Dar(b, t, "\x05" + SI_PC);
     QCOMPARE(Dar(b, t, SI_PC), FIN);
+}
+
+void TestAparatoNivel::tras_un_rechazo_puede_seguir()
+{
+    Sonda s;
+    Aparato_Nivel::Ajustes ajustes = Dos();
+    ajustes.repetir = false;
+    ajustes.fallos.ruido = 2;
+    Aparato_Nivel a(ajustes, s.Salida(), s.Nota());
+    a.Abrir();
+    Dar(a, s, "\x05");
+    // The start line has nothing behind it to go on with.
+    QCOMPARE(Dar(a, s, NO_PC), PRINCIPIO);
+    QCOMPARE(Dar(a, s, SI_PC), linea_1);
+    QCOMPARE(Dar(a, s, NO_PC), QByteArray("~?\r\n"));
+    QCOMPARE(Dar(a, s, NO_PC), linea_2);
+    QCOMPARE(Dar(a, s, NO_PC), FIN);
+    QCOMPARE(Dar(a, s, NO_PC), FIN);
 }
 
 void TestAparatoNivel::el_ruido_espera_su_rechazo()

@@ -153,8 +153,8 @@ void TestDespacho::que_arranca_cada_operacion_data()
                               << "ayuda D0 paso 1" << 0;
     QTest::newRow("KRT300 1") << "KRT300" << 1 << "D"
                               << "ayuda D1 paso 1" << 0;
-    QTest::newRow("KRT300 11 es 1") << "KRT300" << 11 << "D"
-                                    << "ayuda D1 paso 1" << 0;
+    QTest::newRow("KRT300 11, con su ayuda") << "KRT300" << 11 << "D"
+                                             << "ayuda D11 paso 1" << 0;
     QTest::newRow("PX7 0") << "PX7" << 0 << "D"
                            << "ayuda D0 paso 1" << 0;
     QTest::newRow("KRT300 5 nada") << "KRT300" << 5 << "D"

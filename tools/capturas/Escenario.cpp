@@ -130,7 +130,7 @@ void Escenario::Descargar_Libro(const QString& modelo, int operacion, const QStr
         if (!linea.trimmed().isEmpty() && !linea.startsWith('#')) buffer += '_' + linea.trimmed();
     const auto hecho =
         Procesar_Recepcion({buffer, nombre, operacion, 0, Clave_Estacion, Nombre_Estacion});
-    if (!hecho.completa) qFatal("The field book %s was not stored", qPrintable(libro));
+    if (!hecho.Completa()) qFatal("The field book %s was not stored", qPrintable(libro));
 }
 
 void Escenario::Asentar()

@@ -51,7 +51,12 @@ Conversacion::Conversacion(std::unique_ptr<Puerto_Serie> p, QObject* padre)
     connect(puerto.get(), &Puerto_Serie::perdido, this, [this](const QString& motivo) {
         if (En_Marcha()) Poner_Etiqueta(motivo);
     });
-    connect(&Sucesos::Unico(), &Sucesos::ajustes_guardados, this, &Conversacion::Cerrar_Puerto);
+    connect(&Sucesos::Unico(), &Sucesos::ajustes_guardados, this, [this] {
+        if (En_Marcha())
+            Interrumpir(QStringLiteral("La configuración ha cambiado y la transferencia se ha "
+                                       "interrumpido"));
+        Cerrar_Puerto();
+    });
 }
 
 Conversacion::~Conversacion()
@@ -146,7 +151,14 @@ void Conversacion::Enviar(const QByteArray& bytes)
         puerto->Enviar(bytes);
     } catch (...) {
         Anotar_Fallo("Conversacion");
+        Poner_Etiqueta(QStringLiteral("No se puede enviar por el puerto; compruebe el cable"));
     }
+}
+
+void Conversacion::Interrumpir(const QString& motivo)
+{
+    Abandonar();
+    Poner_Etiqueta(motivo);
 }
 
 bool Conversacion::Esperar(int ms)

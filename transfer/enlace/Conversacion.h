@@ -68,9 +68,10 @@ protected:
     bool Empezar();
     /// Ends the transfer; tells it once. A class that has more to end does so first.
     virtual void Acabar();
+    /// Ends a transfer under way for a reason that the label then tells.
+    virtual void Interrumpir(const QString& motivo);
 
-    /// Sends; a failure goes to the run log, since a port that fails says so in the label (lost) or
-    /// by the silence of the instrument.
+    /// Sends; a failure goes to the run log, and the label says that the port takes nothing.
     void Enviar(const QByteArray& bytes);
     /// Waits `ms` of the program's time and lets events through: the port's, the clicks, the close
     /// box. Ends at once when the transfer does. @return false then, and without a transfer; this

@@ -15,6 +15,19 @@ constexpr int EVENTOS_POR_PASO = 46;
 const QString PULSE_INICIAR = "Pulse [&Iniciar] para comenzar la comunicación...";
 const QString ESPERANDO = "Esperando Datos...";
 const QString RECIBIENDO = "Recibiendo datos ...";
+const QString SE_CONSERVA = "lo recibido se conserva";
+
+QString Pedir_Carpeta()
+{
+    const auto elegido = Interfaz_Actual().Pedir_Fichero(
+        {.titulo = "No se puede escribir en LOG; elija otra carpeta para guardar lo recibido",
+         .filtro = "Recepciones (*.dia)|*.dia",
+         .carpeta = {},
+         .extension = "dia",
+         .guardar = true});
+    return elegido && !elegido->nombre.isEmpty() ? QFileInfo(elegido->nombre).absolutePath()
+                                                 : QString();
+}
 
 } // namespace
 
@@ -23,6 +36,9 @@ Descarga::Descarga(std::unique_ptr<Puerto_Serie> p, QObject* padre)
 {
     datos.maquina = Clave_Estacion;
     connect(&timer1, &QTimer::timeout, this, &Descarga::Tic);
+    connect(&diario, &Diario_Recepcion::fallo_cambiado, this, [this] {
+        if (En_Marcha() && !procesando) Poner_Etiqueta(Etiqueta_Recibiendo());
+    });
     Preparar_Dialogo();
     Poner_Habilitado(true);
 }
@@ -62,6 +78,12 @@ void Descarga::BtnIniciar()
 bool Descarga::Empezar_Recepcion()
 {
     if (!Iniciar_Habilitado() || !Empezar()) return false;
+    if (const QString motivo = Diario_Recepcion::Impedimento(); !motivo.isEmpty()) {
+        const Caja_Abierta caja(*this);
+        Interfaz_Actual().Mensaje("No se puede escribir en la carpeta LOG (" + motivo +
+                                      "); lo que se reciba estará sólo en memoria hasta que se guarde",
+                                  Icono::Exclamacion);
+    }
     const Serie_En_Linea* const serie = Serie_De(*familia);
     receptor = serie ? serie->receptor() : nullptr;
     resultado = {};
@@ -90,6 +112,11 @@ void Descarga::Error_De_Cable()
     en_aviso = false;
     intentos = 1;
     timer1.stop();
+    // Data that began to come while the box stood has waited: the transfer goes on with it.
+    if (El_Puerto().Pendientes() > 0) {
+        QTimer::singleShot(0, &El_Puerto(), &Puerto_Serie::Entregar);
+        return;
+    }
     Saltar_a_Sesiones();
     Q_EMIT cerrar();
 }
@@ -104,7 +131,7 @@ void Descarga::Evento()
 void Descarga::Recibir_Byte()
 {
     timer1.stop();
-    Poner_Etiqueta(RECIBIENDO);
+    Poner_Etiqueta(Etiqueta_Recibiendo());
     Poner_Rayo(true);
     if (++eventos >= EVENTOS_POR_PASO) {
         eventos = 0;
@@ -115,8 +142,18 @@ void Descarga::Recibir_Byte()
     diario.Anotar_Byte(*c);
     if (!receptor) return;
     const Respuesta_Recepcion respuesta = receptor->Recibir(*c);
-    if (!respuesta.envia.isEmpty()) Enviar(respuesta.envia);
+    if (!respuesta.envia.isEmpty()) {
+        // What the instrument hears to be received it forgets.
+        diario.Entregar();
+        Enviar(respuesta.envia);
+    }
     if (respuesta.fin) Saltar_a_Sesiones();
+}
+
+QString Descarga::Etiqueta_Recibiendo() const
+{
+    if (diario.Fallo().isEmpty()) return RECIBIENDO;
+    return RECIBIENDO + " No se puede escribir lo recibido, que queda en memoria: " + diario.Fallo();
 }
 
 void Descarga::Saltar_a_Sesiones()
@@ -124,17 +161,27 @@ void Descarga::Saltar_a_Sesiones()
     Preparar_Dialogo();
     Cerrar_Puerto();
     if (Recibido().isEmpty()) {
+        resultado.guardada = receptor && receptor->Sin_Datos();
         Acabar();
+        if (const QString falta = Que_Falta(); !falta.isEmpty()) Poner_Etiqueta(falta);
         return;
     }
     Poner_Etiqueta("Procesando Datos Recibidos...");
     Interfaz_Actual().Repintar();
     Procesar();
     Acabar();
-    Q_EMIT ocultar();
-    Poner_Etiqueta("Pulse &Iniciar para empezar la descarga");
     Poner_Rayo(false);
+    const QString falta = Que_Falta();
+    if (falta.isEmpty()) {
+        Q_EMIT ocultar();
+        Poner_Etiqueta("Pulse &Iniciar para empezar la descarga");
+    } else {
+        Poner_Etiqueta(falta);
+    }
     if (Fila_De(Operacion(datos.operacion)).muestra_sesiones) Q_EMIT mostrar_sesiones();
+    // The dialog stays to tell what is missing, in front of the sessions.
+    if (!falta.isEmpty()) Q_EMIT reclamada();
+    if (resultado.error) Avisar_Sin_Guardar();
 }
 
 void Descarga::Procesar()
@@ -145,8 +192,8 @@ void Descarga::Procesar()
         datos.buffer = Recibido();
         resultado = Procesar_Recepcion(datos);
     } catch (...) {
-        // The user hears nothing more here; the journal keeps what came.
         Anotar_Fallo("Procesar_Recepcion");
+        resultado.error = Error_En_Curso();
     }
     procesando = false;
     datos.buffer.clear();
@@ -158,19 +205,77 @@ void Descarga::Abandonar()
     Conversacion::Abandonar();
 }
 
+void Descarga::Dejarlo(const QString& motivo)
+{
+    if (En_Marcha()) Interrumpir(motivo);
+}
+
+void Descarga::Interrumpir(const QString& motivo)
+{
+    Abandonar();
+    Preparar_Dialogo();
+    const QString falta = Que_Falta();
+    Poner_Etiqueta(falta.isEmpty() ? motivo : motivo + ": " + falta);
+}
+
 void Descarga::Acabar()
 {
-    // A library is stored without a session.
-    const bool sin_sesion = Operacion(datos.operacion) == Operacion::Libreria;
-    bool guardada = resultado.completa && (sin_sesion || !resultado.sesiones.isEmpty());
+    if (!receptor) {
+        Conversacion::Acabar();
+        return;
+    }
+    resultado.faltas += receptor->Faltas();
+    receptor.reset();
     try {
-        if (guardada && !Base_Datos) throw Error_Ejecucion(91);
-        if (guardada) Base_Datos->Sincronizar();
+        if (resultado.Completa() && !Base_Datos) throw Error_Ejecucion(91);
+        if (resultado.Completa()) Base_Datos->Sincronizar();
     } catch (...) {
-        guardada = false;
+        Anotar_Fallo("Descarga");
+        resultado.error = Error_En_Curso();
+    }
+    perdido = false;
+    if (!diario.Terminar(resultado.Completa())) Guardar_En_Otra_Carpeta();
+    Conversacion::Acabar();
+}
+
+// The last resort is the user's temporary folder, when he can't be asked or names no other.
+void Descarga::Guardar_En_Otra_Carpeta()
+{
+    QString elegida;
+    try {
+        if (!Interfaz_Actual().Terminada()) elegida = Pedir_Carpeta();
+    } catch (...) {
         Anotar_Fallo("Descarga");
     }
-    receptor.reset();
-    diario.Terminar(guardada);
-    Conversacion::Acabar();
+    for (const QString& carpeta : {elegida, QDir::tempPath()}) {
+        if (carpeta.isEmpty()) continue;
+        try {
+            const QString fichero = diario.Guardar_En(carpeta);
+            Interfaz_Actual().Mensaje("Lo recibido se ha guardado en " + fichero,
+                                      Icono::Informacion);
+            return;
+        } catch (...) {
+            Anotar_Fallo("Descarga");
+            if (!diario.Conservado().isEmpty()) return;
+        }
+    }
+    perdido = true;
+}
+
+void Descarga::Avisar_Sin_Guardar() const
+{
+    Informe_Error("No se ha podido guardar la descarga; " +
+                      (perdido ? QStringLiteral("lo recibido no se ha podido conservar") : SE_CONSERVA),
+                  *resultado.error);
+}
+
+QString Descarga::Que_Falta() const
+{
+    if (Conservado().isEmpty() && !perdido) return {};
+    const Serie_En_Linea* const serie = Serie_De(*familia);
+    QString frase = Frase_Faltas(resultado.faltas, serie ? serie->unidad : QString());
+    if (resultado.error || frase.isEmpty())
+        frase = QString("La descarga no se ha guardado") + (resultado.error ? "" : " entera") +
+                (frase.isEmpty() ? "" : ": ") + frase;
+    return frase + "; " + (perdido ? "lo recibido no se ha podido conservar" : SE_CONSERVA);
 }

@@ -38,14 +38,20 @@ public:
     void Saltar_a_Sesiones();
     /// The journal stays if bytes came.
     void Abandonar() override;
+    /// Gives up a transfer under way; the label tells why and what is missing. Without one: nothing.
+    void Dejarlo(const QString& motivo);
+    /// The system is about to end the program: what came goes to the disk.
+    void Asegurar() { diario.Al_Disco(); }
 
     /// Ticks counted; never cleared at the start of a transfer, so a dialog that stays loaded waits
     /// less the next time, and a count past 10 never fires again.
     int Intentos() const { return intentos; }
     /// What the transfer under way has accepted so far; empty without one.
     QString Recibido() const { return receptor ? receptor->Buffer() : QString(); }
-    /// Sessions that the last reception made, and whether all of it was stored.
+    /// Sessions that the last reception made, and what of it stands in none.
     const Resultado_Recepcion& Resultado() const { return resultado; }
+    /// Journal that the last reception left; empty when all of it is accounted for.
+    QString Conservado() const { return diario.Conservado(); }
 
 Q_SIGNALS:
     /// The user lands on the list of sessions, on its first row.
@@ -54,6 +60,7 @@ Q_SIGNALS:
 protected:
     void Evento() override;
     void Acabar() override;
+    void Interrumpir(const QString& motivo) override;
 
 private:
     void Preparar_Dialogo();
@@ -61,6 +68,10 @@ private:
     void Recibir_Byte();
     void Error_De_Cable();
     void Procesar();
+    void Guardar_En_Otra_Carpeta();
+    void Avisar_Sin_Guardar() const;
+    QString Que_Falta() const;
+    QString Etiqueta_Recibiendo() const;
 
     const Familia* familia;
     std::unique_ptr<Receptor> receptor;
@@ -68,6 +79,7 @@ private:
     QTimer timer1;
     Datos_Recepcion datos;
     Resultado_Recepcion resultado;
+    bool perdido = false; ///< the last reception could not be kept anywhere
     int intentos = 0, eventos = 0;
     bool en_aviso = false, procesando = false, sin_boton = false;
 };

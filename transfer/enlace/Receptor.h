@@ -1,5 +1,7 @@
 #pragma once
 
+#include "transfer/enlace/Recepcion.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -32,9 +34,26 @@ public:
     /// Data that a session is made of, as characters of the program's page.
     const QString& Buffer() const { return buffer; }
 
-    /// What is whole of a reception that breaks off here, without the record or line under way.
+    /// All that was accepted, as data that a session can be made of, also of a reception that
+    /// breaks off here.
     virtual QString Rescatable() const;
+
+    /// What the wire has brought so far and the buffer doesn't hold.
+    virtual Faltas_Recepcion Faltas() const { return {}; }
+    /// The same against `Rescatable`.
+    virtual Faltas_Recepcion Faltas_De_Rescate() const { return Faltas(); }
+
+    /// The instrument has ended its data and there was none: what came are the wire's own lines.
+    virtual bool Sin_Datos() const { return false; }
 
 protected:
     QString buffer;
 };
+
+/// Tells whether a refused piece of the wire (`mala`) is the one that came good later (`buena`).
+/// Both are given as data and check: it is when the data is the same and the check alone was
+/// damaged, or when the check is the same and the data agrees in most of it.
+/// Different data with one check is rare, and alike as well rarer still; a piece that isn't
+/// recognised counts as not repeated, so that a doubt keeps the journal.
+bool Es_Repeticion(QStringView datos_mala, QStringView suma_mala, QStringView datos_buena,
+                   QStringView suma_buena);

@@ -4,7 +4,11 @@
 #include "core/ModEstTotal.h"
 #include "core/ModLOG.h"
 #include "core/Sesiones.h"
+#include "transfer/enlace/Almacen.h"
 #include "transfer/Peticiones_Transfer.h"
+
+#include <algorithm>
+#include <QSet>
 
 namespace {
 
@@ -14,6 +18,7 @@ constexpr qint64 LOTE = 5000;
 
 constexpr qsizetype LARGO_CON_PROGRESO = 1096;
 constexpr qint64 REGISTROS_POR_PASO = 10;
+const QString REGISTROS = QStringLiteral("Registros");
 
 } // namespace
 
@@ -39,23 +44,38 @@ struct Almacen_KRT300::Datos {
 
     void Poner_Global(const QString& registro)
     {
-        for (QString& g : globales)
-            if (g.startsWith(registro[0])) {
-                g = registro;
-                datosg = globales.join(QChar(SEP_LISTA));
-                return;
-            }
-        globales << registro;
+        const auto viejo = std::ranges::find_if(
+            globales, [&](const QString& g) { return g.startsWith(registro[0]); });
+        if (viejo == globales.end())
+            globales << registro;
+        else if (*viejo != registro) {
+            // One that no row has carried yet goes without a trace.
+            if (globales_sueltos.contains(registro[0])) ++faltas.sueltas;
+            *viejo = registro;
+        } else
+            return;
+        globales_sueltos.insert(registro[0]);
         datosg = globales.join(QChar(SEP_LISTA));
     }
 
-    void Anadir(const QString& registro)
+    void Poner_Punto(const QString& nombre)
     {
+        if (punto_suelto && nombre != punto) ++faltas.sueltas;
+        punto = nombre;
+        punto_suelto = !punto.isEmpty();
+        if (Cortar_A_Columna(punto, REGISTROS, QStringLiteral("Punto"))) ++faltas.cortadas;
+    }
+
+    void Anadir(QString registro)
+    {
+        if (Cortar_A_Columna(registro, REGISTROS, QStringLiteral("Datos"))) ++faltas.cortadas;
         if (!en_lote) {
             base.BeginTrans();
             en_lote = true;
         }
         insercion.Anadir({id, secuencia, punto, registro, datosg});
+        globales_sueltos.clear();
+        punto_suelto = false;
         if (secuencia++ % LOTE == 0) Confirmar();
     }
 
@@ -75,6 +95,9 @@ struct Almacen_KRT300::Datos {
     QHash<QChar, QString> clases;
     QStringList globales;
     QString datosg, punto;
+    QSet<QChar> globales_sueltos; // by their first character: no row carries them yet
+    bool punto_suelto = false;
+    Faltas_Recepcion faltas;
     qint64 secuencia = 1;
     bool en_lote = false;
 };
@@ -102,7 +125,7 @@ void Almacen_KRT300::Guardar_Registro(const QString& registro)
 {
     if (registro.isEmpty()) return;
     if (registro[0] == u'+') {
-        d->punto = Basico::Trim(registro.mid(1));
+        d->Poner_Punto(Basico::Trim(registro.mid(1)));
         return;
     }
     // Odd on purpose: behind a blank a kind is found, and yet a global record is not taken over.
@@ -111,22 +134,42 @@ void Almacen_KRT300::Guardar_Registro(const QString& registro)
     if (llano.isEmpty()) return;
     const QString& clase = d->Clase(llano[0]);
     if (clase == u"G") {
-        if (!con_blanco) d->Poner_Global(registro);
-    } else if (!clase.isEmpty()) {
+        if (con_blanco)
+            ++d->faltas.sueltas;
+        else
+            d->Poner_Global(registro);
+    } else if (clase.isEmpty()) {
+        ++d->faltas.desconocidas;
+    } else {
         d->Anadir(registro);
     }
 }
 
-bool Guardar_KRT300(const QString& buffer, qint64 id, const QString& maquina, int operacion)
+Faltas_Recepcion Almacen_KRT300::Faltas() const
 {
-    // Text ahead of the first mark is no record; without any mark all of it is one.
+    Faltas_Recepcion faltas = d->faltas;
+    faltas.sueltas += int(d->globales_sueltos.size()) + (d->punto_suelto ? 1 : 0);
+    return faltas;
+}
+
+qint64 Almacen_KRT300::Filas() const
+{
+    return d->secuencia - 1;
+}
+
+void Guardar_KRT300(const QString& buffer, qint64 id, const QString& maquina, int operacion,
+                    Resultado_Recepcion& resultado)
+{
     std::optional<Proceso> proceso;
     if (buffer.size() > LARGO_CON_PROGRESO)
         proceso.emplace("Procesando Datos Recibidos...", buffer.size());
     try {
         const std::shared_ptr<Base> base = Base::Abrir(Fichero_MDB);
         Almacen_KRT300 almacen(*base, id, maquina, operacion);
+        // Text ahead of the first mark is no record; without any mark all of it is one.
         qsizetype desde = buffer.indexOf(u'_') + 1;
+        if (desde > 1 && !Basico::Trim(buffer.left(desde - 1)).isEmpty())
+            ++resultado.faltas.desconocidas;
         for (qint64 n = REGISTROS_POR_PASO;; ++n) {
             if (proceso && n % REGISTROS_POR_PASO == 0) {
                 Interfaz_Actual().Proceso_Avanzar(desde);
@@ -138,10 +181,12 @@ bool Guardar_KRT300(const QString& buffer, qint64 id, const QString& maquina, in
             desde = hasta + 1;
         }
         almacen.Confirmar();
-        return true;
+        resultado.faltas += almacen.Faltas();
+        resultado.filas += almacen.Filas();
+        resultado.guardada = true;
     } catch (...) {
         Anotar_Fallo("Guardar_KRT300");
-        return false;
+        resultado.error = Error_En_Curso();
     }
 }
 
@@ -169,10 +214,15 @@ std::optional<Resultado_Recepcion> Guardar_Descarga_KRT300(const Datos_Recepcion
         return std::nullopt;
     }
     Resultado_Recepcion r;
-    const QString id = Nueva_Sesion(datos.nombre, datos.operacion, datos.maquina, datos.maqdes);
-    if (id.isEmpty()) return r;
-    r.sesiones << id;
-    r.completa = Guardar_KRT300(datos.buffer, id.toLongLong(), datos.maquina, datos.operacion);
-    Contar_Puntos(id.toLongLong());
+    try {
+        const qint64 id = Abrir_Sesion(datos.nombre, datos, r);
+        Guardar_KRT300(datos.buffer, id, datos.maquina, datos.operacion, r);
+        // A session that isn't whole has no count: it is known by that.
+        if (r.guardada) Contar_Puntos(id);
+    } catch (...) {
+        Anotar_Fallo("Guardar_Descarga_KRT300");
+        r.error = Error_En_Curso();
+        r.guardada = false;
+    }
     return r;
 }

@@ -19,11 +19,17 @@ public:
     Almacen_KRT300& operator=(const Almacen_KRT300&) = delete;
 
     /// Stores one record: "+" sets the current point, a "G" kind joins the global records in force,
-    /// another known kind becomes a row, an unknown kind vanishes.
-    /// @throws Error_Ejecucion 3163 when the record is longer than its column
+    /// another known kind becomes a row, an unknown kind vanishes. What is wider than its column is
+    /// cut to it.
     void Guardar_Registro(const QString& registro);
     /// Commits what has been stored. Without it, also the destructor commits.
     void Confirmar();
+
+    /// What of the records so far stands in no row: unknown ones, cut ones, and general records and
+    /// points that no row carries.
+    Faltas_Recepcion Faltas() const;
+    /// Rows so far.
+    qint64 Filas() const;
 
 private:
     struct Datos;
@@ -31,8 +37,10 @@ private:
 };
 
 /// Cuts a KRT300 or PX7 buffer on "_" and stores its records under session `id`. A failure has no
-/// message (it goes to the run log) and leaves what was written. @return true when all is stored
-bool Guardar_KRT300(const QString& buffer, qint64 id, const QString& maquina, int operacion);
+/// message (it goes to the run log) and leaves what was written.
+/// @param resultado  learns whether all is stored, the rows, what was left out, and the failure
+void Guardar_KRT300(const QString& buffer, qint64 id, const QString& maquina, int operacion,
+                    Resultado_Recepcion& resultado);
 
 /// Sets `Npuntos` of a session to the number of its distinct point names; says so when there are
 /// none.

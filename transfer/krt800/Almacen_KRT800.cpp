@@ -4,6 +4,7 @@
 #include "core/ModEstTotal.h"
 #include "core/Sesiones.h"
 #include "session/Identificador.h"
+#include "transfer/enlace/Almacen.h"
 #include "transfer/krt800/Perfiles_KRT800.h"
 
 namespace {
@@ -111,30 +112,61 @@ void Globales_KRT800::Campos_Globales(const QString& linea)
 
 namespace {
 
-// Stores the lines of the buffer. @return false when the user cancelled; `lineas` counts blank ones
-bool Guardar_Lineas(Base& base, const Datos_Recepcion& datos, qint64 id, qint64& lineas,
-                    bool con_progreso)
+// Stores the lines of the buffer; the user may cancel.
+// @return number of lines, blank ones included
+qint64 Guardar_Lineas(Base& base, const Datos_Recepcion& datos, qint64 id, Resultado_Recepcion& r,
+                      bool con_progreso)
 {
     Globales_KRT800 globales(base, datos.maquina, datos.operacion);
     Insercion insercion =
         base.Preparar_Insercion("Registros", {"ID", "Secuencia", "Punto", "Datos", "DatosG"});
     const bool con_punto = Operacion(datos.operacion) == Operacion::Puntos;
+    qint64 lineas = 0;
     qsizetype desde = 0;
     for (qsizetype fin; (fin = datos.buffer.indexOf(CR_LF, desde)) >= 0; desde = fin + 2) {
-        if (Proceso_Cancelado) return false;
-        const QString linea = datos.buffer.mid(desde, fin - desde);
+        if (Proceso_Cancelado) {
+            r.faltas.interrumpida = true;
+            break;
+        }
+        QString linea = datos.buffer.mid(desde, fin - desde);
         ++lineas;
         if (!linea.isEmpty()) {
             globales.Campos_Globales(linea);
-            const QString punto = con_punto ? Trozo(1, linea, u',') : QString();
+            QString punto = con_punto ? Trozo(1, linea, u',') : QString();
+            const bool punto_cortado = Cortar_A_Columna(punto, "Registros", "Punto");
+            if (Cortar_A_Columna(linea, "Registros", "Datos") || punto_cortado) ++r.faltas.cortadas;
             insercion.Anadir({id, lineas, punto, linea, globales.DatosG()});
+            ++r.filas;
         }
         if (con_progreso && lineas % LINEAS_POR_PASO == 0) {
             Interfaz_Actual().Proceso_Avanzar(fin);
             Interfaz_Actual().Dejar_Pasar();
         }
     }
-    return true;
+    return lineas;
+}
+
+const QString FALLO_AL_GUARDAR =
+    QStringLiteral("Se produjo un error al guardar los datos descargados");
+
+// The whole session or nothing of it.
+Resultado_Recepcion Guardar_Sesion(const Datos_Recepcion& datos, bool con_progreso)
+{
+    Resultado_Recepcion r;
+    try {
+        Transaccion transaccion(*Base_Datos);
+        const qint64 id = Abrir_Sesion(datos.nombre, datos, r);
+        // Odd on purpose: blank lines count as points, though they make no row.
+        Poner_NPuntos(*Base_Datos, id, Guardar_Lineas(*Base_Datos, datos, id, r, con_progreso));
+        transaccion.Confirmar();
+        r.guardada = true;
+    } catch (...) {
+        const Error_Ejecucion error = Error_En_Curso();
+        Avisar_Fallo(error, FALLO_AL_GUARDAR);
+        r = {};
+        r.error = error;
+    }
+    return r;
 }
 
 // Cancelled, the lines stay as they came: they are stored all the same.
@@ -153,46 +185,26 @@ void Ordenar(qint64 id, bool con_progreso)
 
 } // namespace
 
-bool Guardar_KRT800(const Datos_Recepcion& datos, QString& numero)
+Resultado_Recepcion Guardar_KRT800(const Datos_Recepcion& datos)
 {
-    const QString mensaje = "Se produjo un error al guardar los datos descargados";
     const bool con_progreso = datos.buffer.size() > LARGO_CON_PROGRESO;
     Proceso_Cancelado = false;
     std::optional<Proceso> proceso;
     if (con_progreso) proceso.emplace("Procesando Datos Recibidos...", datos.buffer.size());
-    bool enteras = false;
-    try {
-        Transaccion transaccion(*Base_Datos);
-        const QString nueva =
-            Nueva_Sesion(datos.nombre, datos.operacion, datos.maquina, datos.maqdes);
-        if (!nueva.isEmpty()) {
-            const qint64 id = nueva.toLongLong();
-            qint64 lineas = 0;
-            enteras = Guardar_Lineas(*Base_Datos, datos, id, lineas, con_progreso);
-            // Odd on purpose: blank lines count as points, though they make no row.
-            Poner_NPuntos(*Base_Datos, id, lineas);
-        }
-        transaccion.Confirmar();
-        numero = nueva;
-    } catch (...) {
-        Avisar_Fallo(Error_En_Curso(), mensaje);
-        return false;
-    }
-    if (Operacion(datos.operacion) == Operacion::Perfiles && !numero.isEmpty()) {
+    Resultado_Recepcion r = Guardar_Sesion(datos, con_progreso);
+    // Lines wider than their column are stored cut; they are how a wrong output format shows.
+    if (r.faltas.cortadas > 0) Avisar_Formato();
+    if (Operacion(datos.operacion) == Operacion::Perfiles && r.guardada) {
         try {
-            Ordenar(numero.toLongLong(), con_progreso);
+            Ordenar(r.sesiones.first().toLongLong(), con_progreso);
         } catch (...) {
-            Avisar_Fallo(Error_En_Curso(), mensaje);
+            Avisar_Fallo(Error_En_Curso(), FALLO_AL_GUARDAR);
         }
     }
-    return enteras;
+    return r;
 }
 
 std::optional<Resultado_Recepcion> Guardar_Descarga_KRT800(const Datos_Recepcion& datos)
 {
-    Resultado_Recepcion r;
-    QString numero;
-    r.completa = Guardar_KRT800(datos, numero);
-    if (!numero.isEmpty()) r.sesiones << numero;
-    return r;
+    return Guardar_KRT800(datos);
 }

@@ -10,10 +10,9 @@
 class Base;
 
 /// Makes a session of KRT800 text, one row a line ended by CR LF, in one transaction; a failure is
-/// reported and rolls everything back. A cancelled one keeps the rows stored so far.
-/// @param numero  receives the session's number, empty when none was made
-/// @return true when every line is stored
-bool Guardar_KRT800(const Datos_Recepcion& datos, QString& numero);
+/// reported and rolls everything back. A cancelled one keeps the rows stored so far. A line wider
+/// than its column is stored cut, and the box of the wrong output format says so.
+Resultado_Recepcion Guardar_KRT800(const Datos_Recepcion& datos);
 
 /// The general values in force of a KRT800 session: one item a `Campos` row marked "GE".
 class Globales_KRT800 {

@@ -2,67 +2,74 @@
 
 #include "core/ModEstTotal.h"
 #include "core/Sesiones.h"
+#include "transfer/enlace/Almacen.h"
 
 namespace {
 
-void Apuntar_Lineas(Base& base, const QString& buffer)
+const QStringList COLUMNAS_TEMP = {"Punto", "Secuencia", "Datos", "DatosG"};
+
+// What a storing that failed left behind goes first: its lines are in the journal of that transfer.
+void Apuntar_Lineas(Base& base, const QString& buffer, Resultado_Recepcion& resultado)
 {
-    Insercion insercion =
-        base.Preparar_Insercion("Registros_Temp", {"Punto", "Secuencia", "Datos", "DatosG"});
+    Transaccion transaccion(base);
+    base.Execute("Delete From Registros_Temp");
+    Insercion insercion = base.Preparar_Insercion("Registros_Temp", COLUMNAS_TEMP);
     qint64 i = 0;
     for (const QString& pieza : buffer.split(u'\n')) {
         ++i;
-        if (!pieza.isEmpty()) insercion.Anadir({QString(), i, pieza.chopped(1), QString()});
+        if (pieza.isEmpty()) continue;
+        QString linea = pieza.chopped(1);
+        if (Cortar_A_Columna(linea, "Registros", "Datos")) ++resultado.faltas.cortadas;
+        insercion.Anadir({QString(), i, linea, QString()});
     }
+    transaccion.Confirmar();
 }
 
-struct Reparto {
-    int primera = 0, ultima = 0;
-    QStringList sesiones;
+struct Trabajo {
+    QString nombre;
+    QStringList lineas;
 };
 
-// Gives each staged row the number of its session (in `Secuencia`) and makes the sessions. A line
-// that begins with "t" closes a job; the name of the next comes from the line behind it, and
-// without one the reading fails, save for a journal: nothing would ever get its lines back.
-Reparto Repartir(Base& base, const Datos_Recepcion& datos)
+// The staged lines by jobs: a line that begins with "t" closes one. Lines behind the last of them
+// are a job that was not closed, and no line at all is a job without lines.
+QList<Trabajo> Trabajos(Base& base)
 {
-    const auto nueva = [&](const QString& nombre) {
-        QString id = Nueva_Sesion(nombre, datos.operacion, datos.maquina, datos.maqdes);
-        if (id.isEmpty()) throw Error_Ejecucion(6);
-        return id;
-    };
-    Reparto r;
-    Transaccion transaccion(base);
-    int id = Siguiente_ID();
-    r.primera = id;
-    QString nombre;
+    QList<Trabajo> lista;
     bool abierto = false;
-    Conjunto_Registros filas =
-        base.OpenRecordset("SELECT * FROM Registros_Temp", Tipo_Conjunto::Dinamico);
-    if (!filas.Es_EOF()) nombre = Nombre_Trabajo(filas.Texto("Datos"));
-    while (!filas.Es_EOF()) {
-        const bool cierra = filas.Texto("Datos").startsWith(u't');
-        if (cierra) r.sesiones << nueva(nombre);
-        filas.Edit();
-        filas.Poner("Secuencia", id);
-        filas.Poner("Punto", nombre);
-        filas.Update();
-        filas.MoveNext();
-        abierto = !cierra;
-        if (cierra && datos.rescatada && filas.Es_EOF()) break;
-        if (cierra) {
-            nombre = Nombre_Trabajo(filas.Texto("Datos"));
-            id = Siguiente_ID();
-        }
+    for (Recorrido filas = base.Recorrer("SELECT Datos FROM Registros_Temp"); filas.Siguiente();) {
+        const QString linea = filas.Texto(0);
+        if (!abierto) lista.append({Nombre_Trabajo(linea), {}});
+        lista.last().lineas << linea;
+        abierto = !linea.startsWith(u't');
     }
-    r.ultima = id;
-    if (r.sesiones.isEmpty() || (datos.cortada && abierto)) r.sesiones << nueva(nombre);
-    transaccion.Confirmar();
-    return r;
+    if (lista.isEmpty()) lista.append(Trabajo());
+    return lista;
 }
 
-void Copiar_Sesion(Base& base, int id)
+// Makes the session of each job and gives its staged rows the session's number, in `Secuencia`.
+void Repartir_Sesiones(Base& base, const Datos_Recepcion& datos, Resultado_Recepcion& resultado)
 {
+    Resultado_Recepcion hechas;
+    Transaccion transaccion(base);
+    const QList<Trabajo> trabajos = Trabajos(base);
+    base.Execute("Delete From Registros_Temp");
+    Insercion insercion = base.Preparar_Insercion("Registros_Temp", COLUMNAS_TEMP);
+    for (const Trabajo& trabajo : trabajos) {
+        const qint64 id = Abrir_Sesion(trabajo.nombre, datos, hechas);
+        QString punto = trabajo.nombre;
+        Cortar_A_Columna(punto, "Registros", "Punto");
+        for (const QString& linea : trabajo.lineas)
+            insercion.Anadir({punto, id, linea, QString()});
+    }
+    transaccion.Confirmar();
+    resultado.sesiones = hechas.sesiones;
+    resultado.faltas += hechas.faltas;
+}
+
+// @return rows of the session
+qint64 Copiar_Sesion(Base& base, const QString& id)
+{
+    Transaccion transaccion(base);
     QStringList lineas;
     for (Recorrido filas = base.Recorrer(
              QStringLiteral("Select Datos From Registros_Temp Where Secuencia = %1").arg(id));
@@ -72,11 +79,13 @@ void Copiar_Sesion(Base& base, int id)
         base.Preparar_Insercion("Registros", {"ID", "Secuencia", "Punto", "Datos", "DatosG"});
     qint64 secuencia = 0;
     for (const QString& linea : lineas)
-        insercion.Anadir({id, ++secuencia, " ", linea, " "});
+        insercion.Anadir({id.toLongLong(), ++secuencia, " ", linea, " "});
     // One more than the rows: the end line counts, though it is not stored.
     base.Execute(QStringLiteral("Update Sesiones Set nPuntos = %1 where ID = %2")
                      .arg(secuencia + 1)
                      .arg(id));
+    transaccion.Confirmar();
+    return secuencia;
 }
 
 } // namespace
@@ -88,31 +97,28 @@ QString Nombre_Trabajo(const QString& linea)
     return coma == 0 ? QString() : Basico::Mid(linea, DESDE, coma - DESDE);
 }
 
-bool Guardar_NV400(const Datos_Recepcion& datos, QStringList& sesiones)
+Resultado_Recepcion Guardar_NV400(const Datos_Recepcion& datos)
 {
+    Resultado_Recepcion r;
+    qint64 apuntadas = 0;
     try {
-        {
-            Transaccion transaccion(*Base_Datos);
-            if (datos.rescatada) Base_Datos->Execute("Delete From Registros_Temp");
-            Apuntar_Lineas(*Base_Datos, datos.buffer);
-            transaccion.Confirmar();
-        }
-        const Reparto r = Repartir(*Base_Datos, datos);
-        sesiones = r.sesiones;
-        // Odd on purpose: lines behind the last "t" are copied under a number that has no session.
-        for (int id = r.primera; id <= r.ultima; ++id)
-            Copiar_Sesion(*Base_Datos, id);
+        Apuntar_Lineas(*Base_Datos, datos.buffer, r);
+        apuntadas = Base_Datos->OpenRecordset("Registros_Temp").RecordCount();
+        Repartir_Sesiones(*Base_Datos, datos, r);
+        for (const QString& id : std::as_const(r.sesiones))
+            r.filas += Copiar_Sesion(*Base_Datos, id);
+        r.faltas.sin_sesion = apuntadas - r.filas;
         Base_Datos->Execute("Delete From Registros_Temp");
-        return true;
+        r.guardada = true;
     } catch (...) {
-        Informe_Error("Se produjo un error al guardar los datos de Medición", Error_En_Curso());
-        return false;
+        r.error = Error_En_Curso();
+        r.faltas.sin_sesion = apuntadas - r.filas;
+        Informe_Error("Se produjo un error al guardar los datos de Medición", *r.error);
     }
+    return r;
 }
 
 std::optional<Resultado_Recepcion> Guardar_Descarga_NV400(const Datos_Recepcion& datos)
 {
-    Resultado_Recepcion r;
-    r.completa = Guardar_NV400(datos, r.sesiones);
-    return r;
+    return Guardar_NV400(datos);
 }

@@ -10,10 +10,10 @@
 /// without one.
 QString Nombre_Trabajo(const QString& linea);
 
-/// Makes the sessions of an NV400 transfer: a line that begins with "t" closes a job.
-/// @param sesiones  receives the numbers of the sessions made, in order
-/// @return true when every line is stored
-bool Guardar_NV400(const Datos_Recepcion& datos, QStringList& sesiones);
+/// Makes the sessions of an NV400 transfer: a line that begins with "t" closes a job, and every job
+/// becomes a session, also a last one that was not closed. A failure is reported; sessions made
+/// before it and the staged lines stay, and the next storing empties the staging first.
+Resultado_Recepcion Guardar_NV400(const Datos_Recepcion& datos);
 
 /// Stores a finished download of any operation.
 std::optional<Resultado_Recepcion> Guardar_Descarga_NV400(const Datos_Recepcion& datos);

@@ -50,8 +50,9 @@ private Q_SLOTS:
     void destruida_deja_sitio();
     void abandonar_cierra_y_acaba_una_vez();
     void un_error_al_atender_calla();
-    void un_envio_que_falla_calla();
+    void un_envio_que_falla_se_dice_en_la_etiqueta();
     void guardar_la_configuracion_cierra_el_puerto();
+    void guardar_la_configuracion_a_medias_acaba();
     void la_perdida_se_dice_solo_en_marcha();
     void el_rayo_da_la_vuelta();
     void la_espera_dura_lo_suyo();
@@ -178,12 +179,13 @@ void TestConversacion::un_error_al_atender_calla()
     QVERIFY(interfaz->avisos.isEmpty());
 }
 
-void TestConversacion::un_envio_que_falla_calla()
+void TestConversacion::un_envio_que_falla_se_dice_en_la_etiqueta()
 {
     puerto->falla_tras = 1;
     charla->Enviar("a");
     charla->Enviar("b");
     QCOMPARE(puerto->enviado, QByteArray("a"));
+    QCOMPARE(charla->Etiqueta(), QString("No se puede enviar por el puerto; compruebe el cable"));
     charla->Cerrar_Puerto();
     charla->Enviar("c");
     QVERIFY(interfaz->avisos.isEmpty());
@@ -196,6 +198,17 @@ void TestConversacion::guardar_la_configuracion_cierra_el_puerto()
     QCOMPARE(puerto->RThreshold, 0);
     QVERIFY(charla->Abrir_Puerto());
     QCOMPARE(puerto->RThreshold, 1);
+}
+
+void TestConversacion::guardar_la_configuracion_a_medias_acaba()
+{
+    QSignalSpy terminada(charla.get(), &Conversacion::terminada);
+    QVERIFY(charla->Empezar());
+    Q_EMIT Sucesos::Unico().ajustes_guardados();
+    QVERIFY(!puerto->Abierto() && !charla->En_Marcha());
+    QCOMPARE(terminada.size(), 1);
+    QCOMPARE(charla->Etiqueta(),
+             QString("La configuración ha cambiado y la transferencia se ha interrumpido"));
 }
 
 void TestConversacion::la_perdida_se_dice_solo_en_marcha()

@@ -44,11 +44,23 @@ private Q_SLOTS:
     void leer_un_diario_no_toca_la_descarga_data();
     void leer_un_diario_no_toca_la_descarga();
     void el_rescate_entero_tampoco();
+    void lo_que_falta_conserva_y_se_dice_data();
+    void lo_que_falta_conserva_y_se_dice();
+    void un_fallo_al_guardar_se_dice_data();
+    void un_fallo_al_guardar_se_dice();
+    void lo_aceptado_esta_escrito_antes_de_contestar();
+    void sin_carpeta_se_avisa_antes_y_se_ofrece_otra();
+    void sin_carpeta_y_completa_no_se_pregunta();
+    void si_no_se_elige_carpeta_va_a_la_temporal();
+    void la_configuracion_a_medias_acaba_y_se_dice();
+    void lo_que_llega_con_el_aviso_puesto_no_se_pierde();
+    void un_puerto_que_no_envia_se_dice();
+    void lo_guardado_se_comprueba();
     void sin_permiso_de_otra_no_empieza();
 
 private:
     void Nueva(const QString& clave = "KRT300");
-    static QByteArray Trama(const QByteArray& datos);
+    static QByteArray Trama(const QByteArray& datos, char secuencia = '0');
     QStringList Diarios() const;
 
     std::unique_ptr<Base_De_Prueba> base;
@@ -91,9 +103,9 @@ void TestDescarga::Nueva(const QString& clave)
     descarga->Preparar(0, "Obra");
 }
 
-QByteArray TestDescarga::Trama(const QByteArray& datos)
+QByteArray TestDescarga::Trama(const QByteArray& datos, char secuencia)
 {
-    const QByteArray interior = datos + '0';
+    const QByteArray interior = datos + secuencia;
     int suma = 0;
     for (const char c : interior)
         suma ^= static_cast<unsigned char>(c);
@@ -239,7 +251,7 @@ void TestDescarga::una_descarga_entera_guarda_y_salta()
     QCOMPARE(descarga->Etiqueta(), QString("Pulse &Iniciar para empezar la descarga"));
     QVERIFY(!descarga->Rayo_Visible());
     QCOMPARE(descarga->Resultado().sesiones, QStringList{"1"});
-    QVERIFY(descarga->Resultado().completa);
+    QVERIFY(descarga->Resultado().Completa());
     QCOMPARE(Diarios(), QStringList());
 
     Conjunto_Registros s = Base_Datos->OpenRecordset("Sesiones");
@@ -475,6 +487,251 @@ void TestDescarga::el_rescate_entero_tampoco()
     QCOMPARE(descarga->Resultado().sesiones, QStringList{"2"});
     QCOMPARE(base->Columna("SELECT Datos FROM Registros WHERE ID = 2 ORDER BY Secuencia"),
              (QStringList{"A11", "A1", "A12"}));
+}
+
+void TestDescarga::lo_que_falta_conserva_y_se_dice_data()
+{
+    QTest::addColumn<QString>("clave");
+    QTest::addColumn<int>("ope");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("falta"); // empty: complete
+    QTest::addColumn<int>("filas");
+    const auto linea = [](const QByteArray& carga) {
+        return carga + Suma_Nivel(QString::fromLatin1(carga)).toLatin1() + ",\r\n";
+    };
+    const QByteArray mala = "\x02_A33" "1999\x03", eot = "\x04";
+    const QByteArray a = Trama("_+P1_A11"), b = Trama("_A22", '1'), c = Trama("_A33", '2');
+    QTest::newRow("KRT300 entero") << "KRT300" << 0 << a + b + eot << "" << 2;
+    QTest::newRow("KRT300 EOT en una trama")
+        << "KRT300" << 0 << a + b.chopped(3) + eot << "1 trama sin terminar" << 1;
+    QTest::newRow("KRT300 no repetida")
+        << "KRT300" << 0 << a + mala + c + eot << "1 trama rechazada y no repetida" << 2;
+    QTest::newRow("KRT300 repetida") << "KRT300" << 0 << a + mala + b + eot << "" << 2;
+    QTest::newRow("KRT300 sólo rechazadas")
+        << "KRT300" << 0 << mala + eot << "1 trama rechazada y no repetida" << 0;
+    QTest::newRow("KRT300 otra operación")
+        << "KRT300" << 1 << a + b + eot
+        << "2 registros desconocidos, 1 registro sin ninguna medición detrás" << 0;
+    QTest::newRow("KRT300 largo") << "KRT300" << 0 << Trama("_A" + QByteArray(300, '1')) + eot
+                                  << "1 registro cortado al ancho de su columna" << 1;
+    QTest::newRow("PX7 EOT en una trama")
+        << "PX7" << 0 << Trama("_B1") + "\x02" + eot << "1 trama sin terminar" << 1;
+    QTest::newRow("KRT800 entero") << "KRT800" << 0 << "JOB 1\r\nSS 1,2\r\n" + eot << "" << 2;
+    QTest::newRow("KRT800 sólo LF") << "KRT800" << 0 << "JOB 1\nSS 1,2\n" + eot
+                                    << "13 bytes detrás del último fin de línea" << 0;
+    QTest::newRow("KRT800 sólo CR") << "KRT800" << 0 << "JOB 1\rSS 1,2\r" + eot
+                                    << "13 bytes detrás del último fin de línea" << 0;
+    QTest::newRow("KRT800 sin el último fin")
+        << "KRT800" << 0 << "JOB 1\r\nSS 1,2" + eot << "6 bytes detrás del último fin de línea" << 1;
+    QTest::newRow("NV400 entero") << "NV400" << 0 << linea("g,1,") + "Z,&,\r\n" << "" << 1;
+    QTest::newRow("NV400 no repetida") << "NV400" << 0 << linea("g,1,") + "i,2,#,\r\nZ,&,\r\n"
+                                       << "1 línea rechazada y no repetida" << 1;
+    QTest::newRow("NV400 todas rechazadas") << "NV400" << 0 << QByteArray("i,2,#,\r\nZ,&,\r\n")
+                                            << "1 línea rechazada y no repetida" << 0;
+}
+
+void TestDescarga::lo_que_falta_conserva_y_se_dice()
+{
+    QFETCH(QString, clave);
+    QFETCH(int, ope);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, falta);
+    QFETCH(int, filas);
+    Base_Datos->Execute("INSERT INTO Identificadores (Nombre, OPE, ID, NomID, tipo) VALUES "
+                        "('PX7', 0, 'B', '', 'M')");
+    Nueva(clave);
+    descarga->Preparar(ope, "Obra");
+    QSignalSpy ocultar(descarga.get(), &Descarga::ocultar);
+    QSignalSpy reclamada(descarga.get(), &Descarga::reclamada);
+    descarga->BtnIniciar();
+    puerto->Llegan(bytes);
+    QVERIFY(!descarga->En_Marcha());
+    QCOMPARE(base->Columna("SELECT Datos FROM Registros").size(), filas);
+    QCOMPARE(descarga->Resultado().Completa(), falta.isEmpty());
+    if (falta.isEmpty()) {
+        QCOMPARE(Diarios(), QStringList());
+        QCOMPARE(ocultar.size(), 1);
+        return;
+    }
+    QCOMPARE(descarga->Etiqueta(), falta + "; lo recibido se conserva");
+    QCOMPARE(ocultar.size(), 0);
+    QCOMPARE(Diarios().size(), 1);
+    QCOMPARE(base->Leer("LOG/" + Diarios()[0]), bytes);
+    // The box of a file without points is the program's own; no other comes.
+    interfaz->avisos.removeIf([](const auto& a) { return a.texto.startsWith("El Fichero no"); });
+    QVERIFY(interfaz->avisos.isEmpty());
+    QCOMPARE(reclamada.size(), filas > 0 || ope == 1 || clave == u"KRT800" ? 1 : 0);
+}
+
+void TestDescarga::un_fallo_al_guardar_se_dice_data()
+{
+    QTest::addColumn<QString>("clave");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("KRT300") << "KRT300" << Trama("_+P1_A11") + "\x04";
+    QTest::newRow("KRT800") << "KRT800" << QByteArray("JOB 1\r\n\x04");
+    QTest::newRow("NV400") << "NV400"
+                           << QByteArray("g,1,") + Suma_Nivel(u"g,1,").toLatin1() +
+                                  QByteArray(",\r\nZ,&,\r\n");
+}
+
+void TestDescarga::un_fallo_al_guardar_se_dice()
+{
+    QFETCH(QString, clave);
+    QFETCH(QByteArray, bytes);
+    base->Fila("Sesiones", {{"ID", 32767}, {"OPE", 0}, {"Maquina", "PX7"}});
+    Nueva(clave);
+    descarga->BtnIniciar();
+    puerto->Llegan(bytes);
+    QCOMPARE(descarga->Etiqueta(), QString("La descarga no se ha guardado; lo recibido se conserva"));
+    QCOMPARE(interfaz->avisos.last().texto,
+             "No se ha podido guardar la descarga; lo recibido se conserva\r(6) " +
+                 Descripcion_Error(6));
+    QCOMPARE(interfaz->avisos.last().icono, Icono::Critico);
+    QVERIFY(!interfaz->Textos().contains("El Fichero no contenía Puntos"));
+    QCOMPARE(Diarios().size(), 1);
+    QCOMPARE(base->Columna("SELECT ID FROM Sesiones"), QStringList{"32767"});
+}
+
+// What the instrument hears to be received stands in a file at that moment.
+void TestDescarga::lo_aceptado_esta_escrito_antes_de_contestar()
+{
+    class Puerto_Que_Mira : public Puerto_Memoria {
+    public:
+        void Enviar(const QByteArray& bytes) override
+        {
+            if (bytes[0] == '\x06') escrito << al_contestar();
+            Puerto_Memoria::Enviar(bytes);
+        }
+        std::function<QByteArray()> al_contestar;
+        QByteArrayList escrito;
+    };
+    Nueva();
+    auto p = std::make_unique<Puerto_Que_Mira>();
+    Puerto_Que_Mira& mira = *p;
+    mira.al_contestar = [this] {
+        return Diarios().isEmpty() ? QByteArray() : base->Leer("LOG/" + Diarios()[0]);
+    };
+    descarga = std::make_unique<Descarga>(std::move(p));
+    QVERIFY(descarga->Abrir_Puerto());
+    descarga->Preparar(0, "Obra");
+    descarga->BtnIniciar();
+    const QByteArray uno = Trama("_+P1_A11"), dos = Trama("_A22", '1');
+    mira.Llegan(uno + dos);
+    QCOMPARE(mira.escrito, (QByteArrayList{uno, uno + dos}));
+}
+
+void TestDescarga::sin_carpeta_se_avisa_antes_y_se_ofrece_otra()
+{
+    QDir(En_Instalacion("LOG")).removeRecursively();
+    base->Escribir("LOG", "a file where the folder should be");
+    QVERIFY(QDir().mkpath(base->Ruta("otra")));
+    Nueva();
+    descarga->BtnIniciar();
+    QCOMPARE(interfaz->avisos.size(), 1);
+    QVERIFY(interfaz->avisos[0].texto.startsWith("No se puede escribir en la carpeta LOG ("));
+    QCOMPARE(puerto->Tomar(), QByteArray("\x05"));
+    const QByteArray bytes = Trama("_+P1_A11") + "\x02_A2";
+    puerto->Llegan(bytes);
+    QVERIFY2(descarga->Etiqueta().startsWith(
+                 "Recibiendo datos ... No se puede escribir lo recibido, que queda en memoria: "),
+             qPrintable(descarga->Etiqueta()));
+    interfaz->ficheros = {Fichero_Elegido{base->Ruta("otra/lo que sea.dia"), 1}};
+    puerto->Llegan("\x04");
+    QCOMPARE(interfaz->peticiones.size(), 1);
+    QVERIFY(interfaz->peticiones[0].guardar);
+    const QStringList otros = QDir(base->Ruta("otra")).entryList(QDir::Files);
+    QCOMPARE(otros.size(), 1);
+    QCOMPARE(base->Leer("otra/" + otros[0]), bytes + "\x04");
+    QCOMPARE(descarga->Conservado(), base->Ruta("otra/" + otros[0]));
+    QCOMPARE(descarga->Etiqueta(), QString("1 trama sin terminar; lo recibido se conserva"));
+}
+
+void TestDescarga::sin_carpeta_y_completa_no_se_pregunta()
+{
+    QDir(En_Instalacion("LOG")).removeRecursively();
+    base->Escribir("LOG", "a file where the folder should be");
+    Nueva();
+    descarga->BtnIniciar();
+    interfaz->avisos.clear();
+    puerto->Llegan(Trama("_+P1_A11") + "\x04");
+    QVERIFY(descarga->Resultado().Completa());
+    QVERIFY(interfaz->peticiones.isEmpty() && interfaz->avisos.isEmpty());
+}
+
+void TestDescarga::si_no_se_elige_carpeta_va_a_la_temporal()
+{
+    QDir(En_Instalacion("LOG")).removeRecursively();
+    base->Escribir("LOG", "a file where the folder should be");
+    Nueva();
+    descarga->BtnIniciar();
+    puerto->Llegan(Trama("_+P1_A11"));
+    interfaz->ficheros = {std::nullopt};
+    descarga->Abandonar();
+    const QString f = descarga->Conservado();
+    QVERIFY(f.startsWith(QDir::tempPath()));
+    QFile fichero(f);
+    QVERIFY(fichero.open(QIODevice::ReadOnly));
+    QCOMPARE(fichero.readAll(), Trama("_+P1_A11"));
+    QVERIFY(interfaz->avisos.last().texto.contains(f));
+    QVERIFY(fichero.remove());
+}
+
+void TestDescarga::la_configuracion_a_medias_acaba_y_se_dice()
+{
+    Nueva();
+    descarga->BtnIniciar();
+    puerto->Llegan(Trama("_+P1_A11"));
+    Q_EMIT Sucesos::Unico().ajustes_guardados();
+    QVERIFY(!descarga->En_Marcha() && !puerto->Abierto());
+    QVERIFY2(descarga->Etiqueta().startsWith(
+                 "La configuración ha cambiado y la transferencia se ha interrumpido: "),
+             qPrintable(descarga->Etiqueta()));
+    QVERIFY(descarga->Etiqueta().endsWith("; lo recibido se conserva"));
+    QCOMPARE(Diarios().size(), 1);
+    QVERIFY(interfaz->avisos.isEmpty());
+}
+
+void TestDescarga::lo_que_llega_con_el_aviso_puesto_no_se_pierde()
+{
+    Nueva("KRT800");
+    QSignalSpy cerrar(descarga.get(), &Descarga::cerrar);
+    descarga->BtnIniciar();
+    for (int i = 0; i < 9; ++i)
+        descarga->Tic();
+    interfaz->al_avisar = [&](const Interfaz_Guion::Aviso&) { puerto->Llegan("JOB 1\r\nSS"); };
+    descarga->Tic();
+    QCOMPARE(interfaz->avisos.size(), 1);
+    QTRY_COMPARE(descarga->Recibido(), QString("JOB 1\r\nSS"));
+    QCOMPARE(cerrar.size(), 0);
+    QVERIFY(descarga->En_Marcha() && puerto->Abierto());
+    puerto->Llegan(" 1,2\r\n\x04");
+    QVERIFY(descarga->Resultado().Completa());
+    QCOMPARE(base->Columna("SELECT Datos FROM Registros"), (QStringList{"JOB 1", "SS 1,2"}));
+}
+
+void TestDescarga::un_puerto_que_no_envia_se_dice()
+{
+    Nueva();
+    puerto->falla_tras = 0;
+    descarga->BtnIniciar();
+    QCOMPARE(descarga->Etiqueta(),
+             QString("No se puede enviar por el puerto; compruebe el cable"));
+    QVERIFY(interfaz->avisos.isEmpty());
+}
+
+// What the compaction wrote is not what was stored: nothing is called stored.
+void TestDescarga::lo_guardado_se_comprueba()
+{
+    Nueva();
+    descarga->BtnIniciar();
+    connect(&Sucesos::Unico(), &Sucesos::base_reabierta, puerto,
+            [] { Base_Datos->Execute("DELETE FROM Registros WHERE Secuencia = 2"); });
+    puerto->Llegan(Trama("_+P1_A11_A12") + "\x04");
+    QVERIFY(!descarga->Resultado().Completa());
+    QCOMPARE(interfaz->avisos.size(), 1);
+    QVERIFY(interfaz->avisos[0].texto.startsWith(
+        "No se ha podido guardar la descarga; lo recibido se conserva\r(3343) "));
+    QCOMPARE(Diarios().size(), 1);
 }
 
 void TestDescarga::sin_permiso_de_otra_no_empieza()

@@ -5,6 +5,8 @@
 #include "transfer/enlace/Diario_Recepcion.h"
 #include "transfer/enlace/Rescate.h"
 
+#include <QSignalSpy>
+
 // The journal of received bytes.
 class TestDiario_Recepcion : public QObject {
     Q_OBJECT
@@ -19,6 +21,10 @@ private Q_SLOTS:
     void empezar_otra_conserva_la_anterior();
     void sin_carpeta_se_crea();
     void si_no_se_puede_escribir_se_reintenta();
+    void lo_entregado_esta_en_el_fichero();
+    void sin_pausa_tambien_se_entrega();
+    void terminar_dice_si_algo_se_queda_en_memoria();
+    void sin_impedimento_no_deja_nada();
     void el_nombre_dice_familia_y_operacion();
 
 private:
@@ -155,6 +161,59 @@ void TestDiario_Recepcion::si_no_se_puede_escribir_se_reintenta()
     QVERIFY(estorbo.remove());
     QTRY_COMPARE_WITH_TIMEOUT(Leer(d.Fichero()), QByteArray("unodos"), 2000);
     QVERIFY(interfaz->avisos.isEmpty());
+}
+
+void TestDiario_Recepcion::lo_entregado_esta_en_el_fichero()
+{
+    Diario_Recepcion d;
+    d.Empezar("KRT300", 0, momento);
+    Anotar(d, "abc");
+    QVERIFY(d.Entregar());
+    QCOMPARE(Leer(d.Fichero()), QByteArray("abc"));
+    // A long run without a pause doesn't wait for the loop.
+    Anotar(d, QByteArray(5000, 'x'));
+    QVERIFY(Leer(d.Fichero()).size() > 4000);
+}
+
+void TestDiario_Recepcion::sin_pausa_tambien_se_entrega()
+{
+    Diario_Recepcion d;
+    d.Empezar("KRT800", 0, momento);
+    Anotar(d, "abc");
+    QCoreApplication::processEvents();
+    QCOMPARE(Leer(d.Fichero()), QByteArray("abc"));
+}
+
+void TestDiario_Recepcion::terminar_dice_si_algo_se_queda_en_memoria()
+{
+    QDir(En_Instalacion("LOG")).removeRecursively();
+    base->Escribir("LOG", "stands in the way");
+    Diario_Recepcion d;
+    QSignalSpy cambiado(&d, &Diario_Recepcion::fallo_cambiado);
+    QVERIFY(!Diario_Recepcion::Impedimento().isEmpty());
+    d.Empezar("KRT300", 0, momento);
+    Anotar(d, "uno");
+    QVERIFY(!d.Entregar());
+    QCOMPARE(cambiado.size(), 1);
+    QVERIFY(!d.Fallo().isEmpty());
+    QVERIFY(!d.Terminar(false));
+    QCOMPARE(d.Conservado(), QString());
+    QVERIFY(QDir().mkpath(base->Ruta("otra")));
+    const QString f = d.Guardar_En(base->Ruta("otra"));
+    QCOMPARE(f, base->Ruta("otra/recepcion_20260307_090501_KRT300_0.dia"));
+    QCOMPARE(d.Conservado(), f);
+    QCOMPARE(Leer(f), QByteArray("uno"));
+    // Stored whole, nothing is missed.
+    d.Empezar("KRT300", 0, momento);
+    Anotar(d, "dos");
+    QVERIFY(d.Terminar(true));
+    QCOMPARE(d.Conservado(), QString());
+}
+
+void TestDiario_Recepcion::sin_impedimento_no_deja_nada()
+{
+    QCOMPARE(Diario_Recepcion::Impedimento(), QString());
+    QCOMPARE(QDir(En_Instalacion("LOG")).entryList(QDir::Files), QStringList());
 }
 
 void TestDiario_Recepcion::el_nombre_dice_familia_y_operacion()

@@ -16,7 +16,11 @@ private Q_SLOTS:
     void el_punto_puede_quedar_vacio();
     void lo_desconocido_no_gasta_secuencia();
     void el_relleno_queda_en_el_ultimo();
-    void un_registro_largo_deja_lo_escrito();
+    void lo_que_no_cabe_se_corta_y_se_cuenta();
+    void lo_que_ninguna_fila_lleva_se_cuenta_data();
+    void lo_que_ninguna_fila_lleva_se_cuenta();
+    void un_fallo_al_guardar_no_cuenta_puntos();
+    void sin_numero_de_sesion_se_dice_por_que();
     void el_progreso_solo_en_los_largos_data();
     void el_progreso_solo_en_los_largos();
     void los_lotes_no_pierden_nada();
@@ -52,7 +56,7 @@ void TestAlmacen_KRT300::corta_por_el_subrayado()
     const Resultado_Recepcion r = banco->Procesar("KRT300", 0, buffer);
     QCOMPARE(banco->Filas(), filas);
     QCOMPARE(r.sesiones, QStringList{"1"});
-    QVERIFY(r.completa);
+    QVERIFY(r.guardada);
 }
 
 void TestAlmacen_KRT300::los_globales_valen_desde_que_llegan()
@@ -99,16 +103,75 @@ void TestAlmacen_KRT300::el_relleno_queda_en_el_ultimo()
     QCOMPARE(banco->Filas().last(), QString("1/2//A2     /"));
 }
 
-void TestAlmacen_KRT300::un_registro_largo_deja_lo_escrito()
+void TestAlmacen_KRT300::lo_que_no_cabe_se_corta_y_se_cuenta()
 {
-    const Resultado_Recepcion r =
-        banco->Procesar("KRT300", 0, "_+P1_A1_A" + QString(255, 'x') + "_A3");
-    QVERIFY(!r.completa);
-    QCOMPARE(r.sesiones, QStringList{"1"});
-    QCOMPARE(banco->Filas(), QStringList{"1/1/P1/A1/"});
+    const Resultado_Recepcion r = banco->Procesar(
+        "KRT300", 0, "_+P1_A1_A" + QString(255, 'x') + "_A3_+" + QString(51, 'p') + "_A4");
+    QVERIFY(r.guardada && !r.Completa());
+    QCOMPARE(r.faltas.cortadas, 2);
+    QCOMPARE(r.filas, 4);
+    QCOMPARE(banco->Filas(),
+             (QStringList{"1/1/P1/A1/", "1/2/P1/A" + QString(254, 'x') + "/", "1/3/P1/A3/",
+                          "1/4/" + QString(50, 'p') + "/A4/"}));
+    QCOMPARE(banco->Puntos(), 2);
     QVERIFY(banco->interfaz.avisos.isEmpty());
-    QCOMPARE(banco->interfaz.procesos_abiertos, 0);
-    QCOMPARE(banco->Procesar("KRT300", 0, "_A" + QString(254, 'x')).completa, true);
+    QCOMPARE(banco->Procesar("KRT300", 0, "_A" + QString(254, 'x')).Completa(), true);
+}
+
+void TestAlmacen_KRT300::lo_que_ninguna_fila_lleva_se_cuenta_data()
+{
+    QTest::addColumn<QString>("buffer");
+    QTest::addColumn<int>("desconocidas");
+    QTest::addColumn<int>("sueltas");
+    QTest::newRow("todo") << "_Euno_+P1_A1_Edos_+P2_A2   " << 0 << 0;
+    QTest::newRow("desconocido") << "_A1_Z1_Z2" << 2 << 0;
+    QTest::newRow("delante de la marca") << "Z_A1" << 1 << 0;
+    QTest::newRow("blancos delante") << "  _A1_   " << 0 << 0;
+    QTest::newRow("general con blanco") << "_ Euno_A1" << 0 << 1;
+    QTest::newRow("general al final") << "_A1_Euno" << 0 << 1;
+    QTest::newRow("general pisado") << "_Euno_Edos_A1" << 0 << 1;
+    QTest::newRow("general repetido igual") << "_Euno_Euno_A1" << 0 << 0;
+    QTest::newRow("general pisado tras su fila") << "_Euno_A1_Edos_A2" << 0 << 0;
+    QTest::newRow("punto al final") << "_+P1_A1_+P2" << 0 << 1;
+    QTest::newRow("punto pisado") << "_+P1_+P2_A1" << 0 << 1;
+    QTest::newRow("punto repetido igual") << "_+P1_+P1_A1" << 0 << 0;
+    QTest::newRow("punto sin nombre") << "_+_A1_+" << 0 << 0;
+}
+
+void TestAlmacen_KRT300::lo_que_ninguna_fila_lleva_se_cuenta()
+{
+    QFETCH(QString, buffer);
+    QFETCH(int, desconocidas);
+    QFETCH(int, sueltas);
+    const Resultado_Recepcion r = banco->Procesar("KRT300", 0, buffer);
+    QVERIFY(r.guardada);
+    QCOMPARE(r.faltas.desconocidas, desconocidas);
+    QCOMPARE(r.faltas.sueltas, sueltas);
+    QCOMPARE(r.Completa(), desconocidas + sueltas == 0);
+}
+
+// The session stays as far as it got, without a count and without the box of an empty file.
+void TestAlmacen_KRT300::un_fallo_al_guardar_no_cuenta_puntos()
+{
+    Base_Datos->Execute("DELETE FROM Identificadores WHERE ID = 'A'");
+    Fichero_MDB = banco->base.Ruta("MDB/falta.mdb");
+    const Resultado_Recepcion r = banco->Procesar("KRT300", 0, "_+P1_A1");
+    QVERIFY(!r.guardada && !r.Completa());
+    QVERIFY(r.error);
+    QCOMPARE(r.error->numero, 3024);
+    QVERIFY(banco->interfaz.avisos.isEmpty());
+    Base_Datos = Base::Abrir(banco->base.Ruta("MDB/EstTotal.mdb"));
+    QCOMPARE(r.sesiones, QStringList{"1"});
+    QCOMPARE(banco->base.Columna("SELECT ID FROM Sesiones WHERE NPuntos IS NULL"), QStringList{"1"});
+}
+
+void TestAlmacen_KRT300::sin_numero_de_sesion_se_dice_por_que()
+{
+    banco->base.Fila("Sesiones", {{"ID", 32767}, {"OPE", 0}, {"Maquina", "KRT300"}});
+    const Resultado_Recepcion r = banco->Procesar("KRT300", 0, "_+P1_A1");
+    QVERIFY(!r.guardada && r.sesiones.isEmpty());
+    QCOMPARE(r.error->numero, 6);
+    QVERIFY(banco->interfaz.avisos.isEmpty());
 }
 
 void TestAlmacen_KRT300::el_progreso_solo_en_los_largos_data()
@@ -138,7 +201,7 @@ void TestAlmacen_KRT300::los_lotes_no_pierden_nada()
     const int n = 12345; // more than two batches, and not a multiple of one
     for (int i = 0; i < n; ++i)
         buffer += QStringLiteral("_+P%1_A%2").arg(i / 4).arg(i);
-    QVERIFY(banco->Procesar("KRT300", 0, buffer).completa);
+    QVERIFY(banco->Procesar("KRT300", 0, buffer).Completa());
     Conjunto_Registros r = Base_Datos->OpenRecordset("SELECT * FROM Registros ORDER BY Secuencia");
     QCOMPARE(r.RecordCount(), n);
     r.MoveLast();

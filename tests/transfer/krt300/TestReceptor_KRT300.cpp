@@ -19,11 +19,15 @@ private Q_SLOTS:
     void un_byte_alto_entra_en_la_suma();
     void ningun_byte_cambiado_se_acepta();
     void cortada_en_cualquier_punto_no_se_guarda();
-    void lo_rescatable_es_lo_entero();
+    void lo_rescatable_es_lo_aceptado();
+    void cuenta_las_no_repetidas_data();
+    void cuenta_las_no_repetidas();
+    void eot_dentro_de_una_trama_la_deja_abierta();
 
 private:
     void Dar(const QByteArray& bytes);
     static QByteArray Trama(const QByteArray& datos, char secuencia = '0');
+    static QByteArray Rota(QByteArray trama, qsizetype lugar);
 
     std::unique_ptr<Receptor_KRT300> receptor;
     QByteArray enviado;
@@ -171,14 +175,75 @@ void TestReceptor_KRT300::cortada_en_cualquier_punto_no_se_guarda()
     }
 }
 
-void TestReceptor_KRT300::lo_rescatable_es_lo_entero()
+void TestReceptor_KRT300::lo_rescatable_es_lo_aceptado()
 {
     QCOMPARE(receptor->Rescatable(), QString());
-    Dar(Trama("sin marca"));
-    QCOMPARE(receptor->Rescatable(), QString());
-    Dar(Trama("_A1_A2", '1') + "\x02_A3");
-    QCOMPARE(receptor->Rescatable(), QString("sin marca_A1"));
-    QCOMPARE(receptor->Buffer(), QString("sin marca_A1_A2"));
+    Dar(Trama("_A1_A2") + "\x02_A3");
+    QCOMPARE(receptor->Rescatable(), QString("_A1_A2"));
+    QCOMPARE(receptor->Faltas().abiertas, 1);
+    QVERIFY(receptor->Faltas().sin_acabar);
+}
+
+// The same frame with one character of its data or its checksum changed.
+QByteArray TestReceptor_KRT300::Rota(QByteArray trama, qsizetype lugar)
+{
+    trama[lugar] = static_cast<char>(trama[lugar] ^ 1);
+    return trama;
+}
+
+void TestReceptor_KRT300::cuenta_las_no_repetidas_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("rechazadas");
+    const QByteArray a = Trama("_A0001", '0'), b = Trama("_B7732", '1'), c = Trama("_C1958", '2'),
+                     d = Trama("_D4414", '3');
+    const QByteArray b_dato = Rota(b, 3), b_suma = Rota(b, b.size() - 2), b_cifra = Rota(b, 7);
+    QTest::newRow("ninguna") << a + b + c << 0;
+    QTest::newRow("repetida, dato") << a + b_dato + b + c << 0;
+    QTest::newRow("repetida, suma") << a + b_suma + b + c << 0;
+    QTest::newRow("repetida, cifra") << a + b_cifra + b + c << 0;
+    QTest::newRow("repetida a la tercera") << a + b_dato + b_suma + b_dato + b + c << 0;
+    QTest::newRow("no repetida") << a + b_dato + c + d << 1;
+    QTest::newRow("no repetida, cifra rota como la debida") << a + Rota(c, 7) + d << 1;
+    QTest::newRow("tres veces mala y se sigue") << a + b_dato + b_suma + b_dato + c << 1;
+    QTest::newRow("dos seguidas") << a + b_dato + Rota(c, 4) + d << 2;
+    QTest::newRow("la segunda se repite") << a + b_dato + Rota(c, 4) + c + d << 1;
+    QTest::newRow("al final") << a + b_dato << 1;
+    QTest::newRow("al final, tres veces") << a + b_dato + b_dato + b_dato << 1;
+    QTest::newRow("la primera, repetida") << Rota(a, 3) + a << 0;
+    QTest::newRow("la primera, repetida, dos roturas")
+        << Rota(Rota(a, 3), a.size() - 2) + a + b << 0;
+    QTest::newRow("la primera, no repetida") << Rota(a, 3) + b + c << 1;
+    QTest::newRow("cifras que no cuentan, repetida")
+        << Trama("_A0001") + Rota(Trama("_A0002"), 4) + Trama("_A0002") << 0;
+    QTest::newRow("cifras que no cuentan, no repetida")
+        << Trama("_A0001") + Rota(Trama("_A0002"), 4) + Trama("_A0003") << 1;
+    QTest::newRow("cifras que no cuentan, la primera") << Rota(Trama("_A0001"), 3) + Trama("_A0002")
+                                                       << 1;
+    QTest::newRow("fin de trama perdido") << a + b.chopped(1) + b + b + c << 0;
+    QByteArray vuelta;
+    for (char n = 0; n < 25; ++n)
+        vuelta += Rota(Trama("_A00", static_cast<char>('0' + n % 10)), 2) +
+                  Trama("_A00", static_cast<char>('0' + n % 10));
+    QTest::newRow("las cifras dan la vuelta") << vuelta << 0;
+    QTest::newRow("ruido corto") << a + "\x02\x03" + b << 0;
+}
+
+void TestReceptor_KRT300::cuenta_las_no_repetidas()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, rechazadas);
+    Dar(bytes + '\x04');
+    QCOMPARE(receptor->Faltas().rechazadas, rechazadas);
+    QCOMPARE(receptor->Faltas().abiertas, 0);
+    QVERIFY(!receptor->Faltas().sin_acabar);
+}
+
+void TestReceptor_KRT300::eot_dentro_de_una_trama_la_deja_abierta()
+{
+    Dar(Trama("_A0001") + "\x02_A0\x04");
+    QCOMPARE(receptor->Faltas().abiertas, 1);
+    QVERIFY(!receptor->Faltas().Ninguna());
 }
 
 PRUEBA(TestReceptor_KRT300)

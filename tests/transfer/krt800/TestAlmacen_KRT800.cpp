@@ -12,7 +12,8 @@ private Q_SLOTS:
     void un_blanco_delante_acorta_el_identificador();
     void la_operacion_4_toma_el_punto();
     void sin_fin_de_linea_no_hay_registros();
-    void un_campo_largo_lo_deshace_todo();
+    void una_linea_larga_se_corta_y_avisa_del_formato();
+    void un_fallo_lo_deshace_todo();
     void cancelada_conserva_lo_guardado();
     void operacion_7_junta_los_perfiles();
     void operacion_7_con_comilla_avisa();
@@ -27,7 +28,7 @@ void TestAlmacen_KRT800::una_fila_por_linea()
     const Resultado_Recepcion r = banco->Procesar("KRT800", 0, "JOB uno\r\n\r\nSTN a,b\r\nresto");
     QCOMPARE(banco->Filas(), (QStringList{"1/1//JOB uno/", "1/3//STN a,b/"}));
     QCOMPARE(banco->Puntos(), 3); // blank lines count
-    QVERIFY(r.completa);
+    QVERIFY(r.Completa());
     QCOMPARE(r.sesiones, QStringList{"1"});
 }
 
@@ -72,14 +73,15 @@ void TestAlmacen_KRT800::sin_fin_de_linea_no_hay_registros()
     QCOMPARE(banco->Puntos(), 0);
 }
 
-void TestAlmacen_KRT800::un_campo_largo_lo_deshace_todo()
+// The box of the wrong output format stays; the lines are stored as far as their column goes.
+void TestAlmacen_KRT800::una_linea_larga_se_corta_y_avisa_del_formato()
 {
     const Resultado_Recepcion r =
         banco->Procesar("KRT800", 0, "JOB uno\r\n" + QString(256, 'x') + "\r\nJOB dos\r\n");
-    QVERIFY(!r.completa);
-    QVERIFY(r.sesiones.isEmpty());
-    QVERIFY(Base_Datos->OpenRecordset("Sesiones").Es_EOF());
-    QCOMPARE(banco->Filas(), QStringList());
+    QVERIFY(r.guardada && !r.Completa());
+    QCOMPARE(r.faltas.cortadas, 1);
+    QCOMPARE(banco->Filas(), (QStringList{"1/1//JOB uno/", "1/2//" + QString(255, 'x') + "/",
+                                          "1/3//JOB dos/"}));
     QCOMPARE(banco->interfaz.avisos.size(), 1);
     QCOMPARE(banco->interfaz.avisos[0].titulo, QString("Error de Formato"));
     QCOMPARE(banco->interfaz.avisos[0].icono, Icono::Critico);
@@ -88,6 +90,23 @@ void TestAlmacen_KRT800::un_campo_largo_lo_deshace_todo()
         QString("Error en el formato de Datos.Posiblemente tenga mal configurado el formato de "
                 "salida en la Estación. Asegurese que tenga configurado en el Menú Configuración "
                 "- OPC SIST - SALIDA el formato KRT-4"));
+    const Resultado_Recepcion puntos =
+        banco->Procesar("KRT800", 4, QString(51, 'p') + ",1,2\r\nP2,3,4\r\n");
+    QCOMPARE(puntos.faltas.cortadas, 1);
+    QCOMPARE(banco->base.Columna("SELECT Punto FROM Registros WHERE ID = 2"),
+             (QStringList{QString(50, 'p'), "P2"}));
+}
+
+void TestAlmacen_KRT800::un_fallo_lo_deshace_todo()
+{
+    banco->base.Fila("Sesiones", {{"ID", 32767}, {"OPE", 0}, {"Maquina", "PX7"}});
+    const Resultado_Recepcion r = banco->Procesar("KRT800", 0, "JOB uno\r\n");
+    QVERIFY(!r.guardada && r.sesiones.isEmpty());
+    QCOMPARE(r.error->numero, 6);
+    QCOMPARE(banco->base.Columna("SELECT ID FROM Sesiones"), QStringList{"32767"});
+    QCOMPARE(banco->interfaz.avisos.size(), 1);
+    QVERIFY(banco->interfaz.avisos[0].texto.startsWith(
+        "Se produjo un error al guardar los datos descargados\r(6) "));
 }
 
 void TestAlmacen_KRT800::cancelada_conserva_lo_guardado()
@@ -97,7 +116,7 @@ void TestAlmacen_KRT800::cancelada_conserva_lo_guardado()
         buffer += QStringLiteral("SS %1,1\r\n").arg(i);
     banco->interfaz.al_pasar = [] { Proceso_Cancelado = true; };
     const Resultado_Recepcion r = banco->Procesar("KRT800", 0, buffer);
-    QVERIFY(!r.completa);
+    QVERIFY(!r.Completa() && r.faltas.interrumpida);
     QCOMPARE(r.sesiones, QStringList{"1"});
     const qsizetype filas = banco->Filas().size();
     QVERIFY(filas > 0 && filas < 500);
@@ -123,7 +142,7 @@ void TestAlmacen_KRT800::operacion_7_con_comilla_avisa()
 {
     const Resultado_Recepcion r =
         banco->Procesar("KRT800", 7, "100,5,a\r\n100,4,o'b\r\n90,1,z\r\n");
-    QVERIFY(r.completa);
+    QVERIFY(r.Completa());
     QCOMPARE(banco->Filas(), (QStringList{"1/2//100,4,o'b/", "1/1//100,5,a/", "1/3//90,1,z/"}));
     QVERIFY(
         banco->interfaz.avisos.isEmpty()); // the quote stands behind the text that begins its group

@@ -12,6 +12,9 @@ private Q_SLOTS:
     void contesta_y_acumula();
     void ningun_byte_cambiado_se_acepta();
     void un_lf_que_abre_no_cierra();
+    void cuenta_las_no_repetidas_data();
+    void cuenta_las_no_repetidas();
+    void una_linea_abierta_cuenta();
 
 private:
     void Dar(const QByteArray& bytes);
@@ -108,6 +111,49 @@ void TestReceptor_NV400::un_lf_que_abre_no_cierra()
     Dar(Linea("g,1,"));
     QCOMPARE(enviado, LINEA_NAK);
     QCOMPARE(receptor->Rescatable(), QString());
+}
+
+void TestReceptor_NV400::cuenta_las_no_repetidas_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("rechazadas");
+    const QByteArray a = Linea("g,03,115384,33135,RN1,"), b = Linea("i,03,105683,26714,P1,"),
+                     c = Linea("g,03,106218,23639,P1,");
+    const auto rota = [](QByteArray linea, qsizetype lugar) {
+        linea[lugar] = static_cast<char>(linea[lugar] ^ 1);
+        return linea;
+    };
+    const QByteArray b_dato = rota(b, 6), b_suma = rota(b, b.size() - 4);
+    QTest::newRow("ninguna") << a + b + c << 0;
+    QTest::newRow("repetida, dato") << a + b_dato + b + c << 0;
+    QTest::newRow("repetida, suma") << a + b_suma + b + c << 0;
+    QTest::newRow("repetida, dos sitios") << a + rota(rota(b, 2), 18) + b << 0;
+    QTest::newRow("parecida y otra") << a + rota(Linea("g,03,106218,23639,P2,"), 6) + c << 1;
+    QTest::newRow("repetida a la tercera") << a + b_dato + b_suma + b_dato + b << 0;
+    QTest::newRow("no repetida") << a + b_dato + c << 1;
+    QTest::newRow("no repetida, tres veces") << a + b_dato + b_dato + b_dato + c << 1;
+    QTest::newRow("al final") << a + b_suma << 1;
+    QTest::newRow("un byte perdido") << a + b.left(4) + b.mid(5) + b << 0;
+    QTest::newRow("fin de línea perdido") << a + b.chopped(1) + b + b << 0;
+    QTest::newRow("ruido corto") << QByteArray("~?\r\n") + a << 0;
+    QTest::newRow("ruido delante de una línea") << QByteArray("~?~") + a + a << 0;
+}
+
+void TestReceptor_NV400::cuenta_las_no_repetidas()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, rechazadas);
+    Dar("A,01,Z,\r\n" + bytes + "Z,&,\r\n");
+    QCOMPARE(finales, 1);
+    QCOMPARE(receptor->Faltas().rechazadas, rechazadas);
+    QVERIFY(!receptor->Faltas().sin_acabar);
+}
+
+void TestReceptor_NV400::una_linea_abierta_cuenta()
+{
+    Dar(Linea("g,1,") + "h,2");
+    QCOMPARE(receptor->Faltas().abiertas, 1);
+    QVERIFY(receptor->Faltas().sin_acabar);
 }
 
 PRUEBA(TestReceptor_NV400)

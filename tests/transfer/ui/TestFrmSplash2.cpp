@@ -45,7 +45,7 @@ void TestFrmSplash2::init()
     Peticiones_De_Transfer().Guardar_Libreria = [this](const Datos_Recepcion& datos) {
         recibido = datos.nombre + QString::number(datos.destino) + datos.buffer.trimmed();
         Resultado_Recepcion r;
-        r.completa = true;
+        r.guardada = true;
         return r;
     };
     FrmSplash::Hacer_Puerto = [this] {
