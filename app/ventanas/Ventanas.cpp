@@ -12,6 +12,7 @@
 #include "formats/Formato_Existente.h"
 #include "formats/ui/Dialogos_Formatos.h"
 #include "formats/ui/Frmformatos.h"
+#include "formats/ui/FrmFormatosNV400.h"
 #include "session/ui/Dialogos_Sesion.h"
 #include "session/ui/frmDescargas.h"
 #include "session/ui/FrmTxt.h"
@@ -62,7 +63,7 @@ void Conectar_Descargas()
 void Formatos_De_Toolbar()
 {
     if (Familia_Actual().serie == Serie::Nivel)
-        No_Disponible("El mantenimiento de formatos del nivel");
+        Mostrar<FrmFormatosNV400>()();
     else
         Mostrar<Frmformatos>("Mantenimiento de Formatos")();
 }
@@ -91,6 +92,7 @@ void Conectar_Entradas(FrmMain& principal)
     principal.Al_Elegir("Formatos", Mostrar<Frmformatos>("Formatos Disponibles"));
     principal.Al_Elegir("Toolbar1(4)", Formatos_De_Toolbar);
     principal.Al_Elegir("Mnu_ConvEst", [] { Mostrar_frmConvEst(0); });
+    principal.Al_Elegir("Mnu_ConvRob", Mostrar_frmRobotizada);
     principal.Al_Elegir("Mnu_ConvLandxml", [] { Mostrar_frmConvEst(1); });
 }
 

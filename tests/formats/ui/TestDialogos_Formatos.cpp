@@ -412,6 +412,7 @@ void TestDialogos_Formatos::mantenimiento_borra_tambien_el_bloqueado()
     QCOMPARE(Hijo<QComboBox>(f, "DBCombo1").currentText(), QString());
     QCOMPARE(Hijo<QListWidget>(f, "List2").count(), 0);
     QVERIFY(!Buscar_Formato(*Base_Datos, "KRT300", "Fijo"));
+    QCOMPARE(interfaz->Textos().size(), 2);
 }
 
 void TestDialogos_Formatos::mantenimiento_sigue_al_modelo()
