@@ -236,4 +236,4 @@ BENCHMARK(Preguntar_Con_Texto_Nuevo)->UseManualTime()->Iterations(7)->Unit(bench
 
 } // namespace
 
-BENCHMARK_MAIN();
+MEDIDAS_JUZGADAS()

@@ -165,4 +165,4 @@ BENCHMARK(Crecimiento)->UseManualTime()->Iterations(3)->Unit(benchmark::kMicrose
 
 } // namespace
 
-BENCHMARK_MAIN();
+MEDIDAS_JUZGADAS()

@@ -105,4 +105,4 @@ BENCHMARK(Escribir_32768_x_8_hasta_el_disco)
 
 } // namespace
 
-BENCHMARK_MAIN();
+MEDIDAS_JUZGADAS()

@@ -145,4 +145,4 @@ BENCHMARK(Convertir_100_MB)
 
 } // namespace
 
-BENCHMARK_MAIN();
+MEDIDAS_JUZGADAS()

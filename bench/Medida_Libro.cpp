@@ -55,4 +55,4 @@ BENCHMARK(Escribir_32768_x_8)->UseManualTime()->Iterations(7)->Unit(benchmark::k
 
 } // namespace
 
-BENCHMARK_MAIN();
+MEDIDAS_JUZGADAS()

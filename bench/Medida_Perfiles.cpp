@@ -109,4 +109,4 @@ BENCHMARK(Convertir_10_MB)
 
 } // namespace
 
-BENCHMARK_MAIN();
+MEDIDAS_JUZGADAS()

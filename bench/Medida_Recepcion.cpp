@@ -43,8 +43,8 @@ double Insertar_A_Pelo(const QString& fichero)
     sqlite3_open(QFile::encodeName(fichero).constData(), &bd);
     sqlite3_stmt* s = nullptr;
     if (filas.empty()) {
-        sqlite3_prepare_v2(bd, "SELECT ID,Secuencia,Punto,Datos,DatosG FROM Registros WHERE ID=1", -1,
-                           &s, nullptr);
+        sqlite3_prepare_v2(bd, "SELECT ID,Secuencia,Punto,Datos,DatosG FROM Registros WHERE ID=1",
+                           -1, &s, nullptr);
         while (sqlite3_step(s) == SQLITE_ROW)
             filas.push_back({sqlite3_column_int64(s, 0), sqlite3_column_int64(s, 1), texto(s, 2),
                              texto(s, 3), texto(s, 4)});
@@ -53,8 +53,8 @@ double Insertar_A_Pelo(const QString& fichero)
     const auto hacer = [&] {
         sqlite3_exec(bd, "BEGIN", nullptr, nullptr, nullptr);
         sqlite3_prepare_v2(
-            bd, "INSERT INTO Registros (ID,Secuencia,Punto,Datos,DatosG) VALUES (?,?,?,?,?)", -1, &s,
-            nullptr);
+            bd, "INSERT INTO Registros (ID,Secuencia,Punto,Datos,DatosG) VALUES (?,?,?,?,?)", -1,
+            &s, nullptr);
         for (const Fila& f : filas) {
             sqlite3_bind_int64(s, 1, 30000);
             sqlite3_bind_int64(s, 2, f.secuencia);
@@ -86,7 +86,8 @@ void Guardar_131072(benchmark::State& estado)
     Base_Datos = Base::Crear(Fichero_MDB);
     for (const char* id : {"A", "B", "C", "D", "E"})
         Base_Datos->Execute("INSERT INTO Identificadores (Nombre,OPE,ID,NomID,tipo) "
-                            "VALUES ('KRT300',0,?,'',?)", {id, *id == 'E' ? "G" : "M"});
+                            "VALUES ('KRT300',0,?,'',?)",
+                            {id, *id == 'E' ? "G" : "M"});
     const QString buffer = Buffer_De_Campo();
     const auto obra = [&] {
         Base_Datos->Execute("DELETE FROM Registros");
@@ -94,13 +95,15 @@ void Guardar_131072(benchmark::State& estado)
     };
     obra();
     const qint64 guardados =
-        Base_Datos->OpenRecordset("SELECT * FROM Registros", Tipo_Conjunto::Instantanea).RecordCount();
+        Base_Datos->OpenRecordset("SELECT * FROM Registros", Tipo_Conjunto::Instantanea)
+            .RecordCount();
     if (guardados != PUNTOS * REGISTROS_POR_PUNTO) estado.SkipWithError("rows are missing");
-    Medir_Proporcion(estado, 3.0, [&] { return Insertar_A_Pelo(Fichero_MDB); }, obra);
+    Medir_Proporcion(
+        estado, 3.0, [&] { return Insertar_A_Pelo(Fichero_MDB); }, obra);
     Base_Datos.reset();
 }
 BENCHMARK(Guardar_131072)->UseManualTime()->Iterations(7)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
-BENCHMARK_MAIN();
+MEDIDAS_JUZGADAS()

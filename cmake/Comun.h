@@ -1,5 +1,9 @@
 // Precompiled: what nearly every unit includes.
 #pragma once
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
 #include <QByteArray>
 #include <QDateTime>
 #include <QDir>
@@ -10,9 +14,5 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
-#include <functional>
-#include <map>
-#include <memory>
-#include <optional>
 #include <string>
 #include <vector>

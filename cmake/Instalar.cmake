@@ -1,7 +1,7 @@
 # `cmake --install BUILD --prefix FOLDER` makes the install directory in FOLDER: programs and data
 # side by side, as the build assembles them. What a user has there of his own (database, settings,
 # logs) stays.
-set(programas Miraldos miraldos-cli miraldos-sim ayudaweb)
+set(programas Miraldos miraldos-cli miraldos-sim ayudaweb Convert)
 foreach(programa ${programas})
   if(TARGET ${programa})
     install(TARGETS ${programa} RUNTIME DESTINATION .)

@@ -30,7 +30,8 @@ QString Ansi::A_Texto(QByteArrayView bytes)
 {
     QString texto(bytes.size(), Qt::Uninitialized);
     QChar* d = texto.data();
-    for (const char b : bytes) *d++ = QChar(Unidad(static_cast<unsigned char>(b)));
+    for (const char b : bytes)
+        *d++ = QChar(Unidad(static_cast<unsigned char>(b)));
     return texto;
 }
 

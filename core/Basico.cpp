@@ -1,99 +1,19 @@
 #include "core/Basico.h"
 
+#include "core/Dibujo_Numero.h"
 #include "core/Error_Ejecucion.h"
 #include "core/Numero_Escrito.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace {
 
-// Number in the Spanish form, made plain ("1.234,5" -> "1234.5"); empty when it is no number.
-QByteArray Numero_Llano(const QString& texto)
-{
-    constexpr Grafia ESPANOLA{.marca = u',', .blancos_tras_signo = true, .puntos_de_miles = true};
-    const QStringView t = QStringView(texto).trimmed();
-    const Numero_Escrito n = Leer_Numero(t, ESPANOLA);
-    return n.Hay() && n.leidos == t.size() ? n.Llano() : QByteArray();
-}
-
-// A decimal reading of at most 15 digits: value = 0.d1d2d3... x 10^punto.
-struct Decimal15 {
-    bool negativo = false;
-    QByteArray cifras;
-    int punto = 0;
-};
-
-Decimal15 Leer_15(double x)
-{
-    Decimal15 d;
-    d.negativo = std::signbit(x) && x != 0;
-    if (x == 0 || !std::isfinite(x)) return d;
-    const QByteArray e = QByteArray::number(std::fabs(x), 'e', 14);
-    const qsizetype marca = e.indexOf('e');
-    d.cifras = e.left(marca);
-    d.cifras.remove(1, 1);
-    d.punto = e.mid(marca + 1).toInt() + 1;
-    return d;
-}
-
-// The digits with exactly `decimales` behind the mark, half away from zero.
-// @return integer digits without leading zeros, then the decimals
-std::pair<QByteArray, QByteArray> Redondear(const Decimal15& d, int decimales)
-{
-    QByteArray todo = d.cifras;
-    int punto = d.punto;
-    if (punto < 0) {
-        todo.prepend(QByteArray(-punto, '0'));
-        punto = 0;
-    }
-    const qsizetype largo = punto + decimales;
-    if (todo.size() > largo) {
-        const bool sube = todo[largo] >= '5';
-        todo.truncate(largo);
-        if (sube) {
-            qsizetype i = largo;
-            while (i > 0 && todo[i - 1] == '9') todo[--i] = '0';
-            if (i > 0) {
-                ++todo[i - 1];
-            } else {
-                todo.prepend('1');
-                ++punto;
-            }
-        }
-    } else {
-        todo.append(QByteArray(largo - todo.size(), '0'));
-    }
-    QByteArray entera = todo.left(punto);
-    qsizetype ceros = 0;
-    while (ceros < entera.size() && entera[ceros] == '0') ++ceros;
-    return {entera.mid(ceros), todo.mid(punto)};
-}
-
-QString Texto_Fijo(const QString& dibujo, const Decimal15& d)
-{
-    const auto es_marca = [](QChar c) { return c == u'0' || c == u'#' || c == u'.'; };
-    qsizetype primera = 0;
-    while (primera < dibujo.size() && !es_marca(dibujo[primera])) ++primera;
-    qsizetype ultima = dibujo.size();
-    while (ultima > primera && !es_marca(dibujo[ultima - 1])) --ultima;
-    const QString marcas = dibujo.mid(primera, ultima - primera);
-    const qsizetype punto = marcas.indexOf(u'.');
-    const QString de_entera = punto < 0 ? marcas : marcas.left(punto);
-    const QString de_decimal = punto < 0 ? QString() : marcas.mid(punto + 1);
-
-    auto [entera, decimales] = Redondear(d, int(de_decimal.size()));
-    const qsizetype cero = de_entera.indexOf(u'0');
-    const qsizetype minimo = cero < 0 ? 0 : de_entera.size() - cero;
-    if (entera.size() < minimo) entera.prepend(QByteArray(minimo - entera.size(), '0'));
-    const qsizetype fijos = de_decimal.lastIndexOf(u'0') + 1;
-    while (decimales.size() > fijos && decimales.endsWith('0')) decimales.chop(1);
-
-    QString texto = d.negativo ? QStringLiteral("-") : QString();
-    texto += dibujo.left(primera) + QString::fromLatin1(entera);
-    if (punto >= 0) texto += u',' + QString::fromLatin1(decimales);
-    return texto + dibujo.mid(ultima);
-}
+// So many characters of a number hold at most 15 digits, which a double holds exactly.
+constexpr qsizetype CIFRAS_EXACTAS = 15;
+constexpr double POTENCIAS[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
 } // namespace
 
@@ -137,14 +57,16 @@ QString Basico::Trim(const QString& texto)
 QString Basico::LTrim(const QString& texto)
 {
     qsizetype i = 0;
-    while (i < texto.size() && texto[i] == u' ') ++i;
+    while (i < texto.size() && texto[i] == u' ')
+        ++i;
     return i == 0 ? texto : texto.mid(i);
 }
 
 QString Basico::RTrim(const QString& texto)
 {
     qsizetype n = texto.size();
-    while (n > 0 && texto[n - 1] == u' ') --n;
+    while (n > 0 && texto[n - 1] == u' ')
+        --n;
     return n == texto.size() ? texto : texto.left(n);
 }
 
@@ -203,17 +125,50 @@ qint64 Basico::CLng(const QString& texto)
 
 double Basico::CDbl(const QString& texto)
 {
-    const QByteArray llano = Numero_Llano(texto);
-    bool bien = false;
-    const double x = llano.toDouble(&bien);
-    if (llano.isEmpty() || (!bien && !std::isinf(x))) throw Error_Ejecucion(13);
-    if (!std::isfinite(x)) throw Error_Ejecucion(6);
-    return x;
+    const auto x = Leer_Numero_Espanol(texto);
+    if (!x) throw Error_Ejecucion(13);
+    return *x;
+}
+
+std::optional<double> Basico::Numero_O_Nada(QStringView texto)
+{
+    const QStringView t = texto.trimmed();
+    const bool negativo = t.startsWith(u'-');
+    quint64 cifras = 0;
+    qsizetype cuantas = 0, decimales = -1;
+    bool llano = t.size() <= CIFRAS_EXACTAS;
+    for (qsizetype i = negativo ? 1 : 0; llano && i < t.size(); ++i) {
+        if (t[i] >= u'0' && t[i] <= u'9') {
+            cifras = cifras * 10 + quint64(t[i].unicode() - u'0');
+            ++cuantas;
+            if (decimales >= 0) ++decimales;
+        } else if ((t[i] == u'.' || t[i] == u',') && decimales < 0 && cuantas > 0) {
+            decimales = 0;
+        } else {
+            llano = false;
+        }
+    }
+    if (!llano || cuantas == 0) {
+        try {
+            return Leer_Numero_Espanol(t.toString().replace(u'.', u','));
+        } catch (const Error_Ejecucion&) {
+            return std::nullopt; // a number, but none that fits
+        }
+    }
+    // Both are exact, so that the quotient is the nearest number, as any good reading gives it.
+    const double x = double(cifras) / POTENCIAS[std::max<qsizetype>(decimales, 0)];
+    return negativo ? -x : x;
+}
+
+double Basico::Leer_Numero(QStringView texto)
+{
+    const auto numero = Numero_O_Nada(texto);
+    return numero ? *numero : CDbl(texto.toString().replace(u'.', u','));
 }
 
 bool Basico::IsNumeric(const QString& texto)
 {
-    return !Numero_Llano(texto).isEmpty();
+    return Es_Numero_Espanol(texto);
 }
 
 QString Basico::Texto_Numero(double x, bool coma)
@@ -232,12 +187,40 @@ QString Basico::Texto_Numero(double x, bool coma)
 
 QString Basico::Formato(double numero, const QString& dibujo)
 {
-    return Texto_Fijo(dibujo, Leer_15(numero));
+    return Dibujo_Numero(dibujo).Texto(numero);
+}
+
+void Basico::Agregar_Fijo(QByteArray& bytes, double numero, int decimales)
+{
+    // The 15-digit reading moves a number by less than this part of itself: farther from a half
+    // than that, it rounds as the number itself does.
+    constexpr double HOLGURA = 1e-14, ENTERO_EXACTO = 1e13;
+    if (decimales >= 0 && decimales <= 6) {
+        const double escalado = std::fabs(numero) * POTENCIAS[decimales];
+        const double suelo = std::floor(escalado), resto = escalado - suelo;
+        if (escalado < ENTERO_EXACTO && std::fabs(resto - 0.5) > HOLGURA * (escalado + 1)) {
+            char cifras[24];
+            char* const fin = std::end(cifras);
+            char* i = fin;
+            quint64 n = quint64(suelo) + (resto > 0.5 ? 1 : 0);
+            for (int d = 0; n > 0 || d <= decimales; ++d, n /= 10) {
+                if (d == decimales && d > 0) *--i = '.';
+                *--i = char('0' + n % 10);
+            }
+            if (numero < 0) *--i = '-';
+            bytes.append(i, fin - i);
+            return;
+        }
+    }
+    QString dibujo = QStringLiteral("0");
+    if (decimales > 0) dibujo += u'.' + QString(decimales, u'0');
+    bytes += Formato(numero, dibujo).replace(u',', u'.').toLatin1();
 }
 
 QString Basico::Formato(const QString& texto, const QString& dibujo)
 {
-    return IsNumeric(texto) ? Formato(CDbl(texto), dibujo) : texto;
+    const auto x = Leer_Numero_Espanol(texto);
+    return x ? Formato(*x, dibujo) : texto;
 }
 
 QString Basico::Formato_Fecha(const QDateTime& fecha, const QString& dibujo)

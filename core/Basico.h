@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QString>
+
+#include <optional>
 
 /// The text and number forms that the program relies on, exact to the letter. Positions are
 /// one-based. The machine is taken to be Spanish (decimal comma) whatever its real locale.
@@ -56,6 +59,12 @@ qint64 CLng(const QString& texto);
 /// whole. @throws Error_Ejecucion 13 when the text is no number
 double CDbl(const QString& texto);
 
+/// A stored number, its mark a point or a comma, read whole as `CDbl` reads it once the point has
+/// become a comma. @throws Error_Ejecucion 13 when the text is no number
+double Leer_Numero(QStringView texto);
+/// The same; nothing when the text is no number or none that fits.
+std::optional<double> Numero_O_Nada(QStringView texto);
+
 /// @return true when `texto` is a number whole as `CDbl` reads it
 bool IsNumeric(const QString& texto);
 
@@ -68,6 +77,10 @@ QString Texto_Numero(double x, bool coma = true);
 /// zero on the number's 15-digit decimal reading. A negative number keeps its "-" also when all the
 /// digits shown are 0, so that a fixed form always has its sign.
 QString Formato(double numero, const QString& dibujo);
+
+/// The same after a picture "0.000" of `decimales` decimals ("0" without), the mark being a point, at
+/// the end of `bytes`: what long files are written with.
+void Agregar_Fijo(QByteArray& bytes, double numero, int decimales);
 
 /// Text form: a text that `IsNumeric` is formatted as a number, any other returned as it stands.
 QString Formato(const QString& texto, const QString& dibujo);

@@ -1,14 +1,17 @@
 #include "core/Configuracion.h"
 
 #include "core/Ansi.h"
+#include "core/Copias.h"
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
 #include "core/ModLOG.h"
 #include "core/Perfil.h"
+#include "core/Renovacion.h"
 #include "core/Sucesos.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -45,16 +48,31 @@ QString Fichero_Ini()
     return En_Instalacion("EstTotal.ini");
 }
 
+QString Plantilla(const QString& ruta)
+{
+    return ruta + QStringLiteral("/DAT/Database.mdb");
+}
+
 // A database that is gone starts from the delivered one again. What the lost one left beside it
 // would be taken for the new one's own unfinished writing.
 void Copiar_Plantilla(const QString& ruta)
 {
-    const QString plantilla = ruta + QStringLiteral("/DAT/Database.mdb");
+    const QString plantilla = Plantilla(ruta);
     if (!FileExist(plantilla)) throw Error_Ejecucion::Con(53, plantilla);
     QDir().mkpath(Ruta_MDB);
     for (const char* resto : {"-wal", "-shm", "-journal"})
         QFile::remove(Fichero_MDB + QString::fromLatin1(resto));
     Ficheros::Copiar(plantilla, Fichero_MDB);
+}
+
+std::shared_ptr<Base> Abrir_O_Recuperar()
+{
+    try {
+        return Base::Abrir(Fichero_MDB);
+    } catch (const Error_Ejecucion& e) {
+        if (e.numero != 3343 || !Copias::Ofrecer()) throw;
+    }
+    return Base::Abrir(Fichero_MDB);
 }
 
 void Tomar(const Ajuste_Texto& ajuste, const QString& valor)
@@ -108,6 +126,13 @@ void Leer_Ini(const QString& fichero)
 
 } // namespace
 
+void Poner_Rutas(const QString& ruta)
+{
+    Ruta_Aplicacion = ruta;
+    Ruta_MDB = ruta + QStringLiteral("/MDB");
+    Fichero_MDB = Ruta_MDB + QStringLiteral("/EstTotal.mdb");
+}
+
 bool Cargar_Configuracion(const QString& ruta)
 {
     QString mensaje = QStringLiteral("Se Produjo un error al leer el Fichero .ini EstTotal.ini");
@@ -115,17 +140,18 @@ bool Cargar_Configuracion(const QString& ruta)
     bool copiada = false;
     try {
         Fichero_Ayuda = ruta + QStringLiteral("/hlp/EstTotal.hlp");
-        Ruta_MDB = ruta + QStringLiteral("/MDB");
-        Fichero_MDB = Ruta_MDB + QStringLiteral("/EstTotal.mdb");
-        if (!FileExist(Fichero_MDB)) {
+        Poner_Rutas(ruta);
+        // One that is there without a byte is a damaged one: it must not make room for an empty one.
+        if (!QFileInfo::exists(Fichero_MDB)) {
             // From here on every failure is told as the database's.
             mensaje = QStringLiteral("Se produjo un error al iniciar la Base de Datos");
             salto = QStringLiteral("\r");
             Copiar_Plantilla(ruta);
             copiada = true;
         }
-        Base_Datos = Base::Abrir(Fichero_MDB);
+        Base_Datos = copiada ? Base::Abrir(Fichero_MDB) : Abrir_O_Recuperar();
         copiada = false;
+        Renovar_Entregadas(*Base_Datos, Plantilla(ruta));
         Leer_Ini(ruta + QStringLiteral("/EstTotal.ini"));
         return true;
     } catch (...) {

@@ -5,8 +5,12 @@
 #include <span>
 #include <variant>
 
-/// Fills the global state at start-up: help file, database (made from the template when missing),
-/// EstTotal.ini. @return false when it failed: the message has been shown and the run must end
+/// Says where an installation and its database lie, without opening anything.
+void Poner_Rutas(const QString& ruta);
+
+/// Fills the global state at start-up: help file, database (made from the template when missing,
+/// offered from its last copy when damaged, its delivered rows renewed), EstTotal.ini.
+/// @return false when it failed: the message has been shown and the run must end
 bool Cargar_Configuracion(const QString& ruta);
 
 /// Reads the row of table `KRT` whose name is `valor` into `Formato_Coord` and `Vel_Puerto`; they

@@ -174,6 +174,15 @@ quint64 Decimal::Redondeados(int n) const
     return cifras % POTENCIA[std::size_t(n)];
 }
 
+std::optional<qint64> Decimal::En_Unidades(int n) const
+{
+    const quint64 unidad = POTENCIA[std::size_t(CIFRAS - n)];
+    // What is below 10^18 fits.
+    if (fraccion % unidad != 0 || entera >= unidad) return std::nullopt;
+    const auto unidades = qint64(entera * POTENCIA[std::size_t(n)] + fraccion / unidad);
+    return negativo ? -unidades : unidades;
+}
+
 QString Decimal::Decimales(int n) const
 {
     return n == 0 ? QString() : QString::number(Redondeados(n)).rightJustified(n, u'0');

@@ -39,6 +39,10 @@ public:
     bool operator<=(const Decimal& otro) const { return !(otro < *this); }
     bool operator>=(const Decimal& otro) const { return !(*this < otro); }
 
+    /// The number in units of its n-th decimal (0 to 18).
+    /// @return nothing when it has decimals beyond them, or is too long
+    std::optional<qint64> En_Unidades(int n) const;
+
     /// Integer part of the absolute value, cut.
     quint64 Entera() const { return entera; }
     /// The decimals alone, rounded to `n` digits (0 to 18) half to even and zero filled; a carry

@@ -1,7 +1,7 @@
 #include "core/Error_Ejecucion.h"
 
-#include <QList>
 #include <new>
+#include <QList>
 #include <utility>
 
 namespace {
@@ -31,6 +31,7 @@ constexpr std::pair<int, const char16_t*> DESCRIPCIONES[] = {
     {383, u"La propiedad es de sólo lectura"},
     {429, u"El componente no puede crear el objeto"},
     {481, u"La imagen no es válida"},
+    {482, u"Error de impresora"},
     {999, u"Error de Comunicación"},
     {3001, u"Argumento no válido"},
     {3008, u"La tabla ya está abierta en modo exclusivo"},
@@ -106,7 +107,8 @@ QString Descripcion_Error(int numero)
 QList<int> Numeros_Error()
 {
     QList<int> numeros;
-    for (const auto& [n, texto] : DESCRIPCIONES) numeros << n;
+    for (const auto& [n, texto] : DESCRIPCIONES)
+        numeros << n;
     return numeros;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <exception>
+#include <QString>
 
 /// A failure at run time: the classic number and its Spanish description. A routine that reports
 /// failures traps it at its one exit and shows it through `Informe_Error`.

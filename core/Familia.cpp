@@ -16,6 +16,7 @@ const Familia FAMILIAS[] = {
      .separador_registro = QStringLiteral("_"),
      .desplazamiento_fijo = true,
      .ofrece_punto = true,
+     .hd6_propio = true,
      .arranque = ENQ,
      .sondeo = ENQ,
      .carga = Carga::Tramas,

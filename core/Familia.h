@@ -28,6 +28,8 @@ struct Familia {
     bool desplazamiento_fijo = false;
     /// The format dialogs offer "Punto", which needs no row in `Campos`.
     bool ofrece_punto = false;
+    /// Its raw form is HD-6, which its tables list like any other; elsewhere it is offered besides.
+    bool hd6_propio = false;
     /// The user names the session of a download; otherwise its data do.
     bool pide_nombre = true;
     /// What `BtnIniciar` sends, and what each tick of the poll sends; empty: nothing.

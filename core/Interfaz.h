@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QString>
-#include <QStringList>
 #include <memory>
 #include <optional>
+#include <QString>
+#include <QStringList>
 
 /// Icons of the message boxes, with the values of the platform's boxes.
 enum class Icono { Ninguno = 0, Critico = 16, Pregunta = 32, Exclamacion = 48, Informacion = 64 };
@@ -11,16 +11,16 @@ enum class Icono { Ninguno = 0, Critico = 16, Pregunta = 32, Exclamacion = 48, I
 /// What a file dialog is asked for.
 struct Peticion_Fichero {
     QString titulo{};
-    QString filtro{};        ///< pairs "descripción|patrón" joined by "|"
-    int indice_filtro = 1;   ///< chosen pair, from 1
-    QString carpeta{};       ///< start folder; empty: the last one used
-    QString extension{};     ///< default extension, added to a name typed without one; empty: none
-    bool guardar = false;    ///< save-style dialog; never asks before overwriting
+    QString filtro{};      ///< pairs "descripción|patrón" joined by "|"
+    int indice_filtro = 1; ///< chosen pair, from 1
+    QString carpeta{};     ///< start folder; empty: the last one used
+    QString extension{};   ///< default extension, added to a name typed without one; empty: none
+    bool guardar = false;  ///< save-style dialog; never asks before overwriting
 };
 
 struct Fichero_Elegido {
     QString nombre;
-    int indice_filtro = 1;  ///< the pair that stood chosen, from 1
+    int indice_filtro = 1; ///< the pair that stood chosen, from 1
 };
 
 /// All that the program says to the user and asks of him. Logic never opens a window: it calls this

@@ -3,12 +3,12 @@
 #include "core/Basico.h"
 #include "core/Error_Ejecucion.h"
 #include "core/Interfaz.h"
-#include "core/Trozos.h"
 #include "core/jet/Base.h"
+#include "core/Trozos.h"
 
+#include <memory>
 #include <QString>
 #include <QStringList>
-#include <memory>
 
 // The chief header: the global state, filled at start-up and read by every dialog, and the common
 // routines. Nothing else of the program is global.
@@ -79,7 +79,7 @@ bool Existe_ID(const QString& id);
 /// Rows of a query for a combo and its tag.
 struct Lista_Combo {
     QStringList textos;
-    QString tag;  ///< values of the tag column joined with code 6, no leading separator
+    QString tag; ///< values of the tag column joined with code 6, no leading separator
 };
 /// Reads a query into texts (column `campo_texto`) and tag (column `campo_tag`).
 Lista_Combo Llenar_Combo(const QString& sql, const QString& campo_texto, const QString& campo_tag);

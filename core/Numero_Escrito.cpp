@@ -1,5 +1,9 @@
 #include "core/Numero_Escrito.h"
 
+#include "core/Error_Ejecucion.h"
+
+#include <cmath>
+
 namespace {
 
 bool Es_Cifra(QChar c)
@@ -93,4 +97,29 @@ QByteArray Numero_Escrito::Llano() const
 Numero_Escrito Leer_Numero(QStringView texto, const Grafia& grafia)
 {
     return Lector(texto, grafia).Leer();
+}
+
+// Number in the Spanish form, made plain ("1.234,5" -> "1234.5"); empty when it is no number.
+static QByteArray Numero_Llano(QStringView texto)
+{
+    constexpr Grafia ESPANOLA{.marca = u',', .blancos_tras_signo = true, .puntos_de_miles = true};
+    const QStringView t = texto.trimmed();
+    const Numero_Escrito n = Leer_Numero(t, ESPANOLA);
+    return n.Hay() && n.leidos == t.size() ? n.Llano() : QByteArray();
+}
+
+std::optional<double> Leer_Numero_Espanol(QStringView texto)
+{
+    const QByteArray llano = Numero_Llano(texto);
+    if (llano.isEmpty()) return std::nullopt;
+    bool bien = false;
+    const double x = llano.toDouble(&bien);
+    if (!bien && !std::isinf(x)) throw Error_Ejecucion(13);
+    if (!std::isfinite(x)) throw Error_Ejecucion(6);
+    return x;
+}
+
+bool Es_Numero_Espanol(QStringView texto)
+{
+    return !Numero_Llano(texto).isEmpty();
 }

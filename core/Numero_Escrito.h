@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <QByteArray>
 #include <QStringView>
 #include <QVarLengthArray>
@@ -34,3 +35,11 @@ struct Numero_Escrito {
 
 /// Reads as far as the text goes on being a number.
 Numero_Escrito Leer_Numero(QStringView texto, const Grafia& grafia);
+
+/// A whole text read as the Spanish machine reads numbers: blanks around, a sign, digits with "."
+/// between thousands, one decimal comma, an exponent.
+/// @return nothing when it is none
+/// @throws Error_Ejecucion 6 when it is too big, 13 when it is too small to be held
+std::optional<double> Leer_Numero_Espanol(QStringView texto);
+/// @return true when it is one, however big
+bool Es_Numero_Espanol(QStringView texto);

@@ -1,6 +1,6 @@
 #include "core/Sesiones.h"
 
-#include "core/Ficheros.h"
+#include "core/Copias.h"
 #include "core/jet/Compactacion.h"
 #include "core/ModEstTotal.h"
 #include "core/ModLOG.h"
@@ -30,6 +30,9 @@ QString Nueva_Sesion(const QString& nombre, int ope)
 QString Nueva_Sesion(const QString& nombre, int ope, const QString& maquina, const QString& maqdes)
 {
     try {
+        // Taken, cleared and filled in one: another program that stores waits for it, and neither
+        // takes the other's number or clears its lines.
+        Transaccion transaccion(Base_Abierta());
         const int id = Siguiente_ID();
         // Lines that a failed deletion left behind are no part of the new session.
         Base_Abierta().Execute("DELETE FROM Registros WHERE ID = ?", {id});
@@ -42,6 +45,7 @@ QString Nueva_Sesion(const QString& nombre, int ope, const QString& maquina, con
         sesiones.Poner("Maquina", maquina);
         sesiones.Poner("MaqDes", maqdes);
         sesiones.Update();
+        transaccion.Confirmar();
         return QString::number(id);
     } catch (...) {
         Anotar_Fallo("Nueva_Sesion");
@@ -85,28 +89,34 @@ void Eliminar_Sesion(qint64 id)
     Q_EMIT Sucesos::Unico().sesiones_cambiadas();
 }
 
-bool Compactar_BD()
+Resultado_Compactacion Compactar_BD()
 {
     const QString compactada = Ruta_MDB + QStringLiteral("/esttotal.pak");
-    bool hecho = false;
+    Resultado_Compactacion r;
+    const auto fallida = [&r] {
+        const Error_Ejecucion error = Error_En_Curso();
+        Anotar_Fallo("Compactar_BD");
+        // Damage found by either step is what counts.
+        if (!r.Danada()) r = {false, error.numero, error.descripcion};
+    };
     try {
         Compactacion c(Fichero_MDB);
         if (Base_Datos) Base_Datos->Close();
         Base_Datos.reset();
         QFile::remove(compactada);
         c.Escribir(compactada);
-        Ficheros::Copiar(compactada, Ruta_MDB + QStringLiteral("/esttotal.bak"));
+        Copias::Guardar(compactada);
         c.Sustituir(compactada);
-        hecho = true;
+        r.hecha = true;
     } catch (...) {
-        Anotar_Fallo("Compactar_BD");
+        fallida();
         QFile::remove(compactada);
     }
     try {
         Base_Datos = Base::Abrir(Fichero_MDB);
     } catch (...) {
-        Anotar_Fallo("Compactar_BD");
+        fallida();
     }
     Q_EMIT Sucesos::Unico().base_reabierta();
-    return hecho;
+    return r;
 }

@@ -17,8 +17,12 @@ Q_SIGNALS:
     void ajustes_guardados();
     /// A session was stored, changed or deleted.
     void sesiones_cambiadas();
+    /// An upload has ended, one way or another; `cuenta` says in plain words how far it came.
+    void envio_acabado(const QString& cuenta);
     /// A format was stored, changed or deleted.
     void formatos_cambiados();
+    /// A code library was stored, changed or deleted.
+    void librerias_cambiadas();
     /// The database was closed and opened again: cached rows no longer hold.
     void base_reabierta();
 

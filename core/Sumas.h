@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/krt300.md
+
 #include <QString>
 
 /// The two checks that instruments put behind what they send, and that what goes to them carries.

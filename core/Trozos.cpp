@@ -106,7 +106,8 @@ QString Rellenar_Ceros(const QString& valor, int n)
 QString Quitar_Espacios_Dobles(const QString& cadena)
 {
     QString texto = Basico::Trim(cadena);
-    while (texto.contains(QStringLiteral("  "))) texto.replace(QStringLiteral("  "), QStringLiteral(" "));
+    while (texto.contains(QStringLiteral("  ")))
+        texto.replace(QStringLiteral("  "), QStringLiteral(" "));
     return texto;
 }
 

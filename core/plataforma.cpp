@@ -1,5 +1,10 @@
 #include "core/plataforma.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStorageInfo>
+
 #ifdef Q_OS_WIN
 #include <io.h>
 #include <windows.h>
@@ -8,7 +13,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>
-#include <QFile>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -44,6 +49,61 @@ bool plataforma::Sincronizar_Carpeta([[maybe_unused]] const QString& carpeta)
     close(d);
     return bien;
 #endif
+}
+
+bool plataforma::Copiar_Permisos(const QString& modelo, const QString& nuevo)
+{
+#ifdef Q_OS_WIN
+    return QFile::setPermissions(nuevo, QFile::permissions(modelo));
+#else
+    struct stat como {};
+    const QByteArray ruta = QFile::encodeName(nuevo);
+    if (stat(QFile::encodeName(modelo).constData(), &como) != 0) return false;
+    // Only the superuser gives files away; the group may be one of the user's own.
+    const bool dado = chown(ruta.constData(), como.st_uid, como.st_gid) == 0 ||
+                      chown(ruta.constData(), uid_t(-1), como.st_gid) == 0;
+    return chmod(ruta.constData(), como.st_mode & 07777) == 0 && dado;
+#endif
+}
+
+namespace {
+
+plataforma::Pregunta_Sistema otra_pregunta = nullptr;
+
+QByteArray Sistema_Propio(const QString& fichero)
+{
+    const QString carpeta = QFileInfo(fichero).absolutePath();
+#ifdef Q_OS_WIN
+    const QString unidad = QDir::toNativeSeparators(QStorageInfo(carpeta).rootPath());
+    if (carpeta.startsWith(QStringLiteral("//")) ||
+        GetDriveTypeW(reinterpret_cast<LPCWSTR>(unidad.utf16())) == DRIVE_REMOTE)
+        return "red";
+#endif
+    return QStorageInfo(carpeta).fileSystemType();
+}
+
+} // namespace
+
+QByteArray plataforma::Sistema_De_Ficheros(const QString& fichero)
+{
+    return otra_pregunta ? otra_pregunta(fichero) : Sistema_Propio(fichero);
+}
+
+void plataforma::Poner_Sistema_De_Ficheros(Pregunta_Sistema pregunta)
+{
+    otra_pregunta = pregunta;
+}
+
+bool plataforma::Es_De_Red(const QByteArray& sistema)
+{
+    // "fuse." is a folder served by a program, nearly always another machine's; a local disk that
+    // is served so calls itself "fuseblk".
+    static constexpr const char* principios[] = {"red",  "nfs",  "cifs",   "smb",    "ncp",   "afs",
+                                                 "9p",   "ceph", "coda",   "fuse.",  "dav",   "gfs",
+                                                 "ocfs", "gpfs", "lustre", "vboxsf", "prl_fs"};
+    for (const char* p : principios)
+        if (sistema.startsWith(p)) return true;
+    return false;
 }
 
 bool plataforma::Puerto_Colgado([[maybe_unused]] qintptr descriptor)

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "export/Columna_Exportar.h"
 #include "export/nivel/Datos_Nivel.h"
-#include "session/Columnas_Texto.h"
 
 #include <initializer_list>
 #include <optional>
@@ -9,7 +9,7 @@
 
 /// `Filas_Exportar`, the row table: first index the column, second the row; all cells of a column
 /// of one length.
-using Filas_Exportar = Columnas_Texto;
+using Filas_Exportar = std::vector<Columna_Exportar>;
 
 /// What stage 1 makes of a session.
 struct Datos_Formateados {

@@ -171,7 +171,9 @@ bool Dialogo_Exportar::Exportar(Avance_Exportar& avance)
     }
     const Salida_Exportar& salida = Elegida();
     if (salida.dialogo) {
-        if (const Abrir_Salida& abrir = salida.dialogo()) abrir(trabajo);
+        Trabajo_Exportar con_fichero = trabajo;
+        con_fichero.fichero = fichero;
+        if (const Abrir_Salida& abrir = salida.dialogo()) abrir(con_fichero);
         return false;
     }
     bool hecho = false;

@@ -14,10 +14,9 @@ const Marca_Fila MARCAS[] = {
 
 } // namespace
 
-const Marca_Fila* Marca_De(QStringView primera_celda)
+const Marca_Fila* Marca_De(QChar primera)
 {
-    if (primera_celda.isEmpty()) return nullptr;
-    const auto marca = std::ranges::find(MARCAS, primera_celda.front(), &Marca_Fila::codigo);
+    const auto marca = std::ranges::find(MARCAS, primera, &Marca_Fila::codigo);
     return marca == std::end(MARCAS) ? nullptr : &*marca;
 }
 

@@ -11,9 +11,13 @@ struct Marca_Fila {
     QString id;     ///< kind of record whose fields are listed
 };
 
-/// @return the mark of a row by its first cell: a head line has code 6, a summary line code 5; null
-///         for an ordinary row
-const Marca_Fila* Marca_De(QStringView primera_celda);
+/// @return the mark of a row by the first character of its first cell: a head line has code 6, a
+///         summary line code 5; null for an ordinary row
+const Marca_Fila* Marca_De(QChar primera);
+inline const Marca_Fila* Marca_De(QStringView primera_celda)
+{
+    return Marca_De(primera_celda.isEmpty() ? QChar() : primera_celda.front());
+}
 inline bool Es_Fila_Marcada(QStringView primera_celda)
 {
     return Marca_De(primera_celda) != nullptr;

@@ -18,14 +18,21 @@ class Fila_En_Curso {
 public:
     Fila_En_Curso(Filas_Exportar& filas_, qsizetype campos) : celdas(campos), filas(filas_)
     {
-        filas.assign(std::size_t(campos), {});
+        filas.assign(std::size_t(campos), Columna_Exportar());
     }
 
     // Adds the row to the table; the cells are empty again.
     void Guardar()
     {
-        for (qsizetype c = 0; c < celdas.size(); ++c)
-            filas[std::size_t(c)].push_back(std::exchange(celdas[c], QString()));
+        for (qsizetype c = 0; c < celdas.size(); ++c) {
+            QString& celda = celdas[c];
+            filas[std::size_t(c)].push_back(celda);
+            // A text of its own keeps its place for the next row.
+            if (celda.isDetached())
+                celda.resize(0);
+            else
+                celda.clear();
+        }
     }
 
     QStringList celdas; // `Campos_Fila`
@@ -87,10 +94,7 @@ bool Llenar_De_Una_Pasada(const Origen_Exportar& s, Filas_Exportar& filas)
         }
         lineas.Texto(2, texto);
         decodificador.Linea(texto, fila.celdas);
-        if (con_generales) {
-            lineas.Texto(3, texto);
-            decodificador.General(texto, fila.celdas);
-        }
+        if (con_generales) decodificador.General(lineas.Bytes(3), fila.celdas);
         marcador.Paso();
     }
     if (corridas > 0) cerrar();
@@ -98,8 +102,16 @@ bool Llenar_De_Una_Pasada(const Origen_Exportar& s, Filas_Exportar& filas)
     return secuencia <= ULTIMA_SECUENCIA;
 }
 
+// More points than rows: the runs, which are no fewer, are counted before anything is decoded.
+void Rechazar_Demasiados_Puntos(const Origen_Exportar& s)
+{
+    Recorrido sesion = s.bd.Recorrer("SELECT NPuntos FROM Sesiones WHERE ID = ?", {s.id});
+    if (sesion.Siguiente() && sesion.Entero(0) > qint64(MAX_FILAS)) Buscar_Corridas(s.bd, s.id);
+}
+
 void Llenar_Con_Puntos(const Origen_Exportar& s, Datos_Formateados& datos)
 {
+    Rechazar_Demasiados_Puntos(s);
     if (!Llenar_De_Una_Pasada(s, datos.filas)) Llenar_Por_Corridas(s, datos.filas);
 }
 
@@ -114,8 +126,7 @@ void Llenar_Con_Registros(const Origen_Exportar& s, Datos_Formateados& datos)
     while (registros.Siguiente()) {
         registros.Texto(0, texto);
         decodificador.Linea(texto, fila.celdas);
-        registros.Texto(1, texto);
-        decodificador.General(texto, fila.celdas);
+        decodificador.General(registros.Bytes(1), fila.celdas);
         fila.Guardar();
         marcador.Paso();
     }
@@ -186,20 +197,20 @@ Datos_Formateados Formatear_Datos(const Origen_Exportar& origen)
 
 void Ajustar_Filas(Filas_Exportar& filas)
 {
-    Quitar_Vacios(filas);
+    if (filas.empty()) return;
+    std::vector<std::size_t> llenas;
+    for (std::size_t fila = 0; fila < filas.front().size(); ++fila)
+        if (std::ranges::any_of(filas, [fila](const Columna_Exportar& columna) {
+                return columna.Vista(fila).Largo() > 0;
+            }))
+            llenas.push_back(fila);
+    if (llenas.empty() || llenas.size() == filas.front().size()) return;
+    for (Columna_Exportar& columna : filas)
+        columna.Quedarse_Con(llenas);
 }
 
 void Igualar_Columnas(Filas_Exportar& filas)
 {
-    for (auto& columna : filas) {
-        qsizetype ancho = 0;
-        for (const QString& celda : columna)
-            ancho = std::max(ancho, celda.size());
-        for (QString& celda : columna) {
-            const qsizetype largo = celda.size();
-            if (largo == ancho) continue;
-            celda.resize(ancho);
-            std::fill(celda.begin() + largo, celda.end(), QChar(u' '));
-        }
-    }
+    for (Columna_Exportar& columna : filas)
+        columna.Igualar();
 }

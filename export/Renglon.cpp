@@ -41,9 +41,8 @@ void Anchos_Columna(const QStringList& campos, const Filas_Exportar& filas,
 {
     anchos.assign(filas.size(), 0);
     for (std::size_t c = 0; c < filas.size(); ++c) {
-        if (con_titulos) anchos[c] = campos[qsizetype(c)].size();
-        for (const QString& celda : filas[c])
-            anchos[c] = std::max(anchos[c], celda.size());
+        anchos[c] = filas[c].Ancho();
+        if (con_titulos) anchos[c] = std::max(anchos[c], campos[qsizetype(c)].size());
     }
 }
 

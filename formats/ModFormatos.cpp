@@ -24,6 +24,45 @@ void Anotar_Id(int& libre, const QString& id)
     datosexport[libre++] = doblado;
 }
 
+// What was found in a session, as long as nothing is written to the database: the dialogs ask anew
+// for each format that is picked.
+struct Ids_De_Sesion {
+    quint64 version = 0;
+    Sesion_Elegida sesion;
+    QStringList ids;
+
+    bool Son_De(quint64 de_version, const Sesion_Elegida& otra) const
+    {
+        return version == de_version && sesion.id == otra.id && sesion.maquina == otra.maquina &&
+               sesion.ope == otra.ope;
+    }
+};
+
+// Fills the empty `datosexport`, in the order of the lines.
+void Sacar_De_Las_Lineas(Base& bd, const Sesion_Elegida& sesion)
+{
+    static Ids_De_Sesion ultimos;
+    const quint64 version = bd.Version();
+    if (ultimos.Son_De(version, sesion)) {
+        datosexport = ultimos.ids;
+        return;
+    }
+    const Familia& familia = Familia_De(sesion.maquina);
+    int libre = 0;
+    QStringList vistos;
+    QString linea;
+    // An order that the index serves: no session is sorted to be looked through.
+    Recorrido registros = bd.Recorrer(SQL_Registros(sesion.id) + " ORDER BY Secuencia");
+    while (registros.Siguiente()) {
+        registros.Texto(1, linea);
+        const QStringView id = Id_De_Formato(linea, familia, sesion.ope);
+        if (vistos.contains(id)) continue;
+        Anotar_Id(libre, id.toString());
+        if (!id.isEmpty()) vistos << id.toString();
+    }
+    ultimos = {version, sesion, datosexport};
+}
+
 Formato Formato_De(const Conjunto_Registros& formatos)
 {
     Formato f;
@@ -92,10 +131,7 @@ void Sacar_IDs(Base& bd, const Sesion_Elegida& sesion, bool formato_nuevo)
         (fila.operacion == Operacion::Perfiles && formato_nuevo)) {
         datosexport[0] = fila.id_fijo;
     } else {
-        int libre = 0;
-        Recorrido registros = bd.Recorrer(SQL_Registros(sesion.id));
-        while (registros.Siguiente())
-            Anotar_Id(libre, Leer_Id_Registro(registros.Texto(1), sesion.maquina, sesion.ope));
+        Sacar_De_Las_Lineas(bd, sesion);
     }
 }
 

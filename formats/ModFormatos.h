@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/textos.md
+
 #include "core/ModEstTotal.h"
 #include "formats/Dos_Listas.h"
 #include "session/Consultas_Sesion.h"

@@ -3,8 +3,8 @@
 #include "core/Estado_Global.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
-#include "core/Texto_SQL.h"
 #include "core/Sesiones.h"
+#include "core/Texto_SQL.h"
 #include "session/Identificador.h"
 
 bool Tipo_Ficheros_Puntos = false;
@@ -72,9 +72,16 @@ QString SQL_Registros(qint64 id)
     return "SELECT Punto,datos,secuencia FROM registros WHERE id= " + QString::number(id);
 }
 
+// Asked so, the first row answers, in whatever order.
+static bool Da_Filas(Base& bd, const QString& sql)
+{
+    Recorrido existe = bd.Recorrer("SELECT EXISTS(" + sql + ')');
+    return existe.Siguiente() && existe.Entero(0) != 0;
+}
+
 bool Comprobar_Hay_Registros(Base& bd, qint64 id)
 {
-    if (bd.Recorrer(SQL_Registros(id)).Siguiente()) return true;
+    if (Da_Filas(bd, SQL_Registros(id))) return true;
     Interfaz_Actual().Mensaje(QString::fromUtf16(SIN_DATOS));
     return false;
 }
@@ -85,8 +92,7 @@ Vista_Datos Preparar_Vista(const Sesion_Elegida& sesion)
     const Familia& familia = Familia_De(sesion.maquina);
     const Operacion operacion{sesion.ope};
     Vista_Datos vista;
-    // The jobs of series B are any lines, which no row of `Identificadores` describes.
-    if (familia.serie == Serie::B && operacion == Operacion::Trabajo)
+    if (!Con_Descripcion(sesion))
         vista.sql =
             "SELECT '' as Descr,Punto,Datos,DatosG FROM Registros WHERE Registros.id=" + id +
             " ORDER BY Secuencia";
@@ -103,6 +109,26 @@ Vista_Datos Preparar_Vista(const Sesion_Elegida& sesion)
     return vista;
 }
 
+// The jobs of series B are any lines, which no row of `Identificadores` describes.
+bool Con_Descripcion(const Sesion_Elegida& sesion)
+{
+    return Familia_De(sesion.maquina).serie != Serie::B ||
+           Operacion(sesion.ope) != Operacion::Trabajo;
+}
+
+std::optional<QString> Descripcion_De(Base& bd, const Sesion_Elegida& sesion, const QString& id)
+{
+    Recorrido clases =
+        bd.Recorrer("SELECT Id,NomID FROM Identificadores WHERE Nombre = ? AND OPE = ?",
+                    {sesion.maquina, sesion.ope});
+    const Serie serie = Familia_De(sesion.maquina).serie;
+    while (clases.Siguiente()) {
+        const QString clase = clases.Texto(0);
+        if ((serie == Serie::B ? Basico::Trim(clase) : clase.left(1)) == id) return clases.Texto(1);
+    }
+    return std::nullopt;
+}
+
 std::optional<Vista_Datos> Ver_Datos(Base& bd, const std::optional<Sesion_Elegida>& sesion)
 {
     const Cursor_De_Espera espera;
@@ -112,7 +138,7 @@ std::optional<Vista_Datos> Ver_Datos(Base& bd, const std::optional<Sesion_Elegid
     }
     try {
         const Vista_Datos vista = Preparar_Vista(*sesion);
-        if (bd.Recorrer(vista.sql).Siguiente()) return vista;
+        if (Da_Filas(bd, vista.sql)) return vista;
         Interfaz_Actual().Mensaje(QString::fromUtf16(SIN_DATOS));
     } catch (...) {
         Informe_Error("Se produjo un error al leer los datos de la sesión", Error_En_Curso());

@@ -51,6 +51,11 @@ struct Vista_Datos {
     bool columna_punto = false, columna_descr = false; ///< visible
 };
 Vista_Datos Preparar_Vista(const Sesion_Elegida& sesion);
+/// @return false for the sessions whose lines have no kinds: all of them are listed, without words
+bool Con_Descripcion(const Sesion_Elegida& sesion);
+/// The words of a kind, as that query joins them to a line. @param id  as `Id_Del_Visor` reads it
+/// @return nothing when the session's operation doesn't have the kind: its lines aren't listed
+std::optional<QString> Descripcion_De(Base& bd, const Sesion_Elegida& sesion, const QString& id);
 /// Prepares the view for the browser's button: beeps without a session, shows the box for one
 /// without lines, reports errors. @return nothing in these cases
 std::optional<Vista_Datos> Ver_Datos(Base& bd, const std::optional<Sesion_Elegida>& sesion);

@@ -22,49 +22,7 @@ QStringView Vista_Trozo(int n, QStringView linea, QChar sep)
     return linea.mid(desde, p < 0 ? -1 : p - desde);
 }
 
-bool Es_Texto(const Fila_Campo& campo)
-{
-    return Sin_Blancos(campo.posdigit) == u"*";
-}
-
-// A text that is to be split into integer and decimals holds digits; anything else is damage.
-void Exigir_Cifras(QStringView valor)
-{
-    if (!valor.isEmpty() && (valor.front() == u'+' || valor.front() == u'-')) valor = valor.mid(1);
-    const auto vale = [](QChar c) { return (c >= u'0' && c <= u'9') || c == u' ' || c == u'.'; };
-    if (!std::ranges::all_of(valor, vale)) throw Error_Ejecucion(13);
-}
-
-// The picture is the machine's, whose decimal mark is the comma; stored texts have the point.
-QString Aplicar_Formato(const QString& valor, const Fila_Campo& campo)
-{
-    QString numero = valor;
-    numero.replace(u'.', u',');
-    if (!Basico::IsNumeric(numero)) {
-        if (!Es_Texto(campo)) throw Error_Ejecucion(13);
-        return numero.replace(u',', u'.');
-    }
-    return Basico::Formato(numero, campo.forsalida).replace(u',', u'.');
-}
-
-// The digits of an integer part without the zeros in front; "0" when nothing else is left.
-QString Sin_Ceros(QStringView entera)
-{
-    QStringView t = Sin_Blancos(entera);
-    bool negativo = false;
-    if (!t.isEmpty() && (t.front() == u'+' || t.front() == u'-')) {
-        negativo = t.front() == u'-';
-        t = t.mid(1);
-    }
-    if (!std::ranges::all_of(t, [](QChar c) { return c >= u'0' && c <= u'9'; }))
-        throw Error_Ejecucion(13);
-    while (!t.isEmpty() && t.front() == u'0')
-        t = t.mid(1);
-    const QString cifras = t.isEmpty() ? QStringLiteral("0") : t.toString();
-    return negativo ? u'-' + cifras : cifras;
-}
-
-const QString& Formato_Coordenada()
+const QString& Anchos_De_Coordenada()
 {
     static const QString formato = QString::fromUtf16(FORMATO_COORDENADA);
     return formato;
@@ -74,54 +32,8 @@ std::optional<Sumador> Sumador_De(const Suma& suma, const Fila_Campo& campo)
 {
     const QString* const desplazamiento = suma.desplazamientos.De_Marca(campo.marcas);
     if (!desplazamiento) return std::nullopt;
-    return Sumador(suma.familia, *desplazamiento, Formato_Coordenada(), campo.posdigit,
-                   Formato_Coordenada());
-}
-
-// A coordinate's first place is its sign's. Deliberate: what isn't "-" there counts as "+", a digit
-// too.
-QString Sumar_Coordenada(QStringView corte, const std::optional<Sumador>& sumador)
-{
-    const bool con_signo = corte.front() == u'-' || corte.front() == u'+';
-    if (con_signo && sumador) return sumador->Sumar(corte);
-    QString valor = corte.toString();
-    if (!con_signo) valor[0] = u'+';
-    return sumador ? sumador->Sumar(valor) : valor;
-}
-
-// Value of a field in fixed columns. @param linea  without blanks around
-QString Valor_De_Columnas(QStringView linea, int posicion, const Fila_Campo& campo,
-                          const std::optional<Sumador>& sumador)
-{
-    QStringView corte;
-    if (campo.especial.contains(u"ED") && linea.contains(u'`'))
-        corte = linea.mid(linea.lastIndexOf(u'`') + 1);
-    else if (posicion <= linea.size())
-        corte = Sin_Blancos(linea.mid(posicion - 1, std::max(0, campo.digitos)));
-    if (corte.isEmpty()) return {};
-
-    QString valor;
-    if (!campo.marcas.isEmpty()) {
-        valor = Sumar_Coordenada(corte, sumador);
-    } else {
-        valor = corte.toString();
-        if (!Es_Texto(campo)) {
-            if (!campo.caracter.isEmpty()) Exigir_Cifras(valor);
-            valor = Aplicar_Digitos(campo.posdigit, valor, campo.caracter);
-        }
-        if (!campo.forsalida.isEmpty()) valor = Aplicar_Formato(valor, campo);
-    }
-    return campo.especial.isEmpty() ? valor : Aplicar_Especial(valor, campo.especial);
-}
-
-// Value of a KRT800 token; nothing when the instrument sent no data.
-std::optional<QString> Valor_De_Token(QStringView token, const Fila_Campo& campo,
-                                      const std::optional<Sumador>& sumador)
-{
-    if (token.startsWith(u'*')) return std::nullopt;
-    if (token.isEmpty()) return QString();
-    const QString valor = sumador ? sumador->Sumar(token) : token.toString();
-    return campo.especial.isEmpty() ? valor : Aplicar_Especial(valor, campo.especial);
+    return Sumador(suma.familia, *desplazamiento, Anchos_De_Coordenada(), campo.posdigit,
+                   Anchos_De_Coordenada());
 }
 
 // What the tokens of a KRT800 line are counted in: the kinds with a word in front lose it.
@@ -140,14 +52,29 @@ QChar Separador_800(int ope)
     return Operacion(ope) == Operacion::Alineaciones ? u' ' : u',';
 }
 
-// Item of a KRT800 `DatosG` that holds a field: identifier, field and value.
-std::optional<QStringView> Valor_General_800(QStringView datosg, const Fila_Campo& campo)
+std::vector<QByteArrayView> Piezas_De(QByteArrayView datosg)
 {
-    for (const QStringView pieza : datosg.tokenize(QChar(SEP_LISTA)))
-        if (Vista_Trozo(1, pieza, SEP_CAMPO) == campo.id &&
-            Vista_Trozo(2, pieza, SEP_CAMPO) == campo.campo)
-            return Vista_Trozo(3, pieza, SEP_CAMPO);
-    return std::nullopt;
+    std::vector<QByteArrayView> piezas;
+    for (qsizetype desde = 0; desde <= datosg.size();) {
+        const qsizetype p = datosg.indexOf(char(SEP_LISTA), desde);
+        const qsizetype fin = p < 0 ? datosg.size() : p;
+        piezas.push_back(datosg.sliced(desde, fin - desde));
+        desde = fin + 1;
+    }
+    return piezas;
+}
+
+// Identifier and field of a KRT800 item of `DatosG`.
+QByteArrayView Nombre_De_Item(QByteArrayView pieza)
+{
+    const qsizetype campo = pieza.indexOf(char(SEP_CAMPO));
+    const qsizetype valor = campo < 0 ? -1 : pieza.indexOf(char(SEP_CAMPO), campo + 1);
+    return valor < 0 ? pieza : pieza.first(valor);
+}
+
+bool Nombran_Lo_Mismo(QByteArrayView una, QByteArrayView otra)
+{
+    return una == otra || Nombre_De_Item(una) == Nombre_De_Item(otra);
 }
 
 // Runs a routine that must leave quietly whatever happens.
@@ -164,38 +91,13 @@ template <typename Rutina> void En_Silencio(const char* nombre, Rutina&& rutina)
 
 QString Aplicar_Digitos(const QString& posdigit, const QString& valor, const QString& caracter)
 {
-    if (valor.isEmpty() || Sin_Blancos(posdigit) == u"*") return valor;
-    QString v = valor;
-    const bool negativo = v.front() == u'-';
-    if (negativo)
-        v.remove(0, 1);
-    else if (v.front() == u'+')
-        v[0] = u'0';
-    if (!caracter.isEmpty()) {
-        const auto [e, d] = Anchos_Numero::Leer(posdigit);
-        if (v.size() < d) v = v.rightJustified(d, u'0');
-        const qsizetype corte = v.size() - d;
-        const qsizetype inicio = std::max<qsizetype>(0, corte - e);
-        v = v.mid(inicio, corte - inicio) + caracter + v.mid(corte);
-    }
-    return negativo ? u'-' + v : v;
+    return Plan_Digitos(posdigit, caracter).Aplicar(valor);
 }
 
 QString Aplicar_Especial(const QString& valor, const QString& lista)
 {
     QString v = valor;
-    for (QStringView orden : QStringView(lista).tokenize(u',')) {
-        orden = Sin_Blancos(orden);
-        const qsizetype punto = v.indexOf(u'.');
-        if (orden == u"CD" && punto >= 0) {
-            while (v.size() > punto + 2 && v.endsWith(u'0'))
-                v.chop(1);
-        } else if (orden == u"CI" && punto >= 0) {
-            v = Sin_Ceros(QStringView(v).left(punto)) + v.mid(punto);
-        } else if (orden == u"ED") {
-            v = v.mid(v.lastIndexOf(u'`') + 1);
-        }
-    }
+    Plan_Especial(lista).Aplicar(v);
     return v;
 }
 
@@ -204,8 +106,8 @@ QString Aplicar_Marca(const Suma& suma, const QString& modo, const QString& marc
 {
     const QString* const desplazamiento = suma.desplazamientos.De_Marca(marca);
     if (!desplazamiento) return valor;
-    return Sumar_Desplazamiento(suma.familia, modo, *desplazamiento, Formato_Coordenada(), valor,
-                                posdigit, Formato_Coordenada());
+    return Sumar_Desplazamiento(suma.familia, modo, *desplazamiento, Anchos_De_Coordenada(), valor,
+                                posdigit, Anchos_De_Coordenada());
 }
 
 void Cortar_Campo(const Suma& suma, const QString& linea, int posicion, const Fila_Campo& campo,
@@ -213,10 +115,13 @@ void Cortar_Campo(const Suma& suma, const QString& linea, int posicion, const Fi
 {
     const qsizetype lugar = nombres.indexOf(campo.campo);
     if (lugar < 0) return;
-    valores[lugar].clear();
+    QString valor;
     En_Silencio("Cortar_Campo", [&] {
-        valores[lugar] = Valor_De_Columnas(linea, posicion, campo, Sumador_De(suma, campo));
+        QString cortado;
+        Plan_Campo(campo, Sumador_De(suma, campo)).De_Columnas(linea, posicion, cortado);
+        valor = cortado;
     });
+    valores[lugar] = valor;
 }
 
 void Cortar_Token_800(const Suma& suma, int ope, const QString& linea, int indice,
@@ -228,7 +133,9 @@ void Cortar_Token_800(const Suma& suma, int ope, const QString& linea, int indic
     const QStringView token = Vista_Trozo(indice, *resto, Separador_800(ope));
     QString valor;
     En_Silencio("Cortar_Token_800", [&] {
-        valor = Valor_De_Token(token, campo, Sumador_De(suma, campo)).value_or(valores[lugar]);
+        QString cortado = valores[lugar];
+        Plan_Campo(campo, Sumador_De(suma, campo)).De_Token(token, cortado);
+        valor = cortado;
     });
     valores[lugar] = valor;
 }
@@ -292,70 +199,88 @@ Decodificador::Decodificador(Base& base, const Familia& de, int operacion,
 
 const Decodificador::Registro& Decodificador::Preparar(QStringView id)
 {
-    // Most identifiers are one letter.
+    // Most identifiers are one letter, and lines of one word follow each other.
     const std::size_t letra = id.size() == 1 ? id.front().unicode() : por_letra.size();
     if (letra < por_letra.size() && por_letra[letra]) return *por_letra[letra];
+    if (ultimo.second && id == ultimo.first) return *ultimo.second;
     auto hallado = registros.find(id);
     if (hallado == registros.end())
         hallado = registros.emplace(id.toString(), Leer_Registro(id.toString())).first;
     if (letra < por_letra.size()) por_letra[letra] = &hallado->second;
+    ultimo = {hallado->first, &hallado->second};
     return hallado->second;
 }
 
 Decodificador::Registro Decodificador::Leer_Registro(const QString& id) const
 {
     Registro registro;
-    registro.filas = Campos_De(bd, familia.clave, id);
+    const Filas_Campo filas = Campos_De(bd, familia.clave, id);
+    registro.con_filas = !filas->empty();
     const bool por_trozos = familia.serie == Serie::B;
     int posicion = por_trozos ? 1 : 2;
-    for (const Fila_Campo& campo : *registro.filas) {
+    for (const Fila_Campo& campo : *filas) {
         const qsizetype lugar = nombres.indexOf(campo.campo);
         // Deliberate: a field that isn't listed ("NL") is still decoded in fixed columns.
-        if (lugar >= 0 && !(por_trozos && campo.marcas == u"NL"))
-            registro.pasos.push_back({lugar, posicion, &campo, Sumador_De(suma, campo)});
+        if (lugar >= 0 && !(por_trozos && campo.marcas == u"NL")) {
+            registro.pasos.push_back({lugar, posicion, Plan_Campo(campo, Sumador_De(suma, campo))});
+            registro.ultimo_token = posicion;
+        }
         posicion += por_trozos ? 1 : campo.digitos;
     }
     return registro;
 }
 
 // A field that fails is emptied; the run log tells of the first one and spares the rest.
-template <typename Valor>
-void Decodificador::Guardar(QString& valor, QStringView linea, Valor&& sacar)
+// @return false when it failed
+template <typename Sacar>
+bool Decodificador::Guardar(QString& valor, QStringView linea, Sacar&& sacar)
 {
     try {
-        valor = sacar();
+        sacar(valor);
+        return true;
     } catch (...) {
         valor.clear();
         const Error_Ejecucion error = Error_En_Curso();
         if (!anotado)
             Anotar("Decodificador", error.descripcion + ": " + linea.left(200).toString());
         anotado = true;
+        return false;
     }
 }
 
 void Decodificador::Linea(QStringView linea, QStringList& valores)
 {
     // The level's lines are all of one kind; so is any other session's while it is in force.
-    const Registro& registro = Preparar(suma.familia.serie == Serie::Nivel
-                                            ? QStringView(u"1")
-                                            : Id_De_Linea(linea, familia, ope));
+    const Registro& registro = Preparar(
+        suma.familia.serie == Serie::Nivel ? QStringView(u"1") : Id_De_Linea(linea, familia, ope));
     if (familia.serie == Serie::A) {
         const QStringView recortada = Sin_Blancos(linea);
         for (const Paso& paso : registro.pasos)
-            Guardar(valores[paso.lugar], linea, [&] {
-                return Valor_De_Columnas(recortada, paso.posicion, *paso.campo, paso.sumador);
+            Guardar(valores[paso.lugar], linea, [&](QString& valor) {
+                paso.plan.De_Columnas(recortada, paso.posicion, valor);
             });
     } else if (familia.serie == Serie::B) {
-        const auto resto = Sin_Palabra(linea, ope);
-        if (!resto) return;
-        for (const Paso& paso : registro.pasos) {
-            QString& valor = valores[paso.lugar];
-            const QStringView token = Vista_Trozo(paso.posicion, *resto, Separador_800(ope));
-            Guardar(valor, linea,
-                    [&] { return Valor_De_Token(token, *paso.campo, paso.sumador).value_or(valor); });
-        }
-    } else if (familia.serie == Serie::Nivel && !registro.filas->empty()) {
+        Cortar_Trozos(registro, linea, valores);
+    } else if (familia.serie == Serie::Nivel && registro.con_filas) {
         Cortar_NV400(linea.toString(), nombres, valores);
+    }
+}
+
+void Decodificador::Cortar_Trozos(const Registro& registro, QStringView linea, QStringList& valores)
+{
+    const auto resto = Sin_Palabra(linea, ope);
+    if (!resto || registro.pasos.empty()) return;
+    const QChar separador = Separador_800(ope);
+    trozos.clear();
+    for (const QStringView trozo : resto->tokenize(separador)) {
+        trozos.push_back(trozo);
+        if (int(trozos.size()) == registro.ultimo_token) break;
+    }
+    for (const Paso& paso : registro.pasos) {
+        const auto n = std::size_t(paso.posicion);
+        const QStringView trozo = n <= trozos.size() ? trozos[n - 1] : QStringView();
+        Guardar(valores[paso.lugar], linea,
+                [&](QString& valor) { paso.plan.De_Token(trozo, valor); });
     }
 }
 
@@ -369,7 +294,8 @@ void Decodificador::Preparar_Generales()
         // A general value never gets an offset.
         campo->marcas.clear();
         const int posicion = Posicion_Campo(bd, suma.familia, campo->id, campo->orden);
-        generales->push_back({i, posicion, std::move(*campo)});
+        generales->push_back(
+            {i, posicion, campo->id, campo->campo, Plan_Campo(*campo, std::nullopt)});
     }
 }
 
@@ -381,24 +307,71 @@ bool Decodificador::Hay_Generales()
 
 void Decodificador::General(const QString& datosg, QStringList& valores)
 {
+    General(QByteArrayView(datosg.toUtf8()), valores);
+}
+
+void Decodificador::General(QByteArrayView datosg, QStringList& valores)
+{
     if (datosg.isEmpty() || !Hay_Generales()) return;
-    for (const General_Pedido& pedido : *generales) {
-        QString& valor = valores[pedido.lugar];
-        if (familia.serie == Serie::B) {
-            if (const auto token = Valor_General_800(datosg, pedido.campo))
-                Guardar(valor, datosg, [&] {
-                    return Valor_De_Token(*token, pedido.campo, std::nullopt).value_or(valor);
-                });
-            continue;
-        }
-        for (const QStringView pieza : QStringView(datosg).tokenize(QChar(SEP_LISTA))) {
-            if (pieza.left(1) != pedido.campo.id) continue;
-            Guardar(valor, datosg, [&] {
-                return Valor_De_Columnas(pieza.mid(1), pedido.posicion, pedido.campo, std::nullopt);
+    if (datosg != ultimos_generales) {
+        if (familia.serie == Serie::B)
+            Leer_Generales_800(datosg);
+        else
+            Leer_Generales(QString::fromUtf8(datosg));
+        ultimos_generales = datosg.toByteArray();
+    }
+    for (const General_Leido& leido : generales_leidos)
+        if (leido.valor) valores[leido.pedido->lugar] = *leido.valor;
+}
+
+// The first item that begins with a field's identifier holds it.
+void Decodificador::Leer_Generales(QStringView datosg)
+{
+    generales_leidos.clear();
+    for (const General_Pedido& pedido : *generales)
+        for (const QStringView pieza : datosg.tokenize(QChar(SEP_LISTA))) {
+            if (pieza.left(1) != pedido.id) continue;
+            QString cortado;
+            Guardar(cortado, datosg, [&](QString& valor) {
+                pedido.plan.De_Columnas(pieza.mid(1), pedido.posicion, valor);
             });
+            generales_leidos.push_back({&pedido, cortado});
             break;
         }
+}
+
+// Each sight brings one item anew and leaves the others as they were: as long as they name the same
+// fields, only what changed is read.
+void Decodificador::Leer_Generales_800(QByteArrayView datosg)
+{
+    const std::vector<QByteArrayView> antes = Piezas_De(ultimos_generales);
+    const std::vector<QByteArrayView> ahora = Piezas_De(datosg);
+    if (!std::ranges::equal(antes, ahora, Nombran_Lo_Mismo)) return Casar_Generales_800(ahora);
+    for (General_Leido& leido : generales_leidos)
+        if (ahora[leido.pieza] != antes[leido.pieza]) Leer_Item(leido, ahora[leido.pieza]);
+}
+
+// The first item of a field's identifier and name holds it: identifier, field and value.
+void Decodificador::Casar_Generales_800(const std::vector<QByteArrayView>& piezas)
+{
+    generales_leidos.clear();
+    for (const General_Pedido& pedido : *generales) {
+        const QByteArray nombre = (pedido.id + QChar(SEP_CAMPO) + pedido.campo).toUtf8();
+        const auto pieza = std::ranges::find(piezas, QByteArrayView(nombre), Nombre_De_Item);
+        if (pieza == piezas.end()) continue;
+        generales_leidos.push_back({&pedido, {}, std::size_t(pieza - piezas.begin())});
+        Leer_Item(generales_leidos.back(), *pieza);
     }
+}
+
+void Decodificador::Leer_Item(General_Leido& leido, QByteArrayView pieza)
+{
+    const QString item = QString::fromUtf8(pieza);
+    const QStringView token = Vista_Trozo(3, item, SEP_CAMPO);
+    leido.valor.reset();
+    if (token.startsWith(u'*')) return;
+    leido.valor.emplace();
+    Guardar(*leido.valor, item, [&](QString& valor) { leido.pedido->plan.De_Token(token, valor); });
 }
 
 void Decodificador::Poner_Punto(const QString& punto, QStringList& valores) const

@@ -1,8 +1,10 @@
 #pragma once
 
+// The form: docs/formas/tablas.md
+
 #include "core/Familia.h"
 #include "core/jet/Base.h"
-#include "session/Desplazamiento.h"
+#include "session/Plan_Campo.h"
 
 #include <array>
 #include <map>
@@ -101,7 +103,8 @@ void Decodificar_General(Base& bd, const QString& datosg, const QString& maquina
                          const QStringList& nombres, QStringList& valores, int ope);
 
 /// The decoder made ready for many lines of one session and one list of names: what the rows of
-/// `Campos` say is worked out once a record kind. The routines above are this object used once.
+/// `Campos` say is worked out once a record kind, and general records once as long as they stay the
+/// same. The routines above are this object used once.
 class Decodificador {
 public:
     /// The model and the offsets in force are those of this moment.
@@ -116,6 +119,9 @@ public:
 
     void Linea(QStringView linea, QStringList& valores);
     void General(const QString& datosg, QStringList& valores);
+    /// The same from the store's bytes (UTF-8), which are looked at only when they are others than
+    /// those of the call before.
+    void General(QByteArrayView datosg, QStringList& valores);
     /// Puts the point's name into the fields called "Punto".
     void Poner_Punto(const QString& punto, QStringList& valores) const;
     /// @return false when no name is a general field: `General` then does nothing
@@ -125,23 +131,35 @@ private:
     struct Paso {
         qsizetype lugar; // place in the values, from 0
         int posicion;    // column, or token number, from 1
-        const Fila_Campo* campo;
-        std::optional<Sumador> sumador; // of a coordinate
+        Plan_Campo plan;
     };
     struct Registro {
-        Filas_Campo filas;
+        bool con_filas = false;
         std::vector<Paso> pasos;
+        int ultimo_token = 0; // the highest that a step asks for
     };
     struct General_Pedido {
         qsizetype lugar;
         int posicion;
-        Fila_Campo campo;
+        QString id, campo;
+        Plan_Campo plan;
+    };
+    // What general records give to the values: a text, or nothing, which leaves the old one.
+    struct General_Leido {
+        const General_Pedido* pedido;
+        std::optional<QString> valor;
+        std::size_t pieza = 0; // that it was read from
     };
 
     const Registro& Preparar(QStringView id);
     Registro Leer_Registro(const QString& id) const;
+    void Cortar_Trozos(const Registro& registro, QStringView linea, QStringList& valores);
     void Preparar_Generales();
-    template <typename Valor> void Guardar(QString& valor, QStringView linea, Valor&& sacar);
+    void Leer_Generales(QStringView datosg);
+    void Leer_Generales_800(QByteArrayView datosg);
+    void Casar_Generales_800(const std::vector<QByteArrayView>& piezas);
+    void Leer_Item(General_Leido& leido, QByteArrayView pieza);
+    template <typename Sacar> bool Guardar(QString& valor, QStringView linea, Sacar&& sacar);
 
     Base& bd;
     const Familia& familia;
@@ -150,7 +168,12 @@ private:
     Suma suma;
     std::map<QString, Registro, std::less<>> registros;
     std::array<const Registro*, 256> por_letra{};
+    // The kind asked for last; its name stays in the map.
+    std::pair<QStringView, const Registro*> ultimo{{}, nullptr};
+    std::vector<QStringView> trozos; // of the line on its way
     std::optional<std::vector<General_Pedido>> generales;
+    QByteArray ultimos_generales; // and what they gave:
+    std::vector<General_Leido> generales_leidos;
     std::vector<qsizetype> puntos;
     bool anotado = false;
 };

@@ -4,6 +4,8 @@
 #include "core/ModEstTotal.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdlib>
 
 namespace {
 
@@ -14,6 +16,45 @@ bool Separar_Signo(QStringView& t)
     const bool negativo = t.front() == u'-';
     t = t.mid(1);
     return negativo;
+}
+
+// Digits of a number that a sum of two 64-bit integers holds with room to spare.
+constexpr qsizetype CIFRAS_ENTERO = 16;
+constexpr qint64 LIMITE_UNIDADES = 1'000'000'000'000'000'000;
+
+bool Es_Signo_O_Cifra(QChar c)
+{
+    return c == u'+' || c == u'-' || (c >= u'0' && c <= u'9');
+}
+
+// The integer that a run of digits alone is.
+std::optional<qint64> Entero_De(QStringView cifras)
+{
+    if (cifras.isEmpty() || cifras.size() > CIFRAS_ENTERO) return std::nullopt;
+    qint64 n = 0;
+    for (const QChar c : cifras) {
+        if (c < u'0' || c > u'9') return std::nullopt;
+        n = n * 10 + (c.unicode() - u'0');
+    }
+    return n;
+}
+
+// `n` units of the last of `decimales` decimals, as decimal text.
+void Escribir_Unidades(qint64 n, int decimales, QString& en)
+{
+    std::array<char16_t, 48> letras;
+    auto p = letras.end();
+    auto resto = quint64(std::abs(n));
+    for (int i = 0; i < decimales; ++i, resto /= 10)
+        *--p = char16_t(u'0' + resto % 10);
+    *--p = u'.';
+    do {
+        *--p = char16_t(u'0' + resto % 10);
+        resto /= 10;
+    } while (resto != 0);
+    if (n < 0) *--p = u'-';
+    en.resize(letras.end() - p);
+    std::copy(p, letras.end(), reinterpret_cast<char16_t*>(en.data()));
 }
 
 QString Desplazamiento_Aceptado(const Familia& familia, const QString& texto,
@@ -67,8 +108,11 @@ Sumador::Sumador(const Familia& familia, const QString& desp, const QString& for
     : serie(familia.serie), desplazamiento(Valor_Desplazamiento(desp, formato_desp)),
       anchos(Anchos_Numero::Leer(formato_desp)),
       decimales_campo(Anchos_Numero::Leer(posdigit).decimales),
-      decimales_suma(Anchos_Numero::Leer(formato_suma).decimales)
+      decimales_suma(Anchos_Numero::Leer(formato_suma).decimales),
+      unidades(desplazamiento.En_Unidades(decimales_suma))
 {
+    // Only what can't outgrow its integer together with a coordinate of `CIFRAS_ENTERO`.
+    if (unidades && std::abs(*unidades) >= LIMITE_UNIDADES) unidades.reset();
 }
 
 // A sign and digits that hold no point of their own.
@@ -86,12 +130,51 @@ Decimal Sumador::Valor_Sin_Punto(QStringView valor) const
 QString Sumador::Sumar(QStringView valor, bool de_cable) const
 {
     if (valor.isEmpty() || (serie != Serie::A && serie != Serie::B)) return {};
-    const Decimal coordenada =
-        serie == Serie::A ? Valor_Sin_Punto(valor) : Decimal::Prefijo(valor);
+    const Decimal coordenada = serie == Serie::A ? Valor_Sin_Punto(valor) : Decimal::Prefijo(valor);
     const Decimal suma = coordenada + desplazamiento;
     if (!de_cable || serie != Serie::A) return suma.Texto_Fijo(decimales_suma);
     return (suma.Negativo() ? u'-' : u'+') +
            QString::number(suma.Entera()).rightJustified(6, u'0') + suma.Decimales(decimales_suma);
+}
+
+// A sign and digits alone, as nearly every coordinate is, in units of the sum's last decimal: then
+// nothing is rounded and a plain integer is exact.
+std::optional<qint64> Sumador::Unidades_De(QStringView valor) const
+{
+    if (serie == Serie::B) return Unidades_Con_Punto(valor);
+    if (decimales_campo != decimales_suma || !Es_Signo_O_Cifra(valor.front())) return std::nullopt;
+    const bool negativo = Separar_Signo(valor);
+    const auto n = Entero_De(valor.right(anchos.enteros + anchos.decimales));
+    return n && negativo ? -*n : n;
+}
+
+std::optional<qint64> Sumador::Unidades_Con_Punto(QStringView valor) const
+{
+    const bool negativo = Separar_Signo(valor);
+    const qsizetype punto = valor.indexOf(u'.');
+    if (punto < 1) return std::nullopt;
+    const QStringView entera = valor.left(punto), fraccion = valor.mid(punto + 1);
+    if (fraccion.isEmpty() || fraccion.size() > decimales_suma ||
+        entera.size() + decimales_suma > CIFRAS_ENTERO)
+        return std::nullopt;
+    const auto e = Entero_De(entera), f = Entero_De(fraccion);
+    if (!e || !f) return std::nullopt;
+    qint64 n = *e, f_llena = *f;
+    for (int i = 0; i < decimales_suma; ++i)
+        n *= 10;
+    for (qsizetype i = fraccion.size(); i < decimales_suma; ++i)
+        f_llena *= 10;
+    n += f_llena;
+    return negativo ? -n : n;
+}
+
+void Sumador::Sumar(QStringView valor, QString& en) const
+{
+    const bool con_coordenadas = serie == Serie::A || serie == Serie::B;
+    if (unidades && con_coordenadas && decimales_suma > 0 && !valor.isEmpty())
+        if (const auto n = Unidades_De(valor))
+            return Escribir_Unidades(*n + *unidades, decimales_suma, en);
+    en = Sumar(valor);
 }
 
 QString Sumar_Desplazamiento(const Familia& familia, const QString& modo,

@@ -55,14 +55,20 @@ public:
     /// @return an empty text for an empty value and for a family without coordinates
     /// @throws Error_Ejecucion 13 when a value of series A is no number, 6 when it is too long
     QString Sumar(QStringView valor, bool de_cable = false) const;
+    /// The decimal text, into one that is used again and again.
+    void Sumar(QStringView valor, QString& en) const;
 
 private:
     Decimal Valor_Sin_Punto(QStringView valor) const;
+    std::optional<qint64> Unidades_De(QStringView valor) const;
+    std::optional<qint64> Unidades_Con_Punto(QStringView valor) const;
 
     Serie serie;
     Decimal desplazamiento;
     Anchos_Numero anchos;
     int decimales_campo, decimales_suma;
+    // The offset in units of the sum's last decimal; nothing when it has further ones.
+    std::optional<qint64> unidades;
 };
 
 /// One such addition. @param modo  "D": signed decimal text; "C": the wire form

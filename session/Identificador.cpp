@@ -52,11 +52,18 @@ QString Condicion_Descripcion(const Familia& familia, int ope)
                           "Trim(Identificadores.Id)");
 }
 
+QStringView Id_De_Formato(QStringView datos, const Familia& familia, int ope)
+{
+    if (familia.serie != Serie::B) return Primera_Letra(datos);
+    if (!Es_De_Puntos(ope)) return Sin_Blancos(datos.left(datos.indexOf(u' ') + 1));
+    datos = Sin_Blancos(datos);
+    const qsizetype coma = datos.indexOf(u',');
+    return coma < 0 ? datos : datos.left(coma);
+}
+
 QString Leer_Id_Registro(const QString& datos, const QString& maquina, int ope)
 {
-    if (Familia_De(maquina).serie != Serie::B) return Primera_Letra(datos).toString();
-    if (Es_De_Puntos(ope)) return Trozo(1, Basico::Trim(datos), u',');
-    return Basico::Trim(datos.left(datos.indexOf(u' ') + 1));
+    return Id_De_Formato(datos, Familia_De(maquina), ope).toString();
 }
 
 QString Extraer_ID(const Conjunto_Registros& registros, const QString& maquina, int ope)

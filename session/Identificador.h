@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/tablas.md
+
 #include "core/Familia.h"
 #include "core/jet/Base.h"
 
@@ -43,6 +45,9 @@ QString Condicion_Descripcion(const Familia& familia, int ope);
 /// For the formats. Series B: the line up to its first blank, empty without one or when the line
 /// begins with it; operation 4: the trimmed line up to its first comma.
 QString Leer_Id_Registro(const QString& datos, const QString& maquina, int ope);
+
+/// The same as a view of `datos`, for who looks at many lines.
+QStringView Id_De_Formato(QStringView datos, const Familia& familia, int ope);
 
 /// Of the current row's `Datos`: first character of the trimmed text; series B: the first comma
 /// token when `ope` is 4, else the first word, whole when there is no blank; trimmed.

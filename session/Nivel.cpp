@@ -82,7 +82,7 @@ std::optional<double> Divisor_NV400(QChar tipo, int n, QChar unidad)
 QString Campo_NV400(const QString& linea, int n)
 {
     if (n == 0) return linea.left(1);
-    const QString crudo = Texto_Campo_NV400(linea, n);
+    QString crudo = Texto_Campo_NV400(linea, n);
     const Regla* const regla = Buscar_Regla(Tipo_NV400(linea), n);
     if (!regla) return crudo;
     const double divisor = Divisor(*regla, Unidad(linea));

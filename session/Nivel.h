@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/nv400.md
+
 #include <optional>
 #include <QString>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/nv400.md
+
 #include "core/jet/Base.h"
 
 /// Display text of a level record: "field:value " for each listed field of its kind, the values as

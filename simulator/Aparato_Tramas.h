@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/krt300.md
+
 #include "simulator/Aparato.h"
 #include "simulator/Fallos.h"
 

@@ -4,7 +4,7 @@
 set -euo pipefail
 construir=(cmake ninja-build g++ mold qt6-base-dev qt6-serialport-dev qt6-svg-dev
            libgl1-mesa-dev libsqlite3-dev qt6-translations-l10n)
-probar=(python3-xlrd mdbtools libxlsxwriter-dev libbenchmark-dev libxml2-utils)
+probar=(python3-xlrd python3-ezdxf mdbtools libxlsxwriter-dev libbenchmark-dev libxml2-utils)
 revisar=(git python3 clang clang-format clang-tidy cppcheck)
 case "${1:-}" in
 construir) paquetes=("${construir[@]}") ;;

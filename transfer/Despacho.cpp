@@ -6,6 +6,8 @@
 #include "core/ModEstTotal.h"
 #include "session/Filtro_Extensiones.h"
 #include "transfer/enlace/Descarga.h"
+#include "transfer/krt300/Subida_KRT300.h"
+#include "transfer/krt800/Subida_KRT800.h"
 #include "transfer/nv400/Subida_Nivel.h"
 #include "transfer/Peticiones_Transfer.h"
 
@@ -34,12 +36,6 @@ void Empezar_Descarga(const Familia& familia, int operacion)
     pide.Mostrar_Descarga();
 }
 
-void No_Disponible(const QString& que)
-{
-    Interfaz_Actual().Mensaje(que + " todavía no está disponible en esta versión",
-                              Icono::Informacion);
-}
-
 void Descargar_Serie_A(const Familia& familia, int operacion)
 {
     switch (Operacion(operacion)) {
@@ -49,7 +45,7 @@ void Descargar_Serie_A(const Familia& familia, int operacion)
         Empezar_Descarga(familia, Operacion_En_El_Enlace(familia, operacion));
         break;
     case Operacion::Libreria:
-        No_Disponible("La descarga de librerías de códigos");
+        Peticiones_De_Transfer().Recibir_Libreria(operacion);
         break;
     default:
         break;
@@ -60,35 +56,31 @@ void Cargar_Serie_A(int operacion)
 {
     switch (Operacion(operacion)) {
     case Operacion::Coordenadas:
-        No_Disponible("La carga de coordenadas");
+        Subir_Puntos(operacion);
         break;
     case Operacion::Libreria:
-        No_Disponible("La carga de librerías de códigos");
+        Subir_Libreria(operacion);
         break;
     default:
         break;
     }
 }
 
-void Cargar_Serie_B(int operacion)
+void Cargar_Serie_B(int operacion, const QString& filtro)
 {
     switch (Operacion(operacion)) {
     case Operacion::Libreria:
-        No_Disponible("La carga de librerías de códigos");
+        Subir_Libreria_KRT800(filtro);
         break;
     case Operacion::Puntos:
     case Operacion::Replanteo:
-        No_Disponible("La carga de coordenadas");
+        Subir_Puntos_KRT800(operacion, filtro);
         break;
     case Operacion::Alineaciones:
-        No_Disponible("La carga de alineaciones");
-        break;
     case Operacion::Perfiles:
     case Operacion::Perfiles_Proyecto:
-        No_Disponible("La carga de perfiles transversales");
-        break;
     case Operacion::Rasantes:
-        No_Disponible("La carga de rasantes");
+        Subir_Diseno_KRT800(operacion, filtro);
         break;
     default:
         Interfaz_Actual().Mensaje("El tipo de Carga no existe", Icono::Critico);
@@ -112,14 +104,16 @@ void Lanzar_Descarga(const Familia& familia, int operacion)
     }
 }
 
-void Lanzar_Carga(const Familia& familia, int operacion)
+void Lanzar_Carga(const Familia& familia, int operacion, const QString& filtro)
 {
+    // A file takes no line.
+    if (familia.carga != Carga::Fichero && Reclamar_La_En_Curso()) return;
     switch (familia.serie) {
     case Serie::A:
         Cargar_Serie_A(operacion);
         break;
     case Serie::B:
-        Cargar_Serie_B(operacion);
+        Cargar_Serie_B(operacion, filtro);
         break;
     case Serie::Nivel:
         Subir_NV400(operacion);
@@ -152,15 +146,16 @@ void Lanzar_Operacion(const QString& maquina, int operacion, const QString& tipo
 {
     const Familia& familia = Familia_De(maquina);
     if (familia.serie == Serie::Ninguna) return;
-    if (tipo_ope == DESCARGA)
-        Lanzar_Descarga(familia, operacion);
-    else if (tipo_ope == CARGA && !Filtro_Extensiones(maquina, operacion, tipo_ope).isNull())
-        Lanzar_Carga(familia, operacion);
+    if (tipo_ope == DESCARGA) Lanzar_Descarga(familia, operacion);
+    if (tipo_ope != CARGA) return;
+    const QString filtro = Filtro_Extensiones(maquina, operacion, tipo_ope);
+    if (!filtro.isNull()) Lanzar_Carga(familia, operacion, filtro);
 }
 
 Texto_Recordatorio Leer_Recordatorio()
 {
-    return {"Conecte el aparato al puerto " + Puerto + " y configúrelo con los siguientes parámetros:",
+    return {"Conecte el aparato al puerto " + Puerto +
+                " y configúrelo con los siguientes parámetros:",
             {"Velocidad: " + Velocidad, "Bits de Datos: " + Bits_Datos, "Paridad: " + Paridad,
              "Bit de Parada: " + Bits_Parada}};
 }

@@ -5,8 +5,8 @@
 
 /// One operation offered in a list of `FrmIni`.
 struct Operacion_Ofrecida {
-    QString texto;  ///< `DESOPE`
-    int ope = 0;    ///< the item's tag
+    QString texto; ///< `DESOPE`
+    int ope = 0;   ///< the item's tag
 };
 /// Operations of the model in force; `tipo_ope` "D" for downloads, "C" for uploads.
 QList<Operacion_Ofrecida> Operaciones_Ofrecidas(const QString& tipo_ope);

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "transfer/enlace/Recepcion.h"
+
 #include <functional>
 #include <QString>
 
 class Descarga;
+class Envio;
 
 /// The dialogs that the transfer flows show, as questions: the windows, the command line and the
 /// tests set them. A flow runs whole without a window.
@@ -22,5 +25,18 @@ struct Peticiones_Transfer {
     std::function<Descarga*()> Dialogo_Descarga = []() -> Descarga* { return nullptr; };
     /// Shows the download dialog without blocking.
     std::function<void()> Mostrar_Descarga = [] {};
+    /// Receives a code library of series A, from the question for its destination on.
+    std::function<void(int operacion)> Recibir_Libreria = [](int) {};
+    /// Stores a code library that was received; its destination and name are those of the reception.
+    std::function<Resultado_Recepcion(const Datos_Recepcion& datos)> Guardar_Libreria =
+        [](const Datos_Recepcion&) { return Resultado_Recepcion(); };
+    /// As `Dialogo_Descarga` and `Mostrar_Descarga`, for the dialog of a reception that begins among
+    /// the libraries.
+    std::function<Descarga*()> Dialogo_Recepcion = []() -> Descarga* { return nullptr; };
+    std::function<void()> Mostrar_Recepcion = [] {};
+    /// The conversation of the sending dialog, as for `Dialogo_Descarga`.
+    std::function<Envio*()> Dialogo_Envio = []() -> Envio* { return nullptr; };
+    /// Shows the sending dialog modally, and unloads it when it ends.
+    std::function<void()> Mostrar_Envio = [] {};
 };
 Peticiones_Transfer& Peticiones_De_Transfer();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Familia.h"
+#include "transfer/enlace/Emisor.h"
 #include "transfer/enlace/Recepcion.h"
 #include "transfer/enlace/Receptor.h"
 
@@ -15,6 +16,8 @@ struct Serie_En_Linea {
     /// Stores a finished reception. Null when the series stores nothing of that operation: the
     /// database is then left alone altogether.
     std::optional<Resultado_Recepcion> (*guardar)(const Datos_Recepcion& datos);
+    /// Makes the sender of one upload. Null for a series whose uploads don't go over the port.
+    std::unique_ptr<Emisor> (*emisor)(const Datos_Envio& datos);
 };
 
 /// @return the row of the family; null for a key that no family has, whose bytes nobody hears

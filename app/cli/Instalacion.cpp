@@ -1,5 +1,6 @@
 #include "app/cli/Instalacion.h"
 
+#include "codes/Enlace_Librerias.h"
 #include "core/Configuracion.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
@@ -8,6 +9,7 @@ Instalacion::Instalacion(const Contexto& c) : contexto(c), interfaz(c)
 {
     Ruta_Aplicacion = QDir::cleanPath(QDir(c.dir).absolutePath());
     if (!Cargar_Configuracion(Ruta_Aplicacion)) throw Orden_Rechazada{};
+    Conectar_Librerias();
 }
 
 Instalacion::~Instalacion()
@@ -34,7 +36,8 @@ void Instalacion::Elegir_Maquina(const QString& clave) const
     QStringList claves = Claves_Familias();
     if (!claves.contains(clave)) {
         const QString ultima = claves.takeLast();
-        contexto.Mensaje("No existe la máquina " + clave + ": " + claves.join(", ") + " o " + ultima);
+        contexto.Mensaje("No existe la máquina " + clave + ": " + claves.join(", ") + " o " +
+                         ultima);
         throw Orden_Rechazada{};
     }
     Clave_Estacion = clave;
@@ -44,7 +47,8 @@ Sesion_Elegida Instalacion::Elegir_Sesion(qint64 id) const
 {
     const auto sesion = Buscar_Sesion(*Base_Datos, id);
     if (!sesion) {
-        contexto.Mensaje(QStringLiteral("No existe la sesión %1 (véase miraldos-cli sesiones)").arg(id));
+        contexto.Mensaje(
+            QStringLiteral("No existe la sesión %1 (véase miraldos-cli sesiones)").arg(id));
         throw Orden_Rechazada{};
     }
     Clave_Estacion = sesion->maquina;
@@ -58,6 +62,8 @@ void Instalacion::Comprobar_Operacion(int ope, const QString& tipo_ope) const
     operaciones.Seek({Clave_Estacion, ope, tipo_ope});
     if (!operaciones.NoMatch()) return;
     contexto.Mensaje(QStringLiteral("El modelo %1 no ofrece la operación %2 (véase miraldos-cli "
-                                    "operaciones)").arg(Nombre_Estacion).arg(ope));
+                                    "operaciones)")
+                         .arg(Nombre_Estacion)
+                         .arg(ope));
     throw Orden_Rechazada{};
 }

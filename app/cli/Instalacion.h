@@ -22,6 +22,11 @@ public:
     Sesion_Elegida Elegir_Sesion(qint64 id) const;
     /// @throws Orden_Rechazada when the family in force doesn't offer the operation
     void Comprobar_Operacion(int ope, const QString& tipo_ope) const;
+    /// The order answers the file dialogs from here on.
+    void Contestar_Ficheros(Interfaz_Consola::Respuesta_Fichero respuesta)
+    {
+        interfaz.ficheros = std::move(respuesta);
+    }
 
 private:
     Contexto contexto;

@@ -14,7 +14,9 @@ QString En_Lineas(QString texto)
 
 } // namespace
 
-Interfaz_Consola::Interfaz_Consola(const Contexto& c) : contexto(c), anterior(Poner_Interfaz(this)) {}
+Interfaz_Consola::Interfaz_Consola(const Contexto& c) : contexto(c), anterior(Poner_Interfaz(this))
+{
+}
 
 Interfaz_Consola::~Interfaz_Consola()
 {
@@ -41,6 +43,7 @@ std::optional<QString> Interfaz_Consola::Pedir_Texto(const QString& titulo, cons
 
 std::optional<Fichero_Elegido> Interfaz_Consola::Pedir_Fichero(const Peticion_Fichero& peticion)
 {
+    if (ficheros) return ficheros(peticion);
     throw Error_Ejecucion(52, peticion.titulo + ": no se puede elegir un fichero desde la consola");
 }
 

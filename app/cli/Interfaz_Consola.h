@@ -3,6 +3,8 @@
 #include "app/cli/Ordenes.h"
 #include "core/Interfaz.h"
 
+#include <functional>
+
 /// The program's talk on a console: messages on the error stream, a question answered by --si or
 /// refused, and nothing that would need a person fails with its reason. In use while it lives.
 class Interfaz_Consola : public Interfaz {
@@ -10,11 +12,16 @@ public:
     explicit Interfaz_Consola(const Contexto& contexto);
     ~Interfaz_Consola() override;
 
+    using Respuesta_Fichero =
+        std::function<std::optional<Fichero_Elegido>(const Peticion_Fichero&)>;
+    /// Answers the file dialogs of an order that has been told the names.
+    Respuesta_Fichero ficheros;
+
     void Mensaje(const QString& texto, Icono icono, const QString& titulo) override;
     bool Preguntar(const QString& texto, Icono icono, const QString& titulo) override;
     std::optional<QString> Pedir_Texto(const QString& titulo, const QString& texto,
                                        const QString& inicial) override;
-    /// @throws Error_Ejecucion 52: a flow that keeps asking must not loop on a console
+    /// @throws Error_Ejecucion 52 without an answer: a flow that keeps asking must not loop on a console
     std::optional<Fichero_Elegido> Pedir_Fichero(const Peticion_Fichero& peticion) override;
     void Pitar() override {}
     void Cursor_Ocupado(bool) override {}

@@ -32,7 +32,8 @@ int Orden_Modelos(const Contexto& c, const QStringList& palabras)
     Argumentos(palabras, {}).Sueltos(0, 0);
     const Instalacion instalacion(c);
     c.Fila({"Nombre", "Clave", "Velocidades"});
-    for (Recorrido r = Base_Datos->Recorrer("SELECT Nombre, Clave, VelPuerto FROM KRT"); r.Siguiente();)
+    for (Recorrido r = Base_Datos->Recorrer("SELECT Nombre, Clave, VelPuerto FROM KRT");
+         r.Siguiente();)
         c.Fila({r.Texto(0), r.Texto(1), r.Texto(2)});
     return HECHO;
 }
@@ -69,8 +70,10 @@ int Orden_Sesiones(const Contexto& c, const QStringList& palabras)
         }
     }
     std::ranges::stable_sort(filas, std::greater{}, [](const auto& f) { return f.first; });
-    c.Fila({"Id", "Fecha", "Hora", "OPE", "Tipo Fichero", "Nombre de Sesión", "Aparato", "Nº Puntos"});
-    for (const auto& fila : filas) c.Fila(fila.second);
+    c.Fila(
+        {"Id", "Fecha", "Hora", "OPE", "Tipo Fichero", "Nombre de Sesión", "Aparato", "Nº Puntos"});
+    for (const auto& fila : filas)
+        c.Fila(fila.second);
     return HECHO;
 }
 
@@ -93,9 +96,10 @@ int Orden_Formatos(const Contexto& c, const QStringList& palabras)
             }
             // Behind 40 characters a field of the level carries the mark of its half.
             if (Familia_De(maquina).serie == Serie::Nivel)
-                for (QString& campo : campos) campo = Basico::Trim(campo.left(40));
-            c.Fila({nombre, maquina, QString::number(formato->ope), formato->modificable ? "SI" : "NO",
-                    campos.join(u',')});
+                for (QString& campo : campos)
+                    campo = Basico::Trim(campo.left(40));
+            c.Fila({nombre, maquina, QString::number(formato->ope),
+                    formato->modificable ? "SI" : "NO", campos.join(u',')});
         }
     return HECHO;
 }
@@ -107,18 +111,24 @@ int Orden_Ver(const Contexto& c, const QStringList& palabras)
     const Instalacion instalacion(c);
     const Sesion_Elegida sesion = instalacion.Elegir_Sesion(id);
     Recorrido r = Base_Datos->Recorrer(
-        "SELECT Secuencia, Punto, Datos, DatosG FROM Registros WHERE ID = ? ORDER BY Secuencia", {id});
+        "SELECT Secuencia, Punto, Datos, DatosG FROM Registros WHERE ID = ? ORDER BY Secuencia",
+        {id});
     if (!a.Hay("campos")) {
         c.Fila({"Secuencia", "Punto", "Datos", "DatosG"});
-        while (r.Siguiente()) c.Fila({r.Texto(0), r.Texto(1), r.Texto(2), Legible(r.Texto(3))});
+        while (r.Siguiente())
+            c.Fila({r.Texto(0), r.Texto(1), r.Texto(2), Legible(r.Texto(3))});
         return HECHO;
     }
     c.Fila({"Secuencia", "Punto", "Campo", "Valor"});
+    Visor_Registros visor(*Base_Datos, sesion.maquina, sesion.ope);
+    QString datos;
     while (r.Siguiente()) {
-        const auto vista = Ver_Registro(sesion.maquina, sesion.ope, {}, r.Texto(2), r.Texto(1));
+        r.Texto(2, datos);
+        const Vista_Registro* const vista = visor.Mirar(datos);
         if (!vista) continue;
+        const QString secuencia = r.Texto(0), punto = r.Texto(1);
         for (const Linea_Rejilla& l : Llenar_Rejilla(vista->nombres, vista->valores))
-            c.Fila({r.Texto(0), r.Texto(1), l.campo, l.valor});
+            c.Fila({secuencia, punto, l.campo, l.valor});
     }
     return HECHO;
 }

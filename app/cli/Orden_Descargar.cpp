@@ -1,4 +1,5 @@
 #include "app/cli/Instalacion.h"
+#include "app/cli/Opciones_Comunes.h"
 #include "app/cli/Ordenes_Transfer.h"
 #include "core/ModEstTotal.h"
 #include "transfer/Despacho.h"
@@ -12,23 +13,17 @@
 
 namespace {
 
-void Poner_Velocidad(const Argumentos& a, const QString& modelo)
-{
-    const QStringList velocidades = Vel_Puerto.split(u',');
-    if (a.Hay("velocidad"))
-        Velocidad = a.Opcion("velocidad");
-    else if (!velocidades.contains(Velocidad))
-        Velocidad = velocidades.first();
-    if (!velocidades.contains(Velocidad))
-        throw Error_Uso{"El modelo " + modelo + " admite las velocidades " + Vel_Puerto};
-}
-
 // The road of the windows as far as the download dialog: what they ask for, the order has said.
 // @return false when the routing stopped before the dialog, after its message
 bool Llegar_Al_Dialogo(Descarga& descarga, int ope, const QString& nombre)
 {
     bool mostrado = false;
-    Peticiones_Transfer de_consola;
+    Peticiones_Transfer de_consola = Peticiones_De_Transfer();
+    de_consola.Recibir_Libreria = [](int) {
+        Interfaz_Actual().Mensaje(
+            "Una librería de códigos se recibe con miraldos-cli recibir-libreria",
+            Icono::Informacion);
+    };
     de_consola.Pedir_Nombre_Sesion = [&nombre] { return nombre; };
     de_consola.Dialogo_Descarga = [&descarga] { return &descarga; };
     de_consola.Mostrar_Descarga = [&mostrado] { mostrado = true; };
@@ -52,7 +47,7 @@ int Orden_Descargar(const Contexto& c, const QStringList& palabras)
     const Instalacion instalacion(c);
     instalacion.Elegir_Modelo(modelo);
     instalacion.Comprobar_Operacion(ope, "D");
-    Poner_Velocidad(a, modelo);
+    Poner_Velocidad(a);
 
     auto puerto = std::make_unique<Puerto_Qt>(dispositivo);
     Puerto_Qt* const el_puerto = puerto.get();

@@ -1,4 +1,5 @@
 #include "app/cli/Instalacion.h"
+#include "app/cli/Opciones_Comunes.h"
 #include "app/cli/Ordenes_Export.h"
 #include "app/cli/Ordenes_Sesion.h"
 #include "core/ModEstTotal.h"
@@ -13,22 +14,9 @@ namespace {
 QStringList Palabras_Tipo()
 {
     QStringList palabras;
-    for (const Salida_Exportar* salida : Salidas_Por_Palabra()) palabras << salida->palabra;
+    for (const Salida_Exportar* salida : Salidas_Por_Palabra())
+        palabras << salida->palabra;
     return palabras;
-}
-
-QStringList Palabras_Separador()
-{
-    QStringList palabras;
-    for (const Fila_Separador& fila : Separadores()) palabras << fila.palabra;
-    return palabras;
-}
-
-// "a, b o c"
-QString Enumerar(QStringList palabras)
-{
-    const QString ultima = palabras.takeLast();
-    return palabras.isEmpty() ? ultima : palabras.join(", ") + " o " + ultima;
 }
 
 const Salida_Exportar& Salida_De_Palabra(const QString& palabra)
@@ -69,16 +57,6 @@ bool Si_O_No(const QString& opcion, const QString& valor)
     return valor == u"si";
 }
 
-QStringList Leer_Desplazamiento(const QString& texto)
-{
-    const QStringList ejes = texto.split(u',');
-    if (ejes.size() != 3) throw Error_Uso{"El desplazamiento se escribe X,Y,Z: " + texto};
-    for (const QString& eje : ejes)
-        if (Teclear_Desplazamiento(eje) != eje)
-            throw Error_Uso{"El desplazamiento \"" + eje + "\" no es un número con punto decimal"};
-    return ejes;
-}
-
 Pedido Leer_Pedido(const QStringList& palabras)
 {
     const Argumentos a(palabras,
@@ -92,10 +70,7 @@ Pedido Leer_Pedido(const QStringList& palabras)
     p.fichero = a.Obligada("salida");
     p.salida = &Salida_De_Palabra(tipo);
     Comprobar_Opciones(a, *p.salida);
-    const QString separador = a.Opcion("separador", Separadores().front().palabra);
-    p.separador = Indice_Separador(separador);
-    if (p.separador < 0)
-        throw Error_Uso{"El separador es " + Enumerar(Palabras_Separador()) + ": " + separador};
+    p.separador = Leer_Separador(a);
     if (a.Hay("version")) {
         const QString version = a.Opcion("version");
         p.version = int(Versiones_De_Libro().indexOf(version));
@@ -106,7 +81,7 @@ Pedido Leer_Pedido(const QStringList& palabras)
     p.nivel = {a.Hay("anillo"), a.Hay("nivelacion")};
     if (a.Hay("titulos")) p.titulos = Si_O_No("titulos", a.Opcion("titulos"));
     if (p.fichero.isEmpty()) throw Error_Uso{"Falta el nombre del fichero de salida"};
-    if (a.Hay("desplazamiento")) p.desplazamiento = Leer_Desplazamiento(a.Opcion("desplazamiento"));
+    p.desplazamiento = Leer_Desplazamiento(a);
     return p;
 }
 
@@ -121,7 +96,8 @@ public:
                                                                  const QString& forma) {
             const QStringList& d = *pedido.desplazamiento;
             // A box that is disabled stays empty.
-            Poner_Desplazamientos(x ? d[0] : QString(), y ? d[1] : QString(), z ? d[2] : QString(), forma);
+            Poner_Desplazamientos(x ? d[0] : QString(), y ? d[1] : QString(), z ? d[2] : QString(),
+                                  forma);
             return true;
         };
         Peticiones_De_Formatos().Abrir_Exportar = [&](const Trabajo_Exportar& trabajo) {
@@ -151,10 +127,6 @@ private:
     Peticiones_Formatos formatos;
     Peticiones_Sesion sesion;
 };
-
-} // namespace
-
-namespace {
 
 std::unique_ptr<Formato_Existente> Modelo_De(const Sesion_Elegida& sesion, bool del_nivel,
                                              const Opciones_Nivel& casillas)
@@ -191,8 +163,8 @@ int Orden_Exportar(const Contexto& c, const QStringList& palabras)
     if (!formato.Ver()) return RECHAZADO;
     const qsizetype indice = formato.nombres.indexOf(pedido.formato);
     if (indice < 0) {
-        c.Mensaje("No existe el formato " + pedido.formato + " para la sesión; los hay: " +
-                  formato.nombres.join(", "));
+        c.Mensaje("No existe el formato " + pedido.formato +
+                  " para la sesión; los hay: " + formato.nombres.join(", "));
         return RECHAZADO;
     }
     formato.Elegir(int(indice));

@@ -8,10 +8,10 @@
 
 /// Where an order reads and writes: handed in, so that tests run orders without a process.
 struct Contexto {
-    QString dir;                 ///< install directory (--dir, else the program's own)
-    bool si = false;             ///< --si: every question is answered "Sí"
-    QIODevice* salida = nullptr;   ///< results, UTF-8
-    QIODevice* errores = nullptr;  ///< messages, UTF-8
+    QString dir;                  ///< install directory (--dir, else the program's own)
+    bool si = false;              ///< --si: every question is answered "Sí"
+    QIODevice* salida = nullptr;  ///< results, UTF-8
+    QIODevice* errores = nullptr; ///< messages, UTF-8
 
     /// One tab-separated result line; tabs and line ends inside a field become blanks.
     void Fila(const QStringList& campos) const;
@@ -32,12 +32,16 @@ struct Orden_Rechazada {};
 /// Orden_Rechazada (status 1).
 struct Orden {
     QString nombre;
-    QString uso;  ///< its words, for the help: "tabla ENTRADA SALIDA [--separador coma]"
+    QString uso; ///< its words, for the help: "tabla ENTRADA SALIDA [--separador coma]"
     int (*ejecutar)(const Contexto&, const QStringList& palabras);
+    bool dibuja = false; ///< needs the fonts, and with them the graphics part of the library
 };
 
 /// All orders, in the order of the help. A new order is one file Orden_X.cpp and one row here.
 const QList<Orden>& Ordenes();
+
+/// @return true when the words name an order that draws
+bool Hay_Que_Dibujar(const QStringList& palabras);
 
 /// Runs one command line.
 /// @param palabras  all words behind the program's name; --dir and --si may stand anywhere

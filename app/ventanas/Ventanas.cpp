@@ -1,5 +1,6 @@
 #include "app/ventanas/Ventanas.h"
 
+#include "codes/ui/Dialogos_Codigos.h"
 #include "conversions/ui/Dialogos_Conversion.h"
 #include "core/Familia.h"
 #include "core/ModEstTotal.h"
@@ -9,10 +10,12 @@
 #include "core/ui/frmPantalla.h"
 #include "core/ui/Piezas.h"
 #include "export/ui/Dialogos_Exportar.h"
+#include "export/ui/ExportDXF.h"
 #include "formats/Formato_Existente.h"
 #include "formats/ui/Dialogos_Formatos.h"
 #include "formats/ui/Frmformatos.h"
 #include "formats/ui/FrmFormatosNV400.h"
+#include "rawfiles/ui/Dialogos_Brutos.h"
 #include "session/ui/Dialogos_Sesion.h"
 #include "session/ui/frmDescargas.h"
 #include "session/ui/FrmTxt.h"
@@ -55,8 +58,6 @@ void Conectar_Descargas()
     Puertas_Descargas& puertas = Puertas_De_Descargas();
     puertas.Formato_Existente = Exporta_o_Imprime_Formato_Existente;
     puertas.Formato_Nuevo = Exporta_Formato_Nuevo;
-    puertas.Guardar_Bruto = [](const Sesion_Elegida&) { No_Disponible("Guardar Como..."); };
-    puertas.Importar_Bruto = [] { No_Disponible("Importar de Disco"); };
 }
 
 // The toolbar looks at the family, the menu's entry doesn't.
@@ -80,7 +81,9 @@ void Conectar_Dialogos(Interfaz_Qt& interfaz)
     Conectar_Dialogos_Exportar();
     Conectar_Dialogos_Conversion();
     Conectar_Dialogos_Transfer();
+    Conectar_Dialogos_Codigos();
     Conectar_Descargas();
+    Conectar_Dialogos_Brutos();
 }
 
 void Conectar_Entradas(FrmMain& principal)
@@ -91,6 +94,8 @@ void Conectar_Entradas(FrmMain& principal)
     principal.Al_Elegir("Toolbar1(3)", Mostrar<frmDescargas>("Descargas"));
     principal.Al_Elegir("Formatos", Mostrar<Frmformatos>("Formatos Disponibles"));
     principal.Al_Elegir("Toolbar1(4)", Formatos_De_Toolbar);
+    principal.Al_Elegir("Mnu_ConvDXF", Mostrar<ExportDXF>());
+    principal.Al_Elegir("Toolbar1(5)", Mostrar_Librerias);
     principal.Al_Elegir("Mnu_ConvEst", [] { Mostrar_frmConvEst(0); });
     principal.Al_Elegir("Mnu_ConvRob", Mostrar_frmRobotizada);
     principal.Al_Elegir("Mnu_ConvLandxml", [] { Mostrar_frmConvEst(1); });

@@ -75,7 +75,7 @@ void Mostrar_Omisiones(const Informe_Lectura& informe)
 static QString Pedir_Destino_Puntos(const QString& origen)
 {
     for (;;) {
-        const QString destino = Pedir({.titulo = QStringLiteral("Fichero Destino"),
+        QString destino = Pedir({.titulo = QStringLiteral("Fichero Destino"),
                                        .filtro = QStringLiteral("Puntos KRT (*.krt)|*.krt"),
                                        .carpeta = {},
                                        .extension = QStringLiteral("krt"),

@@ -72,7 +72,7 @@ QString Extension_Elegida(const Fila_Clase& clase, const Fichero_Elegido& elegid
 std::optional<Fichero_Elegido> Pedir(const Peticion_Fichero& peticion)
 {
     for (;;) {
-        const auto elegido = Interfaz_Actual().Pedir_Fichero(peticion);
+        auto elegido = Interfaz_Actual().Pedir_Fichero(peticion);
         if (!elegido || !elegido->nombre.isEmpty()) return elegido;
     }
 }
@@ -131,7 +131,7 @@ std::optional<QString> Convertir_Diseno(Clase_Conversion clase, const QString& f
                                     .extension = {}};
     const auto origen = Guardar == 1 ? Pedir(peticion) : Pedir_Fichero_Insistiendo(peticion);
     if (!origen) return std::nullopt;
-    const QString salida = Pedir_Salida(fila, Guardar);
+    QString salida = Pedir_Salida(fila, Guardar);
     if (salida.isEmpty()) return std::nullopt;
 
     const Camino* const camino =

@@ -26,10 +26,9 @@ bool Leer_Vertice(const QString& linea, Vertice_CLIP& vertice);
 /// ones stay. The curve lengths follow the format's own rules, which treat the flags of the
 /// neighbours unevenly; plain geometry is `MyDll_ristram2krt`.
 /// @return true when every line went well. A line that hasn't three fields, a curve whose
-/// neighbours
-///         can't be read and an unknown curve flag are noted, and the run goes on; a failure of
-///         arithmetic (two vertices at one station, a length beyond 16 bits) is reported and ends
-///         it, the lines so far staying in `texto`
+///         neighbours can't be read and an unknown curve flag are noted, and the run goes on; a
+///         failure of arithmetic (two vertices at one station, a length beyond 16 bits) is reported
+///         and ends it, the lines so far staying in `texto`
 bool Convertir_Alz(const QString& entrada, QString& texto);
 
 /// Flattens a CLIP cross-section file: a header line "station,n,..." governs the n lines behind it,

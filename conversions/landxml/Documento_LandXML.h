@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/landxml.md
+
 #include "conversions/landxml/Fuente_XML.h"
 #include "conversions/suelo/Informe_Lectura.h"
 

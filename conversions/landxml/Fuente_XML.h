@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/landxml.md
+
 #include <QByteArray>
 #include <QIODevice>
 #include <QString>

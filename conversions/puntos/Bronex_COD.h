@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/ficheros-brutos.md
+
 #include "conversions/suelo/Texto_Fuente.h"
 
 #include <QList>

@@ -17,7 +17,7 @@ Eleccion_LandXML Elegir_De_Lista()
     const QPointer<EjeLandxml> frm(&Dialogos::Unico<EjeLandxml>());
     frm->Mostrar_Modal();
     if (!frm) return {};
-    const Eleccion_LandXML eleccion{frm->Indice, frm->Texto};
+    Eleccion_LandXML eleccion{frm->Indice, frm->Texto};
     frm->Descargar();
     return eleccion;
 }

@@ -19,6 +19,7 @@ bool Es_Consulta(const QString& fuente)
 Conexion& Viva(const std::shared_ptr<Conexion>& conexion)
 {
     if (!conexion) throw Error_Ejecucion(3420);
+    conexion->Poner_Al_Dia();
     return *conexion;
 }
 
@@ -63,8 +64,7 @@ Conjunto_Registros Base::OpenRecordset(const QString& fuente, Tipo_Conjunto tipo
     Viva(conexion);
     if (!Es_Consulta(fuente)) {
         const Esquema::Tabla* tabla = Esquema::Buscar_Tabla(fuente.trimmed());
-        if (!tabla)
-            throw Error_Ejecucion::Con(3078, fuente);
+        if (!tabla) throw Error_Ejecucion::Con(3078, fuente);
         if (tipo == Tipo_Conjunto::Tabla)
             return Conjunto_Registros(Conjunto_De_Tabla(conexion, *tabla));
         return Conjunto_Registros(

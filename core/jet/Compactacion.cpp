@@ -7,6 +7,29 @@
 #include <QFileInfo>
 #include <sqlite3.h>
 
+namespace {
+
+// A file that is born with its log is held by whoever opens it from the first read on. Were the log
+// begun by the first who opens, another program could exchange the file between his look and that.
+void Empezar_Con_Diario(const QString& fichero)
+{
+    sqlite3* base = nullptr;
+    int r = sqlite3_open_v2(fichero.toUtf8().constData(), &base, SQLITE_OPEN_READWRITE, nullptr);
+    if (r == SQLITE_OK)
+        r = sqlite3_exec(base, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+    sqlite3_close(base);
+    if (r != SQLITE_OK) throw Error_Ejecucion::Con(3043, fichero);
+}
+
+void Al_Disco(const QString& fichero)
+{
+    QFile escrito(fichero);
+    if (!escrito.open(QIODevice::ReadWrite) || !plataforma::Sincronizar(escrito))
+        throw Error_Ejecucion::Con(3043, fichero);
+}
+
+} // namespace
+
 Compactacion::Compactacion(const QString& fichero) : conexion(Conexion::De(fichero))
 {
     if (conexion->Nivel() > 0 || conexion->Leyendo()) throw Error_Ejecucion(3045);
@@ -31,6 +54,8 @@ Compactacion::~Compactacion()
 
 void Compactacion::Liberar()
 {
+    // Before it is let go, so that nobody meets the file without its log.
+    if (conexion->Con_Diario()) conexion->Ejecutar("PRAGMA journal_mode=WAL");
     conexion->Soltar();
     conexion->Retomar();
 }
@@ -42,9 +67,7 @@ void Compactacion::Escribir(const QString& destino)
         Sentencia s = conexion->Preparar("VACUUM INTO ?");
         s.Ligar(1, destino);
         s.Ejecutar();
-        QFile escrito(destino);
-        if (!escrito.open(QIODevice::ReadWrite) || !plataforma::Sincronizar(escrito))
-            throw Error_Ejecucion(3043);
+        Al_Disco(destino);
     } catch (...) {
         QFile::remove(destino);
         throw;
@@ -55,10 +78,20 @@ void Compactacion::Sustituir(const QString& compactada)
 {
     const std::shared_ptr<Conexion> c = std::exchange(conexion, nullptr);
     const QString fichero = c->Fichero();
+    bool puesta = false;
+    try {
+        plataforma::Copiar_Permisos(fichero, compactada);
+        if (c->Con_Diario()) {
+            Empezar_Con_Diario(compactada);
+            Al_Disco(compactada);
+        }
 #ifdef Q_OS_WIN
-    c->Soltar(); // an open file can't be replaced there
+        c->Soltar(); // an open file can't be replaced there
 #endif
-    const bool puesta = plataforma::Reemplazar(compactada, fichero);
+        puesta = plataforma::Reemplazar(compactada, fichero);
+    } catch (const Error_Ejecucion&) {
+        puesta = false;
+    }
     if (puesta) plataforma::Sincronizar_Carpeta(QFileInfo(fichero).absolutePath());
     c->Soltar();
     c->Retomar();

@@ -2,9 +2,12 @@
 
 #include "core/jet/Esquema.h"
 #include "core/jet/Funciones.h"
+#include "core/jet/Migracion.h"
+#include "core/plataforma.h"
 
 #include <cerrno>
 #include <cstring>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,9 +17,8 @@
 namespace {
 
 constexpr std::size_t SENTENCIAS_GUARDADAS = 64;
-// Another program may be storing a session; longer than this it is taken to hold the file.
-constexpr int ESPERA_BLOQUEO_MS = 2500;
-constexpr int INTENTOS_ABRIR = 3;
+// Another program may be storing a long session; longer than this it is taken to hold the file.
+constexpr int ESPERA_BLOQUEO_MS = 10000;
 
 QHash<QString, std::weak_ptr<Conexion>>& Abiertas()
 {
@@ -35,13 +37,14 @@ QString Nombre_Unico(const QString& fichero)
 
 Error_Ejecucion Con_Detalle(int numero, const QString& detalle)
 {
-    return Error_Ejecucion(numero, Descripcion_Error(numero) + QStringLiteral(": ") + detalle);
+    return Error_Ejecucion::Con(numero, detalle);
 }
 
 int Numero_Restriccion(const char* mensaje, int extendido)
 {
     switch (extendido) {
     case SQLITE_CONSTRAINT_CHECK:
+        if (std::strstr(mensaje, Esquema::PREFIJO_FECHA)) return 3421;
         return std::strstr(mensaje, Esquema::PREFIJO_RANGO) ? 6 : 3163;
     case SQLITE_CONSTRAINT_NOTNULL:
         return 3058;
@@ -91,6 +94,11 @@ std::shared_ptr<Conexion> Conexion::De(const QString& fichero)
     return nueva;
 }
 
+std::shared_ptr<Conexion> Conexion::Abierta(const QString& fichero)
+{
+    return Abiertas().value(Nombre_Unico(fichero)).lock();
+}
+
 std::shared_ptr<Conexion> Conexion::Crear(const QString& fichero)
 {
     const QFileInfo info(fichero);
@@ -119,13 +127,14 @@ Conexion::~Conexion()
 void Conexion::Abrir(bool crear)
 {
     // A program that compacts may put another file in this one's place while it is being opened.
-    for (int intento = 0; intento < INTENTOS_ABRIR; ++intento) {
+    const QDeadlineTimer plazo(ESPERA_BLOQUEO_MS);
+    do {
         Abrir_Fichero(crear);
         int movido = 0;
         sqlite3_file_control(base, "main", SQLITE_FCNTL_HAS_MOVED, &movido);
         if (!movido) return Configurar();
         Soltar();
-    }
+    } while (!plazo.hasExpired());
     throw Con_Detalle(3045, fichero);
 }
 
@@ -136,6 +145,10 @@ void Conexion::Abrir_Manejador(int modo)
     if (r != SQLITE_OK) throw Error(r);
     sqlite3_extended_result_codes(base, 1);
     Registrar_Funciones(base);
+    con_diario = !plataforma::Es_De_Red(plataforma::Sistema_De_Ficheros(fichero));
+    // A log that a local program left is read and put away without the shared memory that isn't to
+    // be had here.
+    if (!con_diario) Ejecutar("PRAGMA locking_mode=EXCLUSIVE");
 }
 
 void Conexion::Abrir_Fichero(bool crear)
@@ -150,6 +163,7 @@ void Conexion::Abrir_Fichero(bool crear)
     for (const QString& sql : Esquema::Sentencias())
         Ejecutar(sql.toUtf8().constData());
     Ejecutar(("PRAGMA application_id=" + QByteArray::number(Esquema::MARCA_FICHERO)).constData());
+    Ejecutar(("PRAGMA user_version=" + QByteArray::number(Esquema::VERSION)).constData());
     Ejecutar("COMMIT");
 }
 
@@ -157,8 +171,17 @@ void Conexion::Configurar()
 {
     version = 0;
     if (sqlite3_db_readonly(base, "main") == 1) throw Con_Detalle(3051, fichero);
-    Ejecutar("PRAGMA journal_mode=WAL");
-    Ejecutar("PRAGMA synchronous=NORMAL");
+    if (Version_De_Tablas() < Esquema::VERSION) Migrar(*this);
+    if (con_diario) {
+        Ejecutar("PRAGMA journal_mode=WAL");
+        Ejecutar("PRAGMA synchronous=NORMAL");
+    } else {
+        Ejecutar("PRAGMA journal_mode=DELETE");
+        Ejecutar("PRAGMA synchronous=FULL");
+        // Free again with the next read.
+        Ejecutar("PRAGMA locking_mode=NORMAL");
+        Ejecutar("SELECT count(*) FROM sqlite_schema");
+    }
     // Deleted sessions hold nothing worth wiping byte by byte.
     Ejecutar("PRAGMA secure_delete=OFF");
     // A damaged page is reported, not followed.
@@ -175,9 +198,16 @@ void Conexion::Comprobar_Largo()
     if (pagina <= 0 || QFileInfo(fichero).size() % pagina != 0) throw Con_Detalle(3343, fichero);
 }
 
-// A database of this program holds every table with every column; anything else is a foreign file.
-void Conexion::Comprobar() const
+int Conexion::Version_De_Tablas()
 {
+    return Preguntar("PRAGMA user_version").toInt();
+}
+
+// A database of this program holds every table with every column that its version has; anything
+// else is a foreign file.
+void Conexion::Comprobar()
+{
+    const int de_tablas = Version_De_Tablas();
     sqlite3_stmt* st = nullptr;
     const int r = sqlite3_prepare_v2(base,
                                      "SELECT lower(m.name||'.'||c.name) FROM sqlite_schema m, "
@@ -191,8 +221,16 @@ void Conexion::Comprobar() const
     const Error_Ejecucion fallo = Error(paso);
     sqlite3_finalize(st);
     if (paso != SQLITE_DONE) throw fallo;
+    if (de_tablas > Esquema::VERSION)
+        throw Error_Ejecucion(3041, QStringLiteral("La base de datos es de una versión más nueva "
+                                                   "de Miraldos (%1, y ésta llega a la %2). "
+                                                   "Instale la versión nueva para abrirla: %3")
+                                        .arg(de_tablas)
+                                        .arg(Esquema::VERSION)
+                                        .arg(fichero));
     for (const Esquema::Tabla& t : Esquema::Tablas())
         for (const Esquema::Columna& c : t.columnas) {
+            if (t.desde > de_tablas) break;
             const QString nombre = t.nombre + u'.' + c.nombre;
             if (!hay.contains(nombre.toLower()))
                 throw Con_Detalle(3343, QStringLiteral("falta %1").arg(nombre));
@@ -345,6 +383,16 @@ void Conexion::Deshacer()
         Ejecutar(("ROLLBACK TO " + punto).constData());
         Ejecutar(("RELEASE " + punto).constData());
     }
+}
+
+void Conexion::Poner_Al_Dia()
+{
+    if (!base || con_diario || nivel > 0 || Leyendo()) return;
+    int movido = 0;
+    sqlite3_file_control(base, "main", SQLITE_FCNTL_HAS_MOVED, &movido);
+    if (!movido) return;
+    Soltar();
+    Retomar();
 }
 
 bool Conexion::Leyendo() const

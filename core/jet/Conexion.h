@@ -21,6 +21,8 @@ public:
     /// The connection to `fichero`, opened if none is. @throws Error_Ejecucion 3024, 3343, 3051,
     /// 3045
     static std::shared_ptr<Conexion> De(const QString& fichero);
+    /// The connection to `fichero` if there is one, as it stands; null otherwise.
+    static std::shared_ptr<Conexion> Abierta(const QString& fichero);
     /// Makes the file and its tables. @throws Error_Ejecucion 3204, 3044, 3051, 3026
     static std::shared_ptr<Conexion> Crear(const QString& fichero);
     ~Conexion();
@@ -56,6 +58,12 @@ public:
 
     /// Waits until what was committed lies on the disk.
     void Sincronizar();
+    /// True with a log beside the file; false on a network drive, where a journal goes with each
+    /// transaction and every commit waits for the disk.
+    bool Con_Diario() const { return con_diario; }
+    /// Takes up the file that another program has put in this one's place. Only without a log: with
+    /// one an open file can't be exchanged.
+    void Poner_Al_Dia();
 
     /// The failure that SQLite's result `codigo` stands for, with the engine's number.
     Error_Ejecucion Error(int codigo) const;
@@ -68,7 +76,8 @@ private:
     void Abrir_Manejador(int modo);
     void Configurar();
     void Comprobar_Largo();
-    void Comprobar() const;
+    void Comprobar();
+    int Version_De_Tablas();
     QString Preguntar(const char* sql);
     void Devolver(const QByteArray& sql, sqlite3_stmt* st);
     sqlite3_stmt* Compilar(const QByteArray& sql);
@@ -76,6 +85,7 @@ private:
     QString fichero;
     sqlite3* base = nullptr;
     int nivel = 0;
+    bool con_diario = true;
     // What `Version` last saw: changes made here, and the file's own count of those made elsewhere.
     quint64 version = 0;
     qint64 propios = -1, ajenos = -1;

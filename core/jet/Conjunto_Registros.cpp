@@ -38,8 +38,7 @@ int Datos::Lugar(const QString& campo) const
 {
     if (const auto it = lugares.constFind(campo); it != lugares.constEnd() && *it >= 0) return *it;
     const int lugar = lugares.value(campo.toLower(), -1);
-    if (lugar < 0)
-        throw Error_Ejecucion::Con(3265, campo);
+    if (lugar < 0) throw Error_Ejecucion::Con(3265, campo);
     lugares.insert(campo, lugar); // asked for a row after another, spelt the same
     return lugar;
 }

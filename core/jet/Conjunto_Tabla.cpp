@@ -15,8 +15,7 @@ public:
     void Index(const QString& nombre) override
     {
         const Esquema::Indice* const i = tabla.Buscar_Indice(nombre);
-        if (!i)
-            throw Error_Ejecucion::Con(3015, nombre);
+        if (!i) throw Error_Ejecucion::Con(3015, nombre);
         indice = i;
         Al_Principio();
     }

@@ -38,24 +38,29 @@ QList<Tabla> Tablas_De_Referencia()
          {Texto(u"Nombre", ANCHO_NOMBRE), Texto(u"Clave", ANCHO_CODIGO),
           Texto(u"Foto", ANCHO_LARGO), Texto(u"Fotoini", ANCHO_LARGO),
           Texto(u"VelPuerto", ANCHO_LARGO), Texto(u"FormatoCoord", ANCHO_NOMBRE)},
-         {Clave({"Nombre"})}},
+         {Clave({"Nombre"})},
+         {"Nombre"}},
         // One row a number, so that a session is listed once whatever the directions in which its
         // operation is offered; the direction stands in KRT2.
         {"OPE",
          {Numero(u"OPE"), Texto(u"DESOPE", ANCHO_NOMBRE)},
-         {Clave({"OPE"}), {"DESOPE", {"DESOPE"}, true}}},
+         {Clave({"OPE"}), {"DESOPE", {"DESOPE"}, true}},
+         {"OPE"}},
         {"KRT2",
          {Texto(u"Nombre", ANCHO_CODIGO), Numero(u"OPE"), Texto(u"TipOpe", 1),
           Texto(u"DESOPE", ANCHO_NOMBRE), Texto(u"Conv", ANCHO_LARGO)},
-         {Clave({"Nombre", "OPE", "TipOpe"})}},
+         {Clave({"Nombre", "OPE", "TipOpe"})},
+         {"Nombre", "OPE", "TipOpe"}},
         {"CONVERT",
          {Texto(u"Clave", ANCHO_CODIGO), Texto(u"descripcion", ANCHO_LARGO),
           Texto(u"ext", ANCHO_LARGO)},
-         {Clave({"Clave"})}},
+         {Clave({"Clave"})},
+         {"Clave"}},
         {"Identificadores",
          {Texto(u"Nombre", ANCHO_CODIGO), Numero(u"OPE"), Texto(u"ID", ANCHO_CODIGO),
           Texto(u"NomID", ANCHO_NOMBRE), Texto(u"tipo", ANCHO_CODIGO)},
-         {Clave({"Nombre", "OPE", "ID"})}},
+         {Clave({"Nombre", "OPE", "ID"})},
+         {"Nombre", "OPE", "ID"}},
         {"Campos",
          {Texto(u"Maquina", ANCHO_CODIGO), Texto(u"ID", ANCHO_CODIGO),
           Texto(u"Campo", ANCHO_NOMBRE), Numero(u"Orden"), Numero(u"Digitos"),
@@ -63,14 +68,17 @@ QList<Tabla> Tablas_De_Referencia()
           Texto(u"Especial", ANCHO_NOMBRE), Texto(u"Marcas", ANCHO_CODIGO),
           Texto(u"Caracter", ANCHO_CODIGO)},
          {{"MaqCam", {"Maquina", "Campo"}, false},
-          {"MaqId", {"Maquina", "ID", "Orden"}, false, true}}},
+          {"MaqId", {"Maquina", "ID", "Orden"}, false, true}},
+         {"Maquina", "ID", "Campo"}},
         {"Ayudas",
          {Texto(u"Maquina", ANCHO_NOMBRE), Numero(u"OPE"), Texto(u"TipOpe", 1), Numero(u"Sec"),
           Texto(u"Texto", ANCHO_LARGO), Texto(u"Foto", ANCHO_LARGO)},
-         {{"MaqOpe", {"Maquina", "OPE", "TipOpe", "Sec"}, false, true}}},
+         {{"MaqOpe", {"Maquina", "OPE", "TipOpe", "Sec"}, false, true}},
+         {"Maquina", "OPE", "TipOpe", "Sec"}},
         {"TAB2",
          {Texto(u"TIPO", ANCHO_CODIGO), Numero(u"INDICE"), Texto(u"DESCRIPCION", ANCHO_LARGO)},
-         {Clave({"TIPO", "INDICE"})}},
+         {Clave({"TIPO", "INDICE"})},
+         {"TIPO", "INDICE"}},
     };
 }
 
@@ -119,6 +127,20 @@ QList<Tabla> Tablas_De_Trabajo()
     };
 }
 
+// What the database knows of itself: the stamp of the delivered rows that it holds, and a sum of
+// each of them, by which they are told from the user's own.
+QList<Tabla> Tablas_De_La_Base()
+{
+    return {
+        {"Propiedades",
+         {Texto(u"Nombre", ANCHO_NOMBRE), Texto(u"Valor", ANCHO_LARGO)},
+         {Clave({"Nombre"})},
+         {},
+         1},
+        {"Entregadas", {Texto(u"Tabla", ANCHO_NOMBRE), Numero(u"Suma")}, {}, {}, 1},
+    };
+}
+
 bool En_Indice(const Tabla& tabla, const QString& columna)
 {
     for (const Indice& i : tabla.indices)
@@ -138,13 +160,18 @@ QString Definicion(const Tabla& tabla, const Columna& c)
     const QString control = tabla.nombre + u'_' + c.nombre;
     switch (c.tipo) {
     case Esquema::Tipo::Texto:
-        sql += QStringLiteral(" TEXT CONSTRAINT %1%2 CHECK(length(%3)<=%4)")
+        // The count of characters ends at a zero byte, that of bytes doesn't.
+        sql += QStringLiteral(" TEXT CONSTRAINT %1%2 CHECK(length(%3)<=%4 AND "
+                              "(length(CAST(%3 AS BLOB))<=%4 OR instr(%3,char(0))=0))")
                    .arg(QLatin1String(Esquema::PREFIJO_ANCHO), control, c.nombre)
                    .arg(c.ancho);
         break;
     case Esquema::Tipo::Memo:
-    case Esquema::Tipo::Fecha:
         sql += QStringLiteral(" TEXT");
+        break;
+    case Esquema::Tipo::Fecha:
+        sql += QStringLiteral(" TEXT CONSTRAINT %1%2 CHECK(%3)")
+                   .arg(QLatin1String(Esquema::PREFIJO_FECHA), control, Esquema::Es_Fecha(c));
         break;
     case Esquema::Tipo::Entero:
         sql += QStringLiteral(" INTEGER");
@@ -177,7 +204,8 @@ const Esquema::Indice* Esquema::Tabla::Buscar_Indice(const QString& buscado) con
 
 const QList<Esquema::Tabla>& Esquema::Tablas()
 {
-    static const QList<Tabla> tablas = Tablas_De_Referencia() + Tablas_De_Trabajo();
+    static const QList<Tabla> tablas =
+        Tablas_De_Referencia() + Tablas_De_Trabajo() + Tablas_De_La_Base();
     return tablas;
 }
 
@@ -188,21 +216,39 @@ const Esquema::Tabla* Esquema::Buscar_Tabla(const QString& nombre)
     return nullptr;
 }
 
+QString Esquema::Es_Fecha(const Columna& columna)
+{
+    const QString cifra = QStringLiteral("[0-9]");
+    const QString dibujo =
+        QStringLiteral("%1-%2-%2 %2:%2:%2").arg(cifra.repeated(4), cifra.repeated(2));
+    // The form first: what else the date functions take for a moment ("now") is none that was stored.
+    return QStringLiteral("CASE WHEN %1 GLOB '%2' THEN strftime('%Y-%m-%d %H:%M:%S',%1)=%1 "
+                          "ELSE %1 IS NULL END")
+        .replace(QStringLiteral("%1"), columna.nombre)
+        .replace(QStringLiteral("%2"), dibujo);
+}
+
+QStringList Esquema::Sentencias_De(const Tabla& t)
+{
+    QStringList columnas;
+    for (const Columna& c : t.columnas)
+        columnas << Definicion(t, c);
+    // Strict: a number column holds numbers only, whoever writes it.
+    QStringList sql{
+        QStringLiteral("CREATE TABLE %1 (%2) STRICT").arg(t.nombre, columnas.join(u", "))};
+    for (const Indice& i : t.indices) {
+        if (Es_Fila(*t.Buscar_Columna(i.columnas[0]))) continue;
+        sql << QStringLiteral("CREATE %1INDEX %2_%3 ON %2 (%4)")
+                   .arg(QLatin1String(i.unico ? "UNIQUE " : ""), t.nombre, i.nombre,
+                        i.columnas.join(u','));
+    }
+    return sql;
+}
+
 QStringList Esquema::Sentencias()
 {
     QStringList sql;
-    for (const Tabla& t : Tablas()) {
-        QStringList columnas;
-        for (const Columna& c : t.columnas)
-            columnas << Definicion(t, c);
-        // Strict: a number column holds numbers only, whoever writes it.
-        sql << QStringLiteral("CREATE TABLE %1 (%2) STRICT").arg(t.nombre, columnas.join(u", "));
-        for (const Indice& i : t.indices) {
-            if (Es_Fila(*t.Buscar_Columna(i.columnas[0]))) continue;
-            sql << QStringLiteral("CREATE %1INDEX %2_%3 ON %2 (%4)")
-                       .arg(QLatin1String(i.unico ? "UNIQUE " : ""), t.nombre, i.nombre,
-                            i.columnas.join(u','));
-        }
-    }
+    for (const Tabla& t : Tablas())
+        sql += Sentencias_De(t);
     return sql;
 }

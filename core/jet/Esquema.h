@@ -36,6 +36,9 @@ struct Tabla {
     QString nombre;
     QList<Columna> columnas;
     QList<Indice> indices;
+    /// Columns that say which row of a delivered table is which; empty for the user's tables.
+    QStringList identidad{};
+    int desde = 0; ///< version of the database that brought the table
 
     /// Column or index by its name, compared without case; null when there is none.
     const Columna* Buscar_Columna(const QString& nombre) const;
@@ -46,6 +49,13 @@ struct Tabla {
 const QList<Tabla>& Tablas();
 /// A table by its name, compared without case; null when there is none.
 const Tabla* Buscar_Tabla(const QString& nombre);
+/// Version of the tables as they stand here: a database of a lower one is brought up when it is
+/// opened, one of a higher one is refused.
+inline constexpr int VERSION = 1;
+/// SQL that makes one table; its indexes follow.
+QStringList Sentencias_De(const Tabla& tabla);
+/// SQL that is true for a moment in the stored form, and for nothing else but null.
+QString Es_Fecha(const Columna& columna);
 /// SQL that makes all tables and indexes in an empty database.
 QStringList Sentencias();
 
@@ -55,5 +65,6 @@ inline constexpr qint32 MARCA_FICHERO = 0x4D495241;
 /// Names of the width and range checks begin so; errors are told apart by them.
 inline constexpr char PREFIJO_ANCHO[] = "ancho_";
 inline constexpr char PREFIJO_RANGO[] = "rango_";
+inline constexpr char PREFIJO_FECHA[] = "fecha_";
 
 } // namespace Esquema

@@ -2,6 +2,7 @@
 
 #include "core/jet/Esquema.h"
 #include "core/jet/Fichas_Sql.h"
+#include "core/jet/Gramatica.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -20,6 +21,7 @@ public:
 
     Traduccion Hacer()
     {
+        Comprobar_Gramatica(fuente, fichas);
         Partir();
         Traduccion t;
         if (!es_select || !Leer_Origenes() || agrupada) {

@@ -40,4 +40,5 @@ struct Traduccion {
 /// - a SELECT without an order, and rows that an order leaves level, follow insertion order;
 ///   DISTINCT without an order gives each row at its first appearance.
 /// What isn't understood passes as it stands and SQLite judges it.
+/// @throws Error_Ejecucion 3075, 3085 for what SQLite would take for something else (core/jet/Gramatica)
 Traduccion Traducir(const QString& sql);

@@ -77,10 +77,18 @@ FrmMain::FrmMain() : area(new Area_Ventanas), panel(new QLabel)
     setStatusBar(barra);
     panel->setObjectName(QStringLiteral("Panel1"));
     barra->addWidget(panel);
+    // The sending dialog goes when it has sent: its count stays to be read here.
+    auto* const cuenta = new QLabel;
+    cuenta->setObjectName(QStringLiteral("Panel2"));
+    barra->addWidget(cuenta, 1);
+    connect(&Sucesos::Unico(), &Sucesos::envio_acabado, cuenta, [cuenta](const QString& texto) {
+        cuenta->setText(QStringLiteral("Último envío: ") + texto);
+    });
     Acciones_Propias();
     connect(&Sucesos::Unico(), &Sucesos::modelo_cambiado, this, &FrmMain::Rehacer_Panel);
     connect(&Sucesos::Unico(), &Sucesos::estacion_cargada, this, [this](const QString& valor) {
-        acciones[Boton_De_Toolbar(BOTON_CODIGOS)]->setEnabled(Familia_De(valor).serie != Serie::Nivel);
+        acciones[Boton_De_Toolbar(BOTON_CODIGOS)]->setEnabled(Familia_De(valor).serie !=
+                                                              Serie::Nivel);
     });
     Rehacer_Panel();
     resize(1024, 700);

@@ -2,6 +2,9 @@
 
 #include "core/Ajustes_Modelo.h"
 #include "core/Ayuda.h"
+#include "core/Copias.h"
+#include "core/ui/Dialogos.h"
+#include "core/ui/FrmCopias.h"
 #include "core/ui/Piezas.h"
 
 #include <QCheckBox>
@@ -94,7 +97,23 @@ QWidget* Frmutils::Hacer_Opciones()
         caja->addWidget(casillas[nombre]);
     }
     caja->addStretch();
+    caja->addWidget(Hacer_Base());
     return pagina;
+}
+
+QWidget* Frmutils::Hacer_Base()
+{
+    QGroupBox* const grupo = Piezas::Grupo("Base de datos", "FrameBase");
+    QLabel* const lugar = Piezas::Rotulo(Lugar_De_La_Base(), "LblBase");
+    lugar->setWordWrap(true);
+    lugar->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QPushButton* const BtnRecuperar = Piezas::Boton("BtnRecuperar", "&Recuperar de la copia...");
+    auto* const caja = new QVBoxLayout(grupo);
+    caja->addWidget(lugar);
+    caja->addWidget(BtnRecuperar, 0, Qt::AlignRight);
+    connect(BtnRecuperar, &QPushButton::clicked, this,
+            [] { Dialogos::Unico<FrmCopias>().Mostrar_Modal(); });
+    return grupo;
 }
 
 void Frmutils::Pestana(int indice)

@@ -24,6 +24,7 @@ public:
 private:
     QWidget* Hacer_Comunicaciones();
     QWidget* Hacer_Opciones();
+    QWidget* Hacer_Base();
     void Cargar();
     static void Llenar(QComboBox& combo, const Combo_Ajustes& ajustes);
     void Combo6_Click();

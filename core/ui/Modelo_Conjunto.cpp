@@ -2,16 +2,13 @@
 
 #include "core/Error_Ejecucion.h"
 
-#include <QHeaderView>
-#include <QTableView>
-
 namespace {
 
 constexpr int FILAS_EN_MEMORIA = 512;
 
 } // namespace
 
-Modelo_Conjunto::Modelo_Conjunto(QObject* padre) : QAbstractTableModel(padre)
+Modelo_Conjunto::Modelo_Conjunto(QObject* padre) : Modelo_Con_Fila(padre)
 {
     leidas.setMaxCost(FILAS_EN_MEMORIA);
 }
@@ -128,31 +125,4 @@ QVariant Modelo_Conjunto::headerData(int seccion, Qt::Orientation orientacion, i
 {
     if (papel != Qt::DisplayRole || orientacion != Qt::Horizontal) return {};
     return columnas.value(seccion).titulo;
-}
-
-void Atar_Rejilla(QTableView* rejilla, Modelo_Conjunto* modelo)
-{
-    rejilla->setModel(modelo);
-    rejilla->setSelectionBehavior(QAbstractItemView::SelectRows);
-    rejilla->setSelectionMode(QAbstractItemView::SingleSelection);
-    rejilla->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    rejilla->setAlternatingRowColors(true);
-    rejilla->setTabKeyNavigation(false);
-    rejilla->setWordWrap(false);
-    rejilla->verticalHeader()->hide();
-    rejilla->verticalHeader()->setDefaultSectionSize(rejilla->fontMetrics().height() + 8);
-    rejilla->horizontalHeader()->setHighlightSections(false);
-    rejilla->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    QObject::connect(rejilla->selectionModel(), &QItemSelectionModel::currentRowChanged, modelo,
-                     [modelo](const QModelIndex& fila) { modelo->Ir_A(fila.row()); });
-    const auto seguir = [rejilla](int fila) {
-        if (fila < 0 || rejilla->currentIndex().row() == fila) return;
-        // A hidden column can't be the current one.
-        int columna = 0;
-        while (rejilla->isColumnHidden(columna) && columna + 1 < rejilla->model()->columnCount())
-            ++columna;
-        rejilla->setCurrentIndex(rejilla->model()->index(fila, columna));
-    };
-    QObject::connect(modelo, &Modelo_Conjunto::reposicion, rejilla, seguir);
-    seguir(modelo->Fila_Actual());
 }

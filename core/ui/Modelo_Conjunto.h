@@ -1,15 +1,13 @@
 #pragma once
 
 #include "core/jet/Base.h"
+#include "core/ui/Modelo_Con_Fila.h"
 
 #include <functional>
 #include <memory>
-#include <QAbstractTableModel>
 #include <QCache>
 #include <QList>
 #include <QString>
-
-class QTableView;
 
 /// One column of a bound grid.
 struct Columna_Rejilla {
@@ -21,7 +19,7 @@ struct Columna_Rejilla {
 
 /// Rows of a query for grids and combos, with one current row that all who look at it share.
 /// Only the rows that are looked at are read, so a session of any length opens at once.
-class Modelo_Conjunto : public QAbstractTableModel {
+class Modelo_Conjunto : public Modelo_Con_Fila {
     Q_OBJECT
 public:
     explicit Modelo_Conjunto(QObject* padre = nullptr);
@@ -34,10 +32,8 @@ public:
     void Cerrar();
 
     bool Vacio() const { return rowCount() == 0; }
-    /// Current row from 0, or -1.
-    int Fila_Actual() const { return actual; }
-    /// Goes to a row; one that is not there is ignored.
-    void Ir_A(int fila);
+    int Fila_Actual() const override { return actual; }
+    void Ir_A(int fila) override;
     /// The recordset itself, on the current row. @throws Error_Ejecucion 91 before `Abrir`
     Conjunto_Registros& Conjunto();
     /// Takes the recordset's row as the current one, after a routine has moved it.
@@ -51,10 +47,6 @@ public:
     QVariant data(const QModelIndex& indice, int papel) const override;
     QVariant headerData(int seccion, Qt::Orientation orientacion, int papel) const override;
 
-Q_SIGNALS:
-    /// The current row is another one, or the same read anew; -1 when there is none.
-    void reposicion(int fila);
-
 private:
     QString Celda(int fila, int columna) const;
 
@@ -66,7 +58,3 @@ private:
     int filas = 0;
     int actual = -1;
 };
-
-/// Ties a grid to the model: selecting a row makes it the current one and the other way round.
-/// Sets the grid up as all of the program's are: whole rows, one at a time, read only.
-void Atar_Rejilla(QTableView* rejilla, Modelo_Conjunto* modelo);

@@ -170,6 +170,10 @@ void Ventana::closeEvent(QCloseEvent* evento)
 {
     evento->accept();
     if (descargada) return;
+    const QPointer<Ventana> aqui(this);
+    const bool se_queda = isVisible() && !Consiente_Cerrar();
+    if (se_queda) evento->ignore();
+    if (se_queda || !aqui || descargada) return;
     descargada = true;
     Al_Descargar();
     if (!seccion_posicion.isEmpty() && situada)

@@ -51,6 +51,8 @@ protected:
     virtual void Colocar() {}
     /// Each time the dialog comes to the front.
     virtual void Al_Activarse() {}
+    /// Before a dialog that is on the screen is unloaded: it may ask. @return false when it stays
+    virtual bool Consiente_Cerrar() { return true; }
     /// What the dialog does when it is unloaded, its controls still standing.
     virtual void Al_Descargar() {}
 

@@ -28,7 +28,7 @@ void Llenar(const Tarea_Exportar& tarea, Libro_De_Plantilla& libro)
     std::vector<QString> celdas(filas.size());
     for (std::size_t r = 0; r < total; ++r) {
         for (std::size_t c = 0; c < filas.size(); ++c)
-            celdas[c] = filas[c][r];
+            celdas[c] = filas[c].Celda(r);
         if (const Marca_Fila* const marca = Marca_De(celdas.front()))
             celdas.front() = marcadas.Siguiente(*marca, ".");
         libro.Fila(celdas);

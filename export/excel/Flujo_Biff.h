@@ -60,9 +60,6 @@ public:
     /// about them, which are skipped. @param caracteres  its length, read before
     QString Leer_Texto(qsizetype caracteres);
 
-    /// Bytes not read yet.
-    qsizetype Quedan() const { return quedan; }
-
 private:
     QByteArrayView Tomar(qsizetype cuantos);
     bool Pasar_De_Parte();

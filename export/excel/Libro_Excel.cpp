@@ -13,7 +13,7 @@ constexpr double MAX_ANCHO = 255;
 
 Error_Ejecucion Error_Con_Detalle(int numero, const QString& detalle)
 {
-    return Error_Ejecucion(numero, Descripcion_Error(numero) + QStringLiteral(": ") + detalle);
+    return Error_Ejecucion::Con(numero, detalle);
 }
 
 void Comprobar_Lugar(int fila, int columna, int filas, int columnas)

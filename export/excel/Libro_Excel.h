@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/libros.md
+
 #include "export/excel/Forma_Excel.h"
 
 #include <QString>

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/libros.md
+
 #include "export/excel/Libro_Excel.h"
 
 #include <map>

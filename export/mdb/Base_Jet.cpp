@@ -29,7 +29,7 @@ constexpr qsizetype LARGO_FICHERO = 240;
 
 Error_Ejecucion Error_Con(int numero, const QString& que)
 {
-    return Error_Ejecucion(numero, Descripcion_Error(numero) + ": '" + que + "'");
+    return Error_Ejecucion::Con(numero, u'\'' + que + u'\'');
 }
 
 void Comprobar_Localizacion(const QString& localizacion)

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/access.md
+
 #include <memory>
 #include <optional>
 #include <QDateTime>

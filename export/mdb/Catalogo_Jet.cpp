@@ -92,8 +92,7 @@ Catalogo::Catalogo(Paginas& paginas, double fecha_)
 void Catalogo::Comprobar_Sitio(const QString& tabla) const
 {
     const QByteArray clave = Clave_Nombre(CARPETA_TABLAS, tabla);
-    if (por_nombre.Contiene(clave))
-        throw Error_Ejecucion(3010, Descripcion_Error(3010) + ": '" + tabla + "'");
+    if (por_nombre.Contiene(clave)) throw Error_Ejecucion::Con(3010, u'\'' + tabla + u'\'');
     const qsizetype numero = Hoja_Indice::Largo(Hoja_Indice::Clave(CARPETA_TABLAS));
     if (!por_nombre.Cabe(Hoja_Indice::Largo(clave)) || !por_id.Cabe(numero) ||
         !por_objeto.Cabe(PERMISOS_POR_TABLA * numero))

@@ -18,11 +18,6 @@ enum class Tipo : quint8 {
     OLE = 0x0B,
     MEMO = 0x0C
 };
-/// Memo and OLE values stand on pages of their own.
-constexpr bool Es_Largo(Tipo tipo)
-{
-    return tipo == Tipo::OLE || tipo == Tipo::MEMO;
-}
 
 enum Banderas_Columna : quint8 {
     COL_FIJA = 0x01,

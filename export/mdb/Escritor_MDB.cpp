@@ -31,10 +31,13 @@ void Escribir_Filas(const Tarea_Exportar& tarea, Base_Jet& base)
     const Filas_Exportar& filas = tarea.datos.filas;
     const std::size_t total = tarea.datos.Numero_De_Filas();
     Marcador marcador(tarea.origen.avance, qint64(total));
+    std::vector<QString> textos(filas.size());
     std::vector<Celda_Jet> celdas(filas.size());
     for (std::size_t r = 0; r < total; ++r) {
-        for (std::size_t c = 0; c < filas.size(); ++c)
-            celdas[c] = QStringView(filas[c][r]);
+        for (std::size_t c = 0; c < filas.size(); ++c) {
+            textos[c] = filas[c].Celda(r);
+            celdas[c] = QStringView(textos[c]);
+        }
         if (Es_Fila_Marcada(*celdas.front())) celdas.front() = celdas.front()->sliced(1);
         base.Anadir_Fila(celdas);
         marcador.Paso();

@@ -13,7 +13,7 @@ Error_Ejecucion Fallo(const QIODevice& salida, bool lleno)
 {
     if (lleno) return Error_Ejecucion(3026);
     if (const auto* fichero = qobject_cast<const QFileDevice*>(&salida)) return Fallo_De(*fichero);
-    return Error_Ejecucion(57, Descripcion_Error(57) + ": " + salida.errorString());
+    return Error_Ejecucion::Con(57, salida.errorString());
 }
 
 } // namespace
@@ -22,9 +22,7 @@ Error_Ejecucion Fallo_De(const QFileDevice& fichero)
 {
     constexpr int DISCO_LLENO = 61; // what the engine counts as 3026
     const Error_Ejecucion e = Ficheros::Error_De(fichero);
-    return e.numero == DISCO_LLENO
-               ? Error_Ejecucion(3026, Descripcion_Error(3026) + ": " + fichero.errorString())
-               : e;
+    return e.numero == DISCO_LLENO ? Error_Ejecucion::Con(3026, fichero.errorString()) : e;
 }
 
 quint32 Paginas::Reservar()

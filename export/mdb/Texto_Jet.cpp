@@ -55,7 +55,7 @@ void Comprobar_Nombre(const QString& nombre)
                        std::none_of(nombre.begin(), nombre.end(), [](QChar c) {
                            return c.unicode() < u' ' || prohibidos.contains(c);
                        });
-    if (!bueno) throw Error_Ejecucion(3125, Descripcion_Error(3125) + ": '" + nombre + "'");
+    if (!bueno) throw Error_Ejecucion::Con(3125, u'\'' + nombre + u'\'');
 }
 
 } // namespace Jet

@@ -6,6 +6,7 @@
 #include "export/Trampa_Escritor.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -20,26 +21,40 @@ constexpr Fallos_Escritor DEL_SEPARADO = {u"Se produjo un error al Guardar un Fi
 class Texto_En_Curso {
 public:
     explicit Texto_En_Curso(const Tarea_Exportar& t)
-        : tarea(t), opciones(Opciones_Texto::De(t.origen.opciones.texto)),
-          renglon(opciones.separador), fichero(t.fichero),
+        : tarea(t), opciones(Opciones_Texto::De(t.origen.opciones.texto)), fichero(t.fichero),
           marcadas(t.origen.bd, t.datos.lineas_especiales)
     {
     }
 
     // Behind the titles stands an empty line; titles there are even without columns.
-    void Escribir_Titulos()
+    void Escribir_Titulos(std::span<const qsizetype> anchos = {}, bool con_marca = false)
     {
-        fichero.Linea(renglon.Texto());
+        if (!opciones.titulos) return;
+        Renglon titulos(opciones.separador);
+        titulos.Poner_Titulos(tarea.datos.campos, anchos, con_marca);
+        fichero.Linea(titulos.Texto());
         fichero.Fin_De_Linea();
-        renglon.Vaciar();
     }
+
     // The text of a marked row in place of its first cell. @return false for an ordinary row
-    bool Poner_Marcada(const QString& celda)
+    bool Poner_Marcada(const Columna_Exportar& primera, std::size_t fila)
     {
-        const Marca_Fila* const marca = Marca_De(celda);
-        if (marca) renglon.Poner(marcadas.Siguiente(*marca, ":\r\n") + "\r\n");
-        return marca;
+        const Marca_Fila* const marca = Marca_De(primera.Vista(fila).Primera());
+        if (!marca) return false;
+        Abrir_Celda();
+        fichero.Agregar(marcadas.Siguiente(*marca, ":\r\n") + "\r\n");
+        return true;
     }
+
+    // A cell, with blanks up to `ancho` characters.
+    void Poner(const Vista_Celda& celda, qsizetype ancho)
+    {
+        Abrir_Celda();
+        fichero.Agregar_Bytes(celda.pagina);
+        if (!celda.unidades.isEmpty()) fichero.Agregar(celda.unidades);
+        fichero.Agregar_Blancos(ancho - celda.Largo());
+    }
+
     template <typename De_Fila> void Para_Cada_Fila(De_Fila&& de_fila)
     {
         const std::size_t total = tarea.datos.Numero_De_Filas();
@@ -47,8 +62,7 @@ public:
         for (std::size_t r = 0; r < total; ++r) {
             de_fila(r);
             // A line without any cell isn't written.
-            if (!renglon.Vacio()) fichero.Linea(renglon.Texto());
-            renglon.Vaciar();
+            if (std::exchange(con_celdas, false)) fichero.Fin_De_Linea();
             marcador.Paso();
         }
         marcador.Terminar();
@@ -57,11 +71,16 @@ public:
 
     const Tarea_Exportar& tarea;
     const Opciones_Texto opciones;
-    Renglon renglon;
 
 private:
+    void Abrir_Celda()
+    {
+        if (std::exchange(con_celdas, true)) fichero.Agregar(opciones.separador);
+    }
+
     Fichero_Texto fichero;
     Textos_Marcados marcadas;
+    bool con_celdas = false; // the line has one already
 };
 
 void Escribir_Formateado(Texto_En_Curso& t)
@@ -71,29 +90,25 @@ void Escribir_Formateado(Texto_En_Curso& t)
     const bool con_marca = t.tarea.campos_con_marca;
     std::vector<qsizetype> anchos;
     (con_marca ? Anchos_Titulos : Anchos_Columna)(datos.campos, filas, anchos, t.opciones.titulos);
-    if (t.opciones.titulos) {
-        t.renglon.Poner_Titulos(datos.campos, anchos, con_marca);
-        t.Escribir_Titulos();
-    }
+    t.Escribir_Titulos(anchos, con_marca);
+    // The filling of a cell stays where its title is shorter.
+    for (std::size_t c = 0; c < filas.size(); ++c)
+        if (filas[c].Igualada()) anchos[c] = std::max(anchos[c], filas[c].Ancho());
     t.Para_Cada_Fila([&](std::size_t r) {
-        for (std::size_t c = t.Poner_Marcada(filas[0][r]) ? 1 : 0; c < filas.size(); ++c)
-            t.renglon.Poner(filas[c][r], anchos[c]);
+        for (std::size_t c = t.Poner_Marcada(filas[0], r) ? 1 : 0; c < filas.size(); ++c)
+            t.Poner(filas[c].Vista(r), anchos[c]);
     });
 }
 
 void Escribir_Separado(Texto_En_Curso& t)
 {
     const Filas_Exportar& filas = t.tarea.datos.filas;
-    if (t.opciones.titulos) {
-        t.renglon.Poner_Titulos(t.tarea.datos.campos);
-        t.Escribir_Titulos();
-    }
+    t.Escribir_Titulos();
     t.Para_Cada_Fila([&](std::size_t r) {
-        if (t.Poner_Marcada(filas[0][r])) return;
-        for (const auto& columna : filas) {
-            const QString& celda = columna[r];
-            if (std::ranges::any_of(celda, [](QChar c) { return c != u' '; }))
-                t.renglon.Poner(celda);
+        if (t.Poner_Marcada(filas[0], r)) return;
+        for (const Columna_Exportar& columna : filas) {
+            const Vista_Celda celda = columna.Vista(r);
+            if (!celda.Blanca()) t.Poner(celda, celda.Largo() + columna.Relleno(r));
         }
     });
 }

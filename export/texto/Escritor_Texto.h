@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/textos.md
+
 #include "export/Tarea_Exportar.h"
 
 #include "export/Trampa_Escritor.h"

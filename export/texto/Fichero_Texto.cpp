@@ -9,15 +9,10 @@ namespace {
 
 constexpr qsizetype TRAMO = 64 * 1024;
 
-Error_Ejecucion Error_De_Nombre(int numero, const QString& ruta)
-{
-    return Error_Ejecucion(numero, Descripcion_Error(numero) + ": " + ruta);
-}
-
 const QString& Comprobado(const QString& ruta)
 {
-    if (!Es_Nombre_De_Fichero(ruta)) throw Error_De_Nombre(53, ruta);
-    if (!QFileInfo(ruta).absoluteDir().exists()) throw Error_De_Nombre(76, ruta);
+    if (!Es_Nombre_De_Fichero(ruta)) throw Error_Ejecucion::Con(53, ruta);
+    if (!QFileInfo(ruta).absoluteDir().exists()) throw Error_Ejecucion::Con(76, ruta);
     return ruta;
 }
 
@@ -48,6 +43,16 @@ void Fichero_Texto::Agregar(QStringView texto)
     Ansi::Agregar_Bytes(pendiente, texto);
 }
 
+void Fichero_Texto::Agregar_Bytes(QByteArrayView bytes)
+{
+    pendiente.append(bytes.data(), bytes.size());
+}
+
+void Fichero_Texto::Agregar_Blancos(qsizetype cuantos)
+{
+    if (cuantos > 0) pendiente.append(cuantos, ' ');
+}
+
 void Fichero_Texto::Fin_De_Linea()
 {
     pendiente += "\r\n";
@@ -69,7 +74,8 @@ void Fichero_Texto::Volcar()
     if (escritos != pendiente.size()) {
         pendiente.clear();
         // A block that was written in part is a full disk that has not said so yet.
-        if (fichero.error() == QFileDevice::NoError) throw Error_De_Nombre(61, fichero.fileName());
+        if (fichero.error() == QFileDevice::NoError)
+            throw Error_Ejecucion::Con(61, fichero.fileName());
         throw Ficheros::Error_De(fichero);
     }
     pendiente.clear();

@@ -21,6 +21,9 @@ public:
     /// @throws Error_Ejecucion 61 on a full disk, 57 when the device fails otherwise
     void Linea(QStringView texto);
     void Agregar(QStringView texto);
+    /// Characters that are bytes of the page already.
+    void Agregar_Bytes(QByteArrayView bytes);
+    void Agregar_Blancos(qsizetype cuantos);
     void Fin_De_Linea();
     /// Hands the last bytes over; to be called before the file counts as written.
     /// @throws as `Linea`

@@ -3,12 +3,12 @@
 #include "core/Ayuda.h"
 #include "core/Interfaz.h"
 #include "core/ui/Piezas.h"
+#include "export/ui/Avance_Dialogo.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -23,31 +23,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-// The bar counts in thousandths and moves a few times a second: rows come by the ten thousand.
-constexpr int TOPE_BARRA = 1000;
-constexpr qint64 MS_PASADA = 40;
-
-/// What the engine reports goes to the bar and the label.
-class Avance_Dialogo : public Avance_Exportar {
-public:
-    Avance_Dialogo(QProgressBar& b, QLabel& e) : barra(b), rotulo(e) { reloj.start(); }
-    void Etiqueta(const QString& texto) override { rotulo.setText(texto); }
-    void Maximo(qint64 nuevo) override { maximo = nuevo; }
-    void Valor(qint64 valor) override
-    {
-        if (valor > 0 && valor < maximo && reloj.elapsed() < MS_PASADA) return;
-        reloj.restart();
-        barra.setValue(maximo > 0 ? int(double(valor) / double(maximo) * TOPE_BARRA) : 0);
-        Interfaz_Actual().Repintar();
-    }
-
-private:
-    QProgressBar& barra;
-    QLabel& rotulo;
-    QElapsedTimer reloj;
-    qint64 maximo = 0;
-};
 
 void Llenar(QComboBox& combo, const QStringList& textos, int entrada)
 {
@@ -64,7 +39,7 @@ FrmExportar::FrmExportar() : Ventana(QStringLiteral("FrmExportar"))
     setWindowTitle(QStringLiteral("Guardar/Exportar Archivo"));
     Pb1 = new QProgressBar;
     Pb1->setObjectName(QStringLiteral("Pb1"));
-    Pb1->setRange(0, TOPE_BARRA);
+    Pb1->setRange(0, Avance_Dialogo::TOPE);
     Pb1->setTextVisible(false);
     LblMsg = Piezas::Rotulo({}, "LblMsg");
     BtnExportar = Piezas::Boton("BtnExportar", "&Exportar");

@@ -16,7 +16,8 @@ QList<int> Seleccion(const QListWidget& lista)
 {
     QList<int> filas;
     const auto elegidas = lista.selectionModel()->selectedRows();
-    for (const QModelIndex& i : elegidas) filas << i.row();
+    for (const QModelIndex& i : elegidas)
+        filas << i.row();
     return filas;
 }
 
@@ -47,11 +48,14 @@ Panel_Campos::Panel_Campos(const QString& subir, const QString& bajar)
 {
     List1 = Piezas::Lista("List1");
     List2 = Piezas::Lista("List2");
-    BtnAgregar = Piezas::Boton("BtnAgregar", "Agregar", "Pasa los campos marcados a los seleccionados");
-    BtnQuitar = Piezas::Boton("BtnQuitar", "Quitar", "Devuelve los campos marcados a los disponibles");
+    BtnAgregar =
+        Piezas::Boton("BtnAgregar", "Agregar", "Pasa los campos marcados a los seleccionados");
+    BtnQuitar =
+        Piezas::Boton("BtnQuitar", "Quitar", "Devuelve los campos marcados a los disponibles");
     BtnSubir = Piezas::Boton(subir, "▲", "Sube el campo marcado");
     BtnBajar = Piezas::Boton(bajar, "▼", "Baja el campo marcado");
-    for (QPushButton* const b : {BtnSubir, BtnBajar}) b->setFixedWidth(36);
+    for (QPushButton* const b : {BtnSubir, BtnBajar})
+        b->setFixedWidth(36);
     BtnSubir->setAccessibleName("Subir");
     BtnBajar->setAccessibleName("Bajar");
 

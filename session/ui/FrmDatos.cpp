@@ -3,12 +3,14 @@
 #include "core/Ayuda.h"
 #include "core/ModEstTotal.h"
 #include "core/ui/Dialogos.h"
-#include "core/ui/Modelo_Conjunto.h"
 #include "core/ui/Piezas.h"
 #include "session/ModVDatos.h"
+#include "session/ui/frmDescargas.h"
 #include "session/ui/FrmEditar.h"
+#include "session/ui/Modelo_Lista.h"
 #include "session/ui/Rejilla.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
@@ -18,12 +20,11 @@
 #include <QVBoxLayout>
 
 FrmDatos::FrmDatos()
-    : Ventana(QStringLiteral("FrmDatos")), Data1(new Modelo_Conjunto(this)),
-      DBGrid1(new QTableView), MSF(Hacer_Rejilla("MSF"))
+    : Ventana(QStringLiteral("FrmDatos")), Data1(new Modelo_Lista(this)), DBGrid1(new QTableView),
+      MSF(Hacer_Rejilla("MSF"))
 {
     Data1->setObjectName(QStringLiteral("Data1"));
     DBGrid1->setObjectName(QStringLiteral("DBGrid1"));
-    Data1->Poner_Columnas({{"Punto", "Punto"}, {"Campo", "Descr"}, {"DATOS", "datos"}});
     Atar_Rejilla(DBGrid1, Data1);
     DBGrid1->setColumnWidth(0, 120);
     DBGrid1->setColumnWidth(1, 180);
@@ -35,10 +36,13 @@ FrmDatos::FrmDatos()
     mitades->setStretchFactor(1, 1);
     mitades->setChildrenCollapsible(false);
     QPushButton* const BtnOperaciones = Piezas::Boton("BtnOperaciones", "&Ver con formato");
+    QPushButton* const BtnPlano =
+        Piezas::Boton("BtnPlano", "Ver &plano", "Dibuja los puntos de la sesión");
     QPushButton* const BtnCan = Piezas::Boton("BtnCan", "&Cerrar");
     QPushButton* const btnAyuda = Piezas::Boton("btnAyuda", "&Ayuda");
     auto* const botones = new QHBoxLayout;
     botones->addWidget(BtnOperaciones);
+    botones->addWidget(BtnPlano);
     botones->addStretch();
     botones->addWidget(BtnCan);
     botones->addWidget(btnAyuda);
@@ -48,8 +52,14 @@ FrmDatos::FrmDatos()
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     resize(780, 560);
     Poner_Botones(BtnOperaciones, BtnCan);
-    connect(Data1, &Modelo_Conjunto::reposicion, this, &FrmDatos::Data1_Reposition);
+    connect(Data1, &Modelo_Lista::reposicion, this, &FrmDatos::Data1_Reposition);
     connect(BtnOperaciones, &QPushButton::clicked, this, &FrmDatos::BtnOperaciones_Click);
+    const auto ver_plano = [this] { Puertas_De_Descargas().Ver_Plano(sesion_vista); };
+    auto* const accion = new QAction(QStringLiteral("Ver plano"), DBGrid1);
+    DBGrid1->addAction(accion);
+    DBGrid1->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(accion, &QAction::triggered, this, ver_plano);
+    connect(BtnPlano, &QPushButton::clicked, this, ver_plano);
     connect(BtnCan, &QPushButton::clicked, this, &Ventana::Ocultar);
     connect(btnAyuda, &QPushButton::clicked, this, [] { Mostrar_Ayuda_Web("vdatos"); });
 }
@@ -60,14 +70,15 @@ void FrmDatos::Ver(const Sesion_Elegida& sesion, const Vista_Datos& vista)
     setWindowTitle(vista.titulo);
     DBGrid1->setColumnHidden(0, !vista.columna_punto);
     DBGrid1->setColumnHidden(1, !vista.columna_descr);
-    Data1->Abrir(Base::Abrir(Fichero_MDB), vista.sql);
+    visor = std::make_unique<Visor_Registros>(*Base_Datos, sesion.maquina, sesion.ope);
+    Data1->Abrir(std::make_unique<Lista_Sesion>(Base::Abrir(Fichero_MDB), sesion));
     Mostrar_Modal();
 }
 
 void FrmDatos::Data1_Reposition()
 {
     Poner_Lineas(*MSF, "Campo", "Valor",
-                 Datos_Generales(*Base_Datos, sesion_vista, Data1->Texto("DatosG")));
+                 Datos_Generales(*Base_Datos, sesion_vista, Data1->Actual().datosg));
 }
 
 void FrmDatos::BtnOperaciones_Click()
@@ -76,8 +87,8 @@ void FrmDatos::BtnOperaciones_Click()
         Interfaz_Actual().Pitar();
         return;
     }
-    const auto vista = Ver_Registro(sesion_vista.maquina, sesion_vista.ope, Data1->Texto("Descr"),
-                                    Data1->Texto("Datos"), Data1->Texto("Punto"));
+    const Linea_De_Sesion linea = Data1->Actual();
+    const auto vista = visor->Ver(linea.datos, linea.punto);
     if (vista)
         Dialogos::Unico<FrmEditar>().Ver(*vista, [this](int paso) {
             if (Mover(paso)) BtnOperaciones_Click();
@@ -86,7 +97,7 @@ void FrmDatos::BtnOperaciones_Click()
 
 bool FrmDatos::Mover(int paso)
 {
-    const bool movido = Mover_Registro(Data1->Conjunto(), paso);
-    Data1->Tomar_Fila();
-    return movido;
+    if (Data1->Mover(paso)) return true;
+    Avisar_Fin_De_Datos();
+    return false;
 }

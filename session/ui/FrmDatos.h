@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/ui/Ventana.h"
-#include "session/Consultas_Sesion.h"
+#include "session/ModVDatos.h"
 
-class Modelo_Conjunto;
+class Modelo_Lista;
 class QTableView;
 class QTableWidget;
 
@@ -27,7 +27,8 @@ private:
     void Data1_Reposition();
 
     Sesion_Elegida sesion_vista;
-    Modelo_Conjunto* Data1;
+    std::unique_ptr<Visor_Registros> visor; // of that session
+    Modelo_Lista* Data1;
     QTableView* DBGrid1;
     QTableWidget* MSF;
 };

@@ -2,6 +2,7 @@
 
 #include "core/Ayuda.h"
 #include "core/Estado_Global.h"
+#include "core/Familia.h"
 #include "core/ModEstTotal.h"
 #include "core/Sucesos.h"
 #include "core/ui/Dialogos.h"
@@ -11,6 +12,8 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -33,9 +36,18 @@ frmDescargas::frmDescargas()
             {c.titulo, c.campo, [c](const QString& valor) { return Texto_Celda(c, valor); }});
     Data1->Poner_Columnas(columnas);
     Atar_Rejilla(DBGrid1, Data1);
+    LblAviso = Piezas::Rotulo(QString(), QStringLiteral("LblAviso"));
+    LblAviso->setWordWrap(true);
+    LblAviso->hide();
+    botonera = Hacer_Botones();
+    auto* const columna = new QVBoxLayout;
+    columna->addWidget(DBGrid1, 1);
+    columna->addWidget(LblAviso);
     auto* const caja = new QHBoxLayout(this);
-    caja->addWidget(DBGrid1, 1);
-    caja->addWidget(Hacer_Botones());
+    caja->addLayout(columna, 1);
+    caja->addWidget(botonera);
+    DBGrid1->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(DBGrid1, &QTableView::customContextMenuRequested, this, &frmDescargas::Menu_De_Rejilla);
     resize(880, 420);
     Recordar_Posicion("DESCARGAS", 1);
     connect(DBGrid1, &QTableView::doubleClicked, this, &frmDescargas::BtnVerdatos_Click);
@@ -64,8 +76,10 @@ QWidget* frmDescargas::Hacer_Botones()
          [this] { Exporta_o_Imprime_Formato_Existente("E"); }},
         {u"BtnPrn", u"&Imprimir Fichero", u"Imprime la sesión seleccionada",
          [this] { Exporta_o_Imprime_Formato_Existente("I"); }},
+        {u"BtnPlano", u"Ver &plano", u"Dibuja los puntos de la sesión seleccionada",
+         [this] { Con_Sesion(Puertas_De_Descargas().Ver_Plano); }},
         {u"BtnExpBru", u"Guardar Como...", u"Guardar datos del fichero seleccionado",
-         [this] { BtnExpBru_Click(); }},
+         [this] { Con_Sesion(Puertas_De_Descargas().Guardar_Bruto); }},
         {u"BtnImpBrud1", u"Importar de Disco", u"Importar Fichero en Bruto",
          [] { Puertas_De_Descargas().Importar_Bruto(); }},
         {u"BtnEliminar", u"&Borrar Fichero", u"Elimina la Sesión Seleccionada",
@@ -111,12 +125,51 @@ void frmDescargas::Exporta_o_Imprime_Formato_Existente(const QString& accion)
     Puertas_De_Descargas().Formato_Existente(Elegida(), accion);
 }
 
-void frmDescargas::BtnExpBru_Click()
+void frmDescargas::Con_Sesion(const Puerta& puerta)
 {
     if (const auto sesion = Elegida())
-        Puertas_De_Descargas().Guardar_Bruto(*sesion);
+        puerta(*sesion);
     else
         Interfaz_Actual().Pitar();
+}
+
+void frmDescargas::Poner_Aviso(const QString& texto)
+{
+    LblAviso->setText(texto);
+    LblAviso->setVisible(!texto.isEmpty());
+}
+
+// What the buttons do, and the plain raw dialogs.
+void frmDescargas::Menu_De_Rejilla(const QPoint& lugar)
+{
+    const Puertas_Descargas& puertas = Puertas_De_Descargas();
+    auto* const menu = new QMenu(this);
+    menu->setObjectName("Menu");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto hijos = botonera->findChildren<QPushButton*>();
+    for (QPushButton* const boton : hijos) {
+        QAction* const entrada = menu->addAction(boton->text());
+        entrada->setObjectName(QStringLiteral("Mnu") + boton->objectName());
+        connect(entrada, &QAction::triggered, boton, &QPushButton::click);
+    }
+    menu->addSeparator();
+    const std::tuple<const char*, const char*, Puerta> brutos[] = {
+        {"MnuExpBruto", "Exportar Fichero en &Bruto...", puertas.Exportar_En_Bruto},
+        {"MnuExpBrut", "Exportar Fichero a &Disco...", puertas.Exportar_A_Disco}};
+    for (const auto& [nombre, texto, puerta] : brutos) {
+        QAction* const entrada = menu->addAction(texto);
+        entrada->setObjectName(nombre);
+        connect(entrada, &QAction::triggered, this, [this, puerta] { Con_Sesion(puerta); });
+    }
+    const auto sesion = Elegida();
+    if (sesion && Familia_De(sesion->maquina).serie == Serie::A) {
+        QAction* const generales = menu->addAction("Incluir los registros generales");
+        generales->setObjectName("MnuGenerales");
+        generales->setCheckable(true);
+        generales->setChecked(puertas.Incluir_Generales());
+        connect(generales, &QAction::triggered, this, puertas.Poner_Incluir_Generales);
+    }
+    menu->popup(DBGrid1->viewport()->mapToGlobal(lugar));
 }
 
 void frmDescargas::BtnEliminar_Click()

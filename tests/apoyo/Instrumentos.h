@@ -20,8 +20,7 @@ void Poner_Registro(const Base_De_Prueba& p, const QString& maquina, const QList
 
 /// A small instrument of each family, with rows of the tests' own:
 /// - KRT300 and PX7, operations 0 and 1: records x, y, z (coordinates), c (code), H (angle), and
-/// the
-///   general record E (station and instrument height);
+///   the general record E (station and instrument height);
 /// - KRT800: STN (general, values that hold on), XYZ and SS for operation 1, "Punto" for 4,
 ///   "Per.Trans" for 7, blank-separated EJE for 6;
 /// - NV400: lines g and w.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QTest>
 #include <functional>
+#include <QTest>
 #include <vector>
 
 /// One test class of a test program, by name. `PRUEBA(TestX)` at the end of a test file adds it;

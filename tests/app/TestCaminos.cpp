@@ -1,8 +1,8 @@
 #include "core/Ansi.h"
 #include "core/Familia.h"
 #include "core/Ficheros.h"
-#include "core/Sumas.h"
 #include "core/jet/Base.h"
+#include "core/Sumas.h"
 #include "tests/apoyo/Prueba.h"
 
 #include <QDirIterator>
@@ -80,14 +80,17 @@ TestCaminos::Salida TestCaminos::Cli(const QStringList& palabras)
         return {-1, {}, "the program did not end"};
     }
     return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -2,
-            QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
+            QString::fromUtf8(p.readAllStandardOutput()),
+            QString::fromUtf8(p.readAllStandardError())};
 }
 
-void TestCaminos::Simular(const QString& maquina, const QString& libreta, const QStringList& opciones)
+void TestCaminos::Simular(const QString& maquina, const QString& libreta,
+                          const QStringList& opciones)
 {
     simulador = std::make_unique<QProcess>();
     simulador->start(INSTALACION "/miraldos-sim",
-                     QStringList{maquina, "--enlace", Ruta("com1"), "--enviar", libreta} + opciones);
+                     QStringList{maquina, "--enlace", Ruta("com1"), "--enviar", libreta} +
+                         opciones);
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(Ruta("com1")), 10000);
 }
 
@@ -107,8 +110,8 @@ QStringList TestCaminos::Registros_De(const QString& libreta, const QString& maq
     if (Familia_De(maquina).serie != Serie::A) return registros;
     const auto base = Base::Abrir(Ruta("MDB/EstTotal.mdb"));
     QString generales;
-    for (Recorrido r = base->Recorrer("SELECT ID FROM Identificadores WHERE tipo = 'G' AND Nombre = ?",
-                                      {maquina});
+    for (Recorrido r = base->Recorrer(
+             "SELECT ID FROM Identificadores WHERE tipo = 'G' AND Nombre = ?", {maquina});
          r.Siguiente();)
         generales += r.Texto(0);
     registros.removeIf([&](const QString& r) { return r[0] == u'+' || generales.contains(r[0]); });
@@ -150,7 +153,8 @@ QStringList TestCaminos::Diarios() const
 static void Sin_Relleno(QStringList& lineas)
 {
     if (lineas.isEmpty()) return;
-    while (lineas.last().endsWith(u' ')) lineas.last().chop(1);
+    while (lineas.last().endsWith(u' '))
+        lineas.last().chop(1);
 }
 
 void TestCaminos::cada_familia_descarga_su_libreta_data()
@@ -180,7 +184,8 @@ void TestCaminos::cada_familia_descarga_su_libreta()
     Sin_Relleno(guardados);
     Sin_Relleno(esperados);
     if (Familia_De(maquina).serie == Serie::Nivel)
-        for (QString& linea : guardados) linea.chop(2); // checksum and its comma stay in the line
+        for (QString& linea : guardados)
+            linea.chop(2); // checksum and its comma stay in the line
     QCOMPARE(guardados, esperados);
     QCOMPARE(Diarios(), QStringList());
 }
@@ -191,11 +196,16 @@ void TestCaminos::las_averias_que_se_arreglan_no_se_notan_data()
     QTest::addColumn<QString>("libreta");
     QTest::addColumn<QStringList>("averias");
     const QStringList suma{"--fallo", "suma:2", "--fallo", "suma:3x4"};
-    QTest::newRow("sumas malas") << "KRT300" << "campo_krt300.txt" << suma;
-    QTest::newRow("byte a byte") << "PX7" << "campo_px7.txt" << QStringList{"--fallo", "trozos:1"};
-    QTest::newRow("ruido") << "KRT300" << "campo_krt300.txt" << QStringList{"--fallo", "ruido:0"};
-    QTest::newRow("CR LF") << "KRT300" << "campo_krt300.txt" << QStringList{"--crlf"};
-    QTest::newRow("nivel, sumas malas") << "NV400" << "campo_nv400.txt" << suma;
+    QTest::newRow("sumas malas") << "KRT300"
+                                 << "campo_krt300.txt" << suma;
+    QTest::newRow("byte a byte") << "PX7"
+                                 << "campo_px7.txt" << QStringList{"--fallo", "trozos:1"};
+    QTest::newRow("ruido") << "KRT300"
+                           << "campo_krt300.txt" << QStringList{"--fallo", "ruido:0"};
+    QTest::newRow("CR LF") << "KRT300"
+                           << "campo_krt300.txt" << QStringList{"--crlf"};
+    QTest::newRow("nivel, sumas malas") << "NV400"
+                                        << "campo_nv400.txt" << suma;
 }
 
 void TestCaminos::las_averias_que_se_arreglan_no_se_notan()
@@ -208,7 +218,8 @@ void TestCaminos::las_averias_que_se_arreglan_no_se_notan()
     QStringList guardados = Guardados("1");
     Sin_Relleno(guardados);
     if (Familia_De(maquina).serie == Serie::Nivel)
-        for (QString& linea : guardados) linea.chop(2);
+        for (QString& linea : guardados)
+            linea.chop(2);
     QStringList esperados = Registros_De(Libreta(libreta), maquina);
     Sin_Relleno(esperados);
     QCOMPARE(guardados, esperados);
@@ -246,7 +257,8 @@ void TestCaminos::el_cable_cortado_deja_un_comienzo_que_se_rescata()
     QFETCH(int, bytes);
     Simular(maquina, Libreta(libreta),
             // Paced, since what a pseudo-terminal holds when it is cut is lost with it.
-            {"--fallo", QStringLiteral("corte:%1").arg(bytes), "--retardo", "300", "--baudios", "4800"});
+            {"--fallo", QStringLiteral("corte:%1").arg(bytes), "--retardo", "300", "--baudios",
+             "4800"});
     const Salida s = Descargar(maquina, ope);
     QCOMPARE(s.estado, 1);
     QCOMPARE(s.texto, QString());
@@ -260,7 +272,8 @@ void TestCaminos::el_cable_cortado_deja_un_comienzo_que_se_rescata()
     QCOMPARE(r.estado, 0);
     QStringList guardados = Guardados(r.texto);
     if (Familia_De(maquina).serie == Serie::Nivel)
-        for (QString& linea : guardados) linea.chop(2);
+        for (QString& linea : guardados)
+            linea.chop(2);
     const QStringList esperados = Registros_De(Libreta(libreta), maquina);
     QVERIFY(!guardados.isEmpty() && guardados.size() < esperados.size());
     QCOMPARE(guardados, esperados.first(guardados.size()));
@@ -272,26 +285,29 @@ void TestCaminos::matado_conserva_lo_de_hace_un_segundo()
     constexpr int BAUDIOS = 4800, MS = 2500;
     Simular("KRT300", Libreta("jornada_krt300.txt"), {"--baudios", QString::number(BAUDIOS)});
     QProcess p;
-    p.start(INSTALACION "/miraldos-cli", {"--dir", dir, "descargar", "--modelo", "KRT300", "--ope", "0",
-                                          "--puerto", Ruta("com1"), "--nombre", "Obra"});
+    p.start(INSTALACION "/miraldos-cli", {"--dir", dir, "descargar", "--modelo", "KRT300", "--ope",
+                                          "0", "--puerto", Ruta("com1"), "--nombre", "Obra"});
     QTRY_COMPARE_WITH_TIMEOUT(Diarios().size(), 1, 20000);
     QTest::qWait(MS);
     p.kill();
     QVERIFY(p.waitForFinished());
 
     QStringList todos;
-    const QString texto = QString::fromUtf8(Ficheros::Leer(Libreta("jornada_krt300.txt"))).remove(u'\r');
+    const QString texto =
+        QString::fromUtf8(Ficheros::Leer(Libreta("jornada_krt300.txt"))).remove(u'\r');
     for (const QString& linea : texto.split(u'\n'))
         if (!linea.isEmpty() && !linea.startsWith(u'#')) todos << linea;
     const QByteArray diario = Ficheros::Leer(Diarios().first());
-    QVERIFY2(diario.size() >= BAUDIOS / 10 * (MS - 1000) / 1000, qPrintable(QString::number(diario.size())));
+    QVERIFY2(diario.size() >= BAUDIOS / 10 * (MS - 1000) / 1000,
+             qPrintable(QString::number(diario.size())));
     QVERIFY(En_El_Cable(todos).startsWith(diario));
 
-    const Salida r = Cli({"rescatar", Diarios().first(), "--modelo", "KRT300", "--ope", "0", "--nombre",
-                          "Rescatada"});
+    const Salida r = Cli({"rescatar", Diarios().first(), "--modelo", "KRT300", "--ope", "0",
+                          "--nombre", "Rescatada"});
     QCOMPARE(r.estado, 0);
     const QStringList guardados = Guardados(r.texto);
-    QCOMPARE(guardados, Registros_De(Libreta("jornada_krt300.txt"), "KRT300").first(guardados.size()));
+    QCOMPARE(guardados,
+             Registros_De(Libreta("jornada_krt300.txt"), "KRT300").first(guardados.size()));
     QVERIFY(guardados.size() > 5);
 }
 
@@ -303,7 +319,8 @@ void TestCaminos::el_silencio_se_dice()
     const Salida s = Descargar("KRT300", 0);
     QCOMPARE(s.estado, 1);
     QVERIFY(reloj.elapsed() >= 4900);
-    QVERIFY(s.errores.contains("Error de comunicación ,compruebe que el cable esta bien conectado"));
+    QVERIFY(
+        s.errores.contains("Error de comunicación ,compruebe que el cable esta bien conectado"));
     QCOMPARE(Diarios(), QStringList());
 }
 
@@ -311,16 +328,19 @@ void TestCaminos::un_puerto_que_no_esta_se_dice()
 {
     const Salida s = Descargar("KRT300", 0);
     QCOMPARE(s.estado, 1);
-    QVERIFY(s.errores.startsWith("Se produjo un error al Abrir el Puerto; revise la configuración\n("));
-    QVERIFY2(s.errores.contains("No se encuentra el dispositivo " + Ruta("com1")), qPrintable(s.errores));
+    QVERIFY(
+        s.errores.startsWith("Se produjo un error al Abrir el Puerto; revise la configuración\n("));
+    QVERIFY2(s.errores.contains("No se encuentra el dispositivo " + Ruta("com1")),
+             qPrintable(s.errores));
 }
 
 void TestCaminos::un_puerto_ocupado_se_dice()
 {
     Simular("KRT300", Libreta("jornada_krt300.txt"), {"--baudios", "1200"});
     QProcess primero;
-    primero.start(INSTALACION "/miraldos-cli", {"--dir", dir, "descargar", "--modelo", "KRT300", "--ope",
-                                                "0", "--puerto", Ruta("com1"), "--nombre", "Obra"});
+    primero.start(INSTALACION "/miraldos-cli",
+                  {"--dir", dir, "descargar", "--modelo", "KRT300", "--ope", "0", "--puerto",
+                   Ruta("com1"), "--nombre", "Obra"});
     QTRY_COMPARE_WITH_TIMEOUT(Diarios().size(), 1, 20000);
     const Salida s = Descargar("KRT300", 0);
     QCOMPARE(s.estado, 1);

@@ -1,6 +1,6 @@
 #include "core/Ficheros.h"
-#include "tests/app/Correr.h"
 #include "tests/apoyo/Prueba.h"
+#include "tests/app/Correr.h"
 
 namespace {
 

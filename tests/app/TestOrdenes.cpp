@@ -12,7 +12,8 @@ private Q_SLOTS:
     void los_argumentos_se_cortan();
 };
 
-static int Correr(const QStringList& palabras, QByteArray* salida = nullptr, QByteArray* errores = nullptr)
+static int Correr(const QStringList& palabras, QByteArray* salida = nullptr,
+                  QByteArray* errores = nullptr)
 {
     QBuffer s, e;
     s.open(QIODevice::WriteOnly);
@@ -48,7 +49,8 @@ void TestOrdenes::la_ayuda_lista_cada_orden()
 {
     QByteArray salida;
     QCOMPARE(Correr({"--dir", "/x", "ayuda", "--si"}, &salida), int(HECHO));
-    for (const Orden& o : Ordenes()) QVERIFY(salida.contains(o.uso.toUtf8()));
+    for (const Orden& o : Ordenes())
+        QVERIFY(salida.contains(o.uso.toUtf8()));
     // The kinds and the separators are those of their tables.
     QVERIFY(salida.contains("  exportar ID --formato NOMBRE --tipo txf|txt|xls|mdb --salida "
                             "FICHERO [--separador espacio|coma|tabulacion] "

@@ -31,11 +31,15 @@ private Q_SLOTS:
     void un_formato_repetido_no_se_guarda();
     void borrar_quita_la_sesion_con_permiso();
     void compactar_deja_su_copia();
+    void recuperar_funciona_con_la_base_danada();
     void un_ini_que_falta_se_dice();
 
 private:
     int Correr(const QStringList& palabras);
-    QStringList Lineas() const { return QString::fromUtf8(salida).split(u'\n', Qt::SkipEmptyParts); }
+    QStringList Lineas() const
+    {
+        return QString::fromUtf8(salida).split(u'\n', Qt::SkipEmptyParts);
+    }
 
     std::unique_ptr<Base_De_Prueba> base;
     QByteArray salida, errores;
@@ -47,14 +51,21 @@ void TestOrdenesSesion::init()
     Poner_Instrumentos(*base);
     base->Escribir("EstTotal.ini", "KRTNOM=KRT300-1\r\nKRT=KRT300\r\nFIJO=True\r\n");
     const QStringList campos = {"Punto", "Coordenada X", "Coordenada Y", "Coordenada Z"};
-    base->Fila("Formatos1", {{"Nombre", "NXYZ"}, {"Maquina", "KRT300"}, {"cabeceras", "NO"},
-                             {"Modificable", "SI"}, {"ope", 1}, {"Ids", "x y z "}});
+    base->Fila("Formatos1", {{"Nombre", "NXYZ"},
+                             {"Maquina", "KRT300"},
+                             {"cabeceras", "NO"},
+                             {"Modificable", "SI"},
+                             {"ope", 1},
+                             {"Ids", "x y z "}});
     for (qsizetype i = 0; i < campos.size(); ++i)
-        base->Fila("Formatos2", {{"Nombre", "NXYZ"}, {"Maquina", "KRT300"}, {"sec", i},
-                                 {"Campo", campos[i]}});
+        base->Fila("Formatos2",
+                   {{"Nombre", "NXYZ"}, {"Maquina", "KRT300"}, {"sec", i}, {"Campo", campos[i]}});
     Poner_Sesion(*base, 1, "KRT300", 1,
-                 {{"P1", " x+001234567"}, {"P1", " y-000000500"}, {"P1", " z+000010250"},
-                  {"A`P20", " x+000001000", "EE1|x"}, {"A`P20", " y+000002000"}});
+                 {{"P1", " x+001234567"},
+                  {"P1", " y-000000500"},
+                  {"P1", " z+000010250"},
+                  {"A`P20", " x+000001000", "EE1|x"},
+                  {"A`P20", " y+000002000"}});
     Poner_Sesion(*base, 2, "KRT300", 1, {});
 }
 
@@ -82,8 +93,8 @@ void TestOrdenesSesion::las_listas_tienen_sus_columnas()
 {
     QCOMPARE(Correr({"modelos"}), int(HECHO));
     QCOMPARE(Lineas().size(), 5);
-    QCOMPARE(Lineas().mid(0, 2), (QStringList{"Nombre\tClave\tVelocidades",
-                                              "KRT300-1\tKRT300\t1200,9600"}));
+    QCOMPARE(Lineas().mid(0, 2),
+             (QStringList{"Nombre\tClave\tVelocidades", "KRT300-1\tKRT300\t1200,9600"}));
     QCOMPARE(Correr({"operaciones", "--modelo", "KRT300-1"}), int(HECHO));
     QCOMPARE(Lineas(), (QStringList{"OPE\tTipOpe\tDESOPE", "0\tD\tDatos de medición",
                                     "1\tD\tDatos de coordenadas", "1\tC\tDatos de coordenadas",
@@ -91,8 +102,9 @@ void TestOrdenesSesion::las_listas_tienen_sus_columnas()
     QCOMPARE(Correr({"operaciones", "--modelo", "Nadie"}), int(RECHAZADO));
     QVERIFY(errores.contains("No existe el modelo Nadie"));
     QCOMPARE(Correr({"formatos", "--maquina", "KRT300"}), int(HECHO));
-    QCOMPARE(Lineas(), (QStringList{"Nombre\tMaquina\tOPE\tModificable\tCampos",
-                                    "NXYZ\tKRT300\t1\tSI\tPunto,Coordenada X,Coordenada Y,Coordenada Z"}));
+    QCOMPARE(Lineas(),
+             (QStringList{"Nombre\tMaquina\tOPE\tModificable\tCampos",
+                          "NXYZ\tKRT300\t1\tSI\tPunto,Coordenada X,Coordenada Y,Coordenada Z"}));
     QCOMPARE(Correr({"formatos", "--maquina", "OTRA"}), int(RECHAZADO));
     QCOMPARE(Correr({"formatos", "--maquina"}), int(MAL_USO));
 }
@@ -101,7 +113,8 @@ void TestOrdenesSesion::las_sesiones_van_de_la_ultima_a_la_primera()
 {
     QCOMPARE(Correr({"sesiones"}), int(HECHO));
     const QStringList lineas = Lineas();
-    QCOMPARE(lineas[0], QString("Id\tFecha\tHora\tOPE\tTipo Fichero\tNombre de Sesión\tAparato\tNº Puntos"));
+    QCOMPARE(lineas[0],
+             QString("Id\tFecha\tHora\tOPE\tTipo Fichero\tNombre de Sesión\tAparato\tNº Puntos"));
     QCOMPARE(lineas.size(), 3);
     QVERIFY(lineas[1].startsWith("2\t"));
     QVERIFY(lineas[2].startsWith("1\t"));
@@ -115,8 +128,8 @@ void TestOrdenesSesion::ver_ensena_las_lineas_y_sus_uniones()
     Base_Datos->Execute("UPDATE Registros SET DatosG = ? WHERE Secuencia = 1",
                         {QString("Ea") + QChar(6) + "b" + QChar(5) + "c"});
     QCOMPARE(Correr({"ver", "1"}), int(HECHO));
-    QCOMPARE(Lineas().mid(0, 2), (QStringList{"Secuencia\tPunto\tDatos\tDatosG",
-                                              "1\tP1\t x+001234567\tEa|b=c"}));
+    QCOMPARE(Lineas().mid(0, 2),
+             (QStringList{"Secuencia\tPunto\tDatos\tDatosG", "1\tP1\t x+001234567\tEa|b=c"}));
     QCOMPARE(Lineas().size(), 6);
     QCOMPARE(Correr({"ver", "99"}), int(RECHAZADO));
     QVERIFY(errores.contains("No existe la sesión 99"));
@@ -127,18 +140,18 @@ void TestOrdenesSesion::ver_campos_ensena_lo_que_el_visor()
 {
     Desp_X = "5";
     QCOMPARE(Correr({"ver", "1", "--campos"}), int(HECHO));
-    QCOMPARE(Lineas().mid(0, 4), (QStringList{"Secuencia\tPunto\tCampo\tValor",
-                                              "1\tP1\tCoordenada Y\t1234.567",
-                                              "2\tP1\tCoordenada X\t-0.500",
-                                              "3\tP1\tCoordenada Z\t10.250"}));
+    QCOMPARE(Lineas().mid(0, 4),
+             (QStringList{"Secuencia\tPunto\tCampo\tValor", "1\tP1\tCoordenada Y\t1234.567",
+                          "2\tP1\tCoordenada X\t-0.500", "3\tP1\tCoordenada Z\t10.250"}));
 }
 
 void TestOrdenesSesion::exportar_escribe_el_texto_data()
 {
     QTest::addColumn<QStringList>("opciones");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("alineado") << QStringList{"--tipo", "txf"}
-                              << QByteArray("P1  -0.500 1234.567 10.250\r\nP20 2.000  1.000          \r\n");
+    QTest::newRow("alineado")
+        << QStringList{"--tipo", "txf"}
+        << QByteArray("P1  -0.500 1234.567 10.250\r\nP20 2.000  1.000          \r\n");
     QTest::newRow("el tipo, con mayúsculas")
         << QStringList{"--tipo", "Txt", "--separador", "coma"}
         << QByteArray("P1 ,-0.500,1234.567,10.250\r\nP20,2.000 ,1.000   \r\n");
@@ -148,18 +161,21 @@ void TestOrdenesSesion::exportar_escribe_el_texto_data()
                       "P1   ,-0.500      ,1234.567    ,10.250      \r\n"
                       "P20  ,2.000       ,1.000       ,            \r\n");
     QTest::newRow("separado") << QStringList{"--tipo", "txt", "--separador", "tabulacion"}
-                              << QByteArray("P1 \t-0.500\t1234.567\t10.250\r\nP20\t2.000 \t1.000   \r\n");
+                              << QByteArray(
+                                     "P1 \t-0.500\t1234.567\t10.250\r\nP20\t2.000 \t1.000   \r\n");
     QTest::newRow("desplazado") << QStringList{"--tipo", "txt", "--desplazamiento", "100.5,-2,0"}
-                                << QByteArray("P1  100.000 1232.567 10.250\r\nP20 102.500 -1.000  \r\n");
+                                << QByteArray(
+                                       "P1  100.000 1232.567 10.250\r\nP20 102.500 -1.000  \r\n");
 }
 
 void TestOrdenesSesion::exportar_escribe_el_texto()
 {
     QFETCH(QStringList, opciones);
     QFETCH(QByteArray, bytes);
-    QCOMPARE(Correr(QStringList{"exportar", "1", "--formato", "NXYZ", "--salida", base->Ruta("s.txt")} +
-                    opciones),
-             int(HECHO));
+    QCOMPARE(
+        Correr(QStringList{"exportar", "1", "--formato", "NXYZ", "--salida", base->Ruta("s.txt")} +
+               opciones),
+        int(HECHO));
     QCOMPARE(base->Leer("s.txt"), bytes);
 }
 
@@ -230,8 +246,8 @@ void TestOrdenesSesion::el_nivel_se_formatea_y_se_exporta()
 
 void TestOrdenesSesion::exportar_pregunta_antes_de_pisar()
 {
-    const QStringList orden{"exportar", "1", "--formato", "NXYZ", "--tipo", "txf", "--salida",
-                            base->Ruta("s.txt")};
+    const QStringList orden{"exportar", "1",   "--formato", "NXYZ",
+                            "--tipo",   "txf", "--salida",  base->Ruta("s.txt")};
     base->Escribir("s.txt", "mio");
     QCOMPARE(Correr(orden), int(RECHAZADO));
     QCOMPARE(base->Leer("s.txt"), QByteArray("mio"));
@@ -246,7 +262,8 @@ void TestOrdenesSesion::exportar_dice_que_falta_data()
     QTest::addColumn<int>("estado");
     QTest::addColumn<QString>("dice");
     const auto con = [](const QString& id, const QString& formato, const QString& tipo) {
-        return QStringList{"exportar", id, "--formato", formato, "--tipo", tipo, "--salida", "s.txt"};
+        return QStringList{"exportar", id,   "--formato", formato,
+                           "--tipo",   tipo, "--salida",  "s.txt"};
     };
     QTest::newRow("formato") << con("1", "NADA", "txf") << int(RECHAZADO)
                              << "No existe el formato NADA para la sesión; los hay: NXYZ, CERRADO";
@@ -274,15 +291,17 @@ void TestOrdenesSesion::exportar_dice_que_falta_data()
         << con("1", "CERRADO", "txf") + QStringList{"--titulos", "si"} << int(RECHAZADO)
         << "El formato CERRADO no es modificable: sus títulos no se cambian";
     QTest::newRow("separador") << con("1", "NXYZ", "txf") + QStringList{"--separador", "raya"}
-                               << int(MAL_USO) << "El separador es espacio, coma o tabulacion: raya";
-    QTest::newRow("desplazamiento") << con("1", "NXYZ", "txf") + QStringList{"--desplazamiento", "1,2"}
-                                    << int(MAL_USO) << "El desplazamiento se escribe X,Y,Z: 1,2";
+                               << int(MAL_USO)
+                               << "El separador es espacio, coma o tabulacion: raya";
+    QTest::newRow("desplazamiento")
+        << con("1", "NXYZ", "txf") + QStringList{"--desplazamiento", "1,2"} << int(MAL_USO)
+        << "El desplazamiento se escribe X,Y,Z: 1,2";
     QTest::newRow("letras") << con("1", "NXYZ", "txf") + QStringList{"--desplazamiento", "1,a,2"}
                             << int(MAL_USO) << "El desplazamiento \"a\" no es un número";
-    QTest::newRow("carpeta") << QStringList{"exportar", "1", "--formato", "NXYZ", "--tipo", "txf",
-                                            "--salida", "/no/existe/s.txt"}
-                             << int(RECHAZADO)
-                             << "Se produjo un error al Guardar un Fichero de Texto formateado\n(76)";
+    QTest::newRow("carpeta")
+        << QStringList{"exportar", "1",   "--formato", "NXYZ",
+                       "--tipo",   "txf", "--salida",  "/no/existe/s.txt"}
+        << int(RECHAZADO) << "Se produjo un error al Guardar un Fichero de Texto formateado\n(76)";
 }
 
 void TestOrdenesSesion::exportar_dice_que_falta()
@@ -300,13 +319,15 @@ void TestOrdenesSesion::exportar_dice_que_falta()
 
 void TestOrdenesSesion::un_formato_se_crea_y_se_borra()
 {
-    const QStringList nuevo{"formato-nuevo", "--maquina", "KRT300", "--ope", "1", "--nombre", "Mío",
-                            "--campos", "Punto, Coordenada Z", "--titulos"};
+    const QStringList nuevo{
+        "formato-nuevo", "--maquina",           "KRT300",   "--ope", "1", "--nombre", "Mío",
+        "--campos",      "Punto, Coordenada Z", "--titulos"};
     QCOMPARE(Correr(nuevo), int(HECHO));
     Correr({"formatos", "--maquina", "KRT300"});
     QVERIFY(Lineas().contains("Mío\tKRT300\t1\tSI\tPunto,Coordenada Z"));
     QCOMPARE(Correr({"formato-borrar", "--maquina", "KRT300", "--nombre", "Mío"}), int(RECHAZADO));
-    QCOMPARE(Correr({"formato-borrar", "--maquina", "KRT300", "--nombre", "Mío", "--si"}), int(HECHO));
+    QCOMPARE(Correr({"formato-borrar", "--maquina", "KRT300", "--nombre", "Mío", "--si"}),
+             int(HECHO));
     QCOMPARE(Correr({"formato-borrar", "--maquina", "KRT300", "--nombre", "Mío", "--si"}),
              int(RECHAZADO));
     QCOMPARE(Correr(nuevo.first(7) + QStringList{"--nombre", "Otro", "--campos", "Punto,Nada"}),
@@ -321,10 +342,18 @@ void TestOrdenesSesion::un_formato_se_crea_y_se_borra()
 
 void TestOrdenesSesion::un_formato_con_apostrofo_no_tapa_los_demas()
 {
-    base->Fila("Formatos1", {{"Nombre", "D'Or"}, {"Maquina", "KRT300"}, {"cabeceras", "NO"},
-                             {"Modificable", "SI"}, {"ope", 1}, {"Ids", "x "}});
-    base->Fila("Formatos1", {{"Nombre", "Z"}, {"Maquina", "KRT300"}, {"cabeceras", "NO"},
-                             {"Modificable", "NO"}, {"ope", 1}, {"Ids", "x "}});
+    base->Fila("Formatos1", {{"Nombre", "D'Or"},
+                             {"Maquina", "KRT300"},
+                             {"cabeceras", "NO"},
+                             {"Modificable", "SI"},
+                             {"ope", 1},
+                             {"Ids", "x "}});
+    base->Fila("Formatos1", {{"Nombre", "Z"},
+                             {"Maquina", "KRT300"},
+                             {"cabeceras", "NO"},
+                             {"Modificable", "NO"},
+                             {"ope", 1},
+                             {"Ids", "x "}});
     QCOMPARE(Correr({"formatos", "--maquina", "KRT300"}), int(HECHO));
     QCOMPARE(Lineas().mid(2), (QStringList{"D'Or\tKRT300\t1\tSI\t", "Z\tKRT300\t1\tNO\t"}));
     QVERIFY2(errores.startsWith("D'Or: "), errores.constData());
@@ -355,6 +384,32 @@ void TestOrdenesSesion::compactar_deja_su_copia()
     Base_Datos.reset();
     QCOMPARE(Correr({"compactar"}), int(HECHO));
     QVERIFY(QFile::exists(base->Ruta("MDB/esttotal.bak")));
+    QCOMPARE(Correr({"sesiones"}), int(HECHO));
+    QCOMPARE(Lineas().size(), 3);
+}
+
+void TestOrdenesSesion::recuperar_funciona_con_la_base_danada()
+{
+    Base_Datos.reset();
+    QCOMPARE(Correr({"recuperar"}), int(RECHAZADO));
+    QVERIFY(errores.contains("No hay ninguna copia"));
+    QCOMPARE(Correr({"compactar"}), int(HECHO));
+    base->Escribir("MDB/EstTotal.mdb", QByteArray("rota").repeated(3000));
+    QCOMPARE(Correr({"sesiones"}), int(RECHAZADO));
+    QVERIFY(errores.contains("La base de datos está dañada"));
+    QVERIFY(errores.contains("(3343)"));
+    QCOMPARE(Correr({"base"}), int(HECHO));
+    QCOMPARE(Lineas()[0], "Base de datos: " + Fichero_MDB);
+    QCOMPARE(Lineas().size(), 4);
+    QVERIFY(Lineas()[2].endsWith("\tsana"));
+    base->Escribir("mala.bak", "rota");
+    QCOMPARE(Correr({"recuperar", base->Ruta("mala.bak")}), int(RECHAZADO));
+    QVERIFY(errores.contains("(3343)"));
+    QCOMPARE(Correr({"recuperar", base->Ruta("nada.bak")}), int(RECHAZADO));
+    QCOMPARE(Correr({"recuperar", "a", "b"}), int(MAL_USO));
+    QCOMPARE(Correr({"recuperar"}), int(HECHO));
+    QCOMPARE(Lineas().size(), 2);
+    QVERIFY(QFile::exists(Lineas()[1].mid(int(qstrlen("La de antes: ")))));
     QCOMPARE(Correr({"sesiones"}), int(HECHO));
     QCOMPARE(Lineas().size(), 3);
 }

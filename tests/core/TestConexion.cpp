@@ -57,6 +57,10 @@ private Q_SLOTS:
     void un_recorrido_pasa_una_vez();
     void la_version_crece_con_cada_escritura();
     void una_carpeta_con_blancos_y_acentos();
+    void en_la_red_sin_diario();
+    void en_la_red_no_se_escribe_en_la_sustituida();
+    void los_sistemas_de_red_data();
+    void los_sistemas_de_red();
 };
 
 void TestConexion::lo_que_falta_es_3024()
@@ -246,6 +250,7 @@ void TestConexion::otro_programa_que_escribe_es_3045()
 {
     const Base_De_Prueba p;
     Otro_Programa otro(Fichero_MDB);
+    sqlite3_busy_timeout(Conexion::De(Fichero_MDB)->Manejador(), 100);
     QCOMPARE(otro.Ejecutar("BEGIN IMMEDIATE"), SQLITE_OK);
     QVERIFY_ERROR(3045, p.Fila("KRT", {{"Nombre", "a"}}));
     QCOMPARE(Base_Datos->OpenRecordset("KRT").RecordCount(), 0);
@@ -449,6 +454,74 @@ void TestConexion::una_carpeta_con_blancos_y_acentos()
     QVERIFY(plataforma::Reemplazar(carpeta + "/otra.mdb", carpeta + "/EstTotal.mdb"));
     QCOMPARE(Base::Abrir(carpeta + "/EstTotal.mdb")->OpenRecordset("KRT").RecordCount(), 1);
     QVERIFY(!plataforma::Reemplazar(carpeta + "/otra.mdb", carpeta + "/EstTotal.mdb"));
+}
+
+namespace {
+
+// The temporary folder passes for another machine's.
+class En_La_Red {
+public:
+    En_La_Red()
+    {
+        plataforma::Poner_Sistema_De_Ficheros([](const QString&) { return QByteArray("nfs4"); });
+    }
+    ~En_La_Red() { plataforma::Poner_Sistema_De_Ficheros(nullptr); }
+    En_La_Red(const En_La_Red&) = delete;
+    En_La_Red& operator=(const En_La_Red&) = delete;
+};
+
+} // namespace
+
+void TestConexion::en_la_red_sin_diario()
+{
+    const Base_De_Prueba p;
+    p.Fila("KRT", {{"Nombre", "a"}});
+    Base_Datos.reset();
+    const En_La_Red red;
+    // A file that a program of this machine has left with its log.
+    Base_Datos = Base::Abrir(Fichero_MDB);
+    QCOMPARE(p.Columna("PRAGMA journal_mode"), QStringList{"delete"});
+    QCOMPARE(p.Columna("PRAGMA synchronous"), QStringList{"2"});
+    p.Fila("KRT", {{"Nombre", "b"}});
+    QCOMPARE(QDir(Ruta_MDB).entryList(QDir::Files), QStringList{"EstTotal.mdb"});
+    // Nobody is kept out between two transactions.
+    QCOMPARE(Otro_Programa(Fichero_MDB).Ejecutar("INSERT INTO KRT (Nombre) VALUES ('c')"),
+             SQLITE_OK);
+    QCOMPARE(p.Columna("SELECT Nombre FROM KRT"), (QStringList{"a", "b", "c"}));
+    Base::Compactar(Fichero_MDB, p.Ruta("x.mdb"));
+    QCOMPARE(p.Columna("PRAGMA journal_mode"), QStringList{"delete"});
+    QCOMPARE(Base::Abrir(p.Ruta("x.mdb"))->OpenRecordset("KRT").RecordCount(), 3);
+}
+
+void TestConexion::en_la_red_no_se_escribe_en_la_sustituida()
+{
+    const Base_De_Prueba p;
+    Base_Datos.reset();
+    const En_La_Red red;
+    Base_Datos = Base::Abrir(Fichero_MDB);
+    // Another program compacts meanwhile: nothing keeps it from that there.
+    QVERIFY(QFile::copy(Fichero_MDB, p.Ruta("MDB/otra.mdb")));
+    QVERIFY(plataforma::Reemplazar(p.Ruta("MDB/otra.mdb"), Fichero_MDB));
+    p.Fila("KRT", {{"Nombre", "a"}});
+    Base_Datos->Execute("INSERT INTO KRT (Nombre) VALUES ('b')");
+    Base_Datos.reset();
+    QCOMPARE(Base::Abrir(Fichero_MDB)->OpenRecordset("KRT").RecordCount(), 2);
+}
+
+void TestConexion::los_sistemas_de_red_data()
+{
+    QTest::addColumn<bool>("de_red");
+    for (const char* s : {"nfs", "nfs4", "cifs", "smb3", "smbfs", "9p", "fuse.sshfs", "afs", "red"})
+        QTest::newRow(s) << true;
+    for (const char* s : {"ext4", "xfs", "btrfs", "NTFS", "fuseblk", "vfat", "exfat", "tmpfs",
+                          "overlay", "apfs", ""})
+        QTest::newRow(s) << false;
+}
+
+void TestConexion::los_sistemas_de_red()
+{
+    QFETCH(bool, de_red);
+    QCOMPARE(plataforma::Es_De_Red(QTest::currentDataTag()), de_red);
 }
 
 PRUEBA(TestConexion)

@@ -1,5 +1,6 @@
 #include "core/Configuracion.h"
 #include "core/ModEstTotal.h"
+#include "core/Sesiones.h"
 #include "core/Sucesos.h"
 #include "tests/apoyo/Base_De_Prueba.h"
 #include "tests/apoyo/Interfaz_Guion.h"
@@ -36,7 +37,9 @@ private Q_SLOTS:
     void sin_ini_se_acaba();
     void un_ini_que_es_carpeta_se_acaba();
     void la_base_que_falta_sale_de_la_plantilla();
-    void una_base_vacia_cuenta_como_que_falta();
+    void una_base_vacia_es_una_danada();
+    void de_una_danada_se_ofrece_la_copia_data();
+    void de_una_danada_se_ofrece_la_copia();
     void los_restos_de_la_base_perdida_no_cuentan();
     void sin_plantilla_se_acaba();
     void la_base_ajena_se_informa_como_mal_ini_data();
@@ -244,13 +247,48 @@ void TestConfiguracion::la_base_que_falta_sale_de_la_plantilla()
     QCOMPARE(p->Columna("SELECT Nombre FROM KRT"), QStringList{"KRT305"});
 }
 
-void TestConfiguracion::una_base_vacia_cuenta_como_que_falta()
+void TestConfiguracion::una_base_vacia_es_una_danada()
 {
     Base_Datos.reset();
     QVERIFY(QFile::rename(Fichero_MDB, p->Ruta("DAT/Database.mdb")));
     p->Escribir("MDB/EstTotal.mdb", "");
-    QVERIFY(Cargar(INI));
-    QCOMPARE(p->Columna("SELECT Nombre FROM KRT"), QStringList{"KRT305"});
+    // An empty one in its place would pass for the user's, and his sessions for never stored.
+    QVERIFY(!Cargar(INI));
+    QVERIFY(interfaz->Textos()[0].startsWith(
+        "Se Produjo un error al leer el Fichero .ini EstTotal.ini\r\n(3343)"));
+    QCOMPARE(QFileInfo(Fichero_MDB).size(), 0);
+}
+
+void TestConfiguracion::de_una_danada_se_ofrece_la_copia_data()
+{
+    QTest::addColumn<bool>("si");
+    QTest::newRow("sí") << true;
+    QTest::newRow("no") << false;
+}
+
+void TestConfiguracion::de_una_danada_se_ofrece_la_copia()
+{
+    QFETCH(bool, si);
+    Nueva_Sesion("Obra", 0);
+    QVERIFY(Compactar_BD());
+    Base_Datos.reset();
+    const QByteArray mala = p->Leer("MDB/EstTotal.mdb").left(3000);
+    p->Escribir("MDB/EstTotal.mdb", mala);
+    interfaz->respuestas = {si};
+    QCOMPARE(Cargar(INI), si);
+    QVERIFY(interfaz->Textos()[0].contains("Hay una copia del "));
+    QVERIFY(interfaz->Textos()[0].contains(", 1 sesión"));
+    QCOMPARE(interfaz->avisos.size(), si ? 1 : 2);
+    const QStringList apartadas =
+        QDir(Ruta_MDB).entryList({"EstTotal_apartada_*.mdb"}, QDir::Files);
+    if (si) {
+        QCOMPARE(Ultima_Sesion(), QStringLiteral("1"));
+        QCOMPARE(apartadas.size(), 1);
+        QCOMPARE(p->Leer("MDB/" + apartadas[0]), mala);
+    } else {
+        QVERIFY(apartadas.isEmpty());
+        QCOMPARE(p->Leer("MDB/EstTotal.mdb"), mala);
+    }
 }
 
 void TestConfiguracion::los_restos_de_la_base_perdida_no_cuentan()
@@ -412,11 +450,13 @@ void TestConfiguracion::cada_ajuste_tiene_su_fila()
         globales << std::visit([](const auto& l) { return static_cast<const void*>(l.global); },
                                fila.lugar);
     }
-    QCOMPARE(claves.join(u' '), QString("PORT VELOCIDAD BITS PARIDAD STOP HARD KRTNOM KRT FIJO Visible "
-                                        "Recuerde Cargas Exportar Mostrar"));
+    QCOMPARE(claves.join(u' '),
+             QString("PORT VELOCIDAD BITS PARIDAD STOP HARD KRTNOM KRT FIJO Visible "
+                     "Recuerde Cargas Exportar Mostrar"));
     QCOMPARE(globales.size(), claves.size());
-    QCOMPARE(controles.join(u' '), QString("Combo5 Combo1 Combo2 Combo3 Combo4 Combo6 Check1 Check2 "
-                                           "Check3 Check4 Check5 Check6"));
+    QCOMPARE(controles.join(u' '),
+             QString("Combo5 Combo1 Combo2 Combo3 Combo4 Combo6 Check1 Check2 "
+                     "Check3 Check4 Check5 Check6"));
     // Each row, on and off, goes to its own global and key and to no other.
     for (const Ajuste& fila : Tabla_Ajustes()) {
         const auto* const marca = std::get_if<Ajuste_Marca>(&fila.lugar);

@@ -12,6 +12,8 @@ class TestJet : public QObject {
 private Q_SLOTS:
     void init();
     void cleanup();
+    void un_byte_cero_no_esconde_el_ancho();
+    void una_fecha_es_una_fecha();
     void cada_tabla_tiene_sus_columnas_y_claves();
     void los_nombres_no_distinguen_mayusculas_y_los_textos_si();
     void un_numero_entre_comillas_es_su_numero();
@@ -68,7 +70,7 @@ void TestJet::Campo(const QString& maquina, const QString& id, const QString& ca
 
 void TestJet::cada_tabla_tiene_sus_columnas_y_claves()
 {
-    QCOMPARE(Esquema::Tablas().size(), 16);
+    QCOMPARE(Esquema::Tablas().size(), 18);
     for (const Esquema::Tabla& t : Esquema::Tablas()) {
         QStringList nombres;
         for (const Esquema::Columna& c : t.columnas)
@@ -81,6 +83,33 @@ void TestJet::cada_tabla_tiene_sus_columnas_y_claves()
     QCOMPARE(Esquema::Buscar_Tabla("formatos1")->Buscar_Indice("Primarykey")->columnas,
              (QStringList{"Nombre", "Maquina"}));
     QCOMPARE(Esquema::Buscar_Tabla("Sesiones")->Buscar_Indice("ID")->columnas, QStringList{"ID"});
+}
+
+void TestJet::un_byte_cero_no_esconde_el_ancho()
+{
+    const QString corto = QStringLiteral("a%1b").arg(QChar(0));
+    QVERIFY_ERROR(3163, p->Fila("KRT", {{"Nombre", corto + QString(50, u'x')}}));
+    QVERIFY_ERROR(3163, Base_Datos->Execute("INSERT INTO KRT (Nombre) VALUES (?)",
+                                            {corto + QString(300, u'x')}));
+    p->Fila("KRT", {{"Nombre", corto}});
+    p->Fila("KRT", {{"Nombre", corto + QString(47, u'x')}});
+    // Letters of two bytes are one character each.
+    p->Fila("KRT", {{"Nombre", QString(50, QChar(0xF1))}});
+    QVERIFY_ERROR(3163, p->Fila("KRT", {{"Nombre", QString(51, QChar(0xF1))}}));
+    QCOMPARE(p->Columna("SELECT Nombre FROM KRT")[1].size(), 50);
+}
+
+void TestJet::una_fecha_es_una_fecha()
+{
+    int id = 0;
+    for (const char* mala : {"", "ayer", "2026-02-30 10:00:00", "2026-03-07", "7/3/2026 10:00:00",
+                             "2026-03-07 25:00:00", "2026-03-07 10:00:00.5", "now", "12"})
+        QVERIFY_ERROR(3421, p->Fila("Sesiones", {{"ID", ++id}, {"Fecha", mala}}));
+    p->Fila("Sesiones", {{"ID", ++id}, {"Fecha", "2026-03-07 23:59:59"}});
+    p->Fila("Sesiones", {{"ID", ++id}, {"Fecha", QVariant()}});
+    p->Fila("Sesiones", {{"ID", ++id}, {"Fecha", QDateTime(QDate(2024, 2, 29), QTime(0, 0))}});
+    QCOMPARE(p->Columna("SELECT Fecha FROM Sesiones"),
+             (QStringList{"2026-03-07 23:59:59", "", "2024-02-29 00:00:00"}));
 }
 
 void TestJet::los_nombres_no_distinguen_mayusculas_y_los_textos_si()

@@ -187,10 +187,11 @@ void TestPerfil::varias_claves_o_ninguna()
     p->Escribir("P.ini", "[A]\r\nuno=1\r\n");
     {
         const Sin_Privilegios s(Ruta_Aplicacion);
-        QCOMPARE(Numero_De_Error([&] {
-                     Perfil::Escribir_Todas(p->Ruta("P.ini"), {{"A", "uno", "2"}, {"A", "dos", "2"}});
-                 }),
-                 70);
+        QCOMPARE(
+            Numero_De_Error([&] {
+                Perfil::Escribir_Todas(p->Ruta("P.ini"), {{"A", "uno", "2"}, {"A", "dos", "2"}});
+            }),
+            70);
     }
     QCOMPARE(p->Leer("P.ini"), QByteArray("[A]\r\nuno=1\r\n"));
 }

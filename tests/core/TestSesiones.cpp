@@ -9,6 +9,8 @@
 
 #include <QSignalSpy>
 #include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 class TestSesiones : public QObject {
     Q_OBJECT
@@ -29,9 +31,11 @@ private Q_SLOTS:
     void compactar_conserva_los_conjuntos_abiertos();
     void compactar_con_otro_programa_no_hace_nada();
     void compactar_en_una_transaccion_no_hace_nada();
-    void compactar_sin_sitio_para_la_copia_deja_la_base();
+    void compactar_sin_sitio_para_la_copia_compacta();
     void compactar_una_base_que_no_esta();
     void compactar_reclama_espacio();
+    void compactar_conserva_permisos_y_grupo();
+    void compactar_lo_danado_lo_dice();
 
 private:
     qint64 Anotado() const { return p->Leer("LOG/Miraldos.log").count("Compactar_BD: ("); }
@@ -209,12 +213,13 @@ void TestSesiones::compactar_en_una_transaccion_no_hace_nada()
     QCOMPARE(Ultima_Sesion(), QStringLiteral("1"));
 }
 
-void TestSesiones::compactar_sin_sitio_para_la_copia_deja_la_base()
+void TestSesiones::compactar_sin_sitio_para_la_copia_compacta()
 {
     Nueva_Sesion("a", 0);
     QVERIFY(QDir(Ruta_MDB).mkdir("esttotal.bak"));
-    QVERIFY(!Compactar_BD());
-    QCOMPARE(Anotado(), 1);
+    QVERIFY(Compactar_BD());
+    QCOMPARE(Anotado(), 0);
+    QCOMPARE(p->Leer("LOG/Miraldos.log").count("Copias::Guardar: ("), 1);
     QVERIFY(!QFile::exists(p->Ruta("MDB/esttotal.pak")));
     QCOMPARE(Ultima_Sesion(), QStringLiteral("1"));
     QCOMPARE(Nueva_Sesion("b", 0), QStringLiteral("2"));
@@ -241,6 +246,44 @@ void TestSesiones::compactar_reclama_espacio()
     Eliminar_Sesion(1);
     QVERIFY(Compactar_BD());
     QVERIFY(QFileInfo(Fichero_MDB).size() < 300 * 1024);
+}
+
+void TestSesiones::compactar_conserva_permisos_y_grupo()
+{
+    constexpr gid_t OTRO_GRUPO = 65534;
+    const QByteArray ruta = QFile::encodeName(Fichero_MDB);
+    QCOMPARE(chmod(ruta.constData(), 0660), 0);
+    const bool otro = chown(ruta.constData(), uid_t(-1), OTRO_GRUPO) == 0;
+    QVERIFY(Compactar_BD());
+    for (const char* f : {"MDB/EstTotal.mdb", "MDB/esttotal.bak"}) {
+        struct stat como {};
+        QCOMPARE(stat(QFile::encodeName(p->Ruta(f)).constData(), &como), 0);
+        QCOMPARE(como.st_mode & 0777, mode_t(0660));
+        if (otro) QCOMPARE(como.st_gid, OTRO_GRUPO);
+    }
+}
+
+void TestSesiones::compactar_lo_danado_lo_dice()
+{
+    Insercion i = Base_Datos->Preparar_Insercion("Registros", {"ID", "Secuencia", "Datos"});
+    for (int k = 0; k < 500; ++k)
+        i.Anadir({1, k, QString(200, u'x')});
+    QVERIFY(Compactar_BD());
+    const QByteArray copia = p->Leer("MDB/esttotal.bak");
+    Base_Datos.reset();
+    QByteArray rota = p->Leer("MDB/EstTotal.mdb");
+    for (qsizetype pagina = rota.size() - 8 * 4096; pagina < rota.size(); pagina += 4096)
+        rota.replace(pagina, 64, QByteArray(64, '\x7F'));
+    p->Escribir("MDB/EstTotal.mdb", rota);
+    Base_Datos = Base::Abrir(Fichero_MDB);
+    const Resultado_Compactacion r = Compactar_BD();
+    QVERIFY(!r);
+    QVERIFY(r.Danada());
+    QVERIFY(!r.descripcion.isEmpty());
+    // Neither the database nor the good copy has been touched.
+    QCOMPARE(p->Leer("MDB/esttotal.bak"), copia);
+    Base_Datos.reset();
+    QCOMPARE(p->Leer("MDB/EstTotal.mdb"), rota);
 }
 
 PRUEBA(TestSesiones)

@@ -1,4 +1,6 @@
 #include "core/jet/Traductor.h"
+#include "tests/apoyo/Base_De_Prueba.h"
+#include "tests/apoyo/Numero_De_Error.h"
 #include "tests/apoyo/Prueba.h"
 
 class TestTraductor : public QObject {
@@ -12,6 +14,8 @@ private Q_SLOTS:
     void se_sabe_si_las_filas_son_de_una_tabla_data();
     void se_sabe_si_las_filas_son_de_una_tabla();
     void lo_incompleto_pasa_como_esta();
+    void lo_que_se_entenderia_mal_se_rechaza_data();
+    void lo_que_se_entenderia_mal_se_rechaza();
 };
 
 void TestTraductor::la_gramatica_se_adapta_data()
@@ -134,6 +138,52 @@ void TestTraductor::lo_incompleto_pasa_como_esta()
         QVERIFY2(Traducir(QString::fromLatin1(sql)).completa.sql.size() >= 0, sql);
     QCOMPARE(Traducir("DELETE FROM KRT WHERE Nombre = 'abc").completa.sql,
              QByteArray("DELETE FROM KRT WHERE Nombre = 'abc"));
+}
+
+void TestTraductor::lo_que_se_entenderia_mal_se_rechaza_data()
+{
+    QTest::addColumn<QString>("sql");
+    QTest::addColumn<int>("numero");
+    const auto fila = [](const char* sql, int numero) {
+        QTest::newRow(sql) << QString::fromLatin1(sql) << numero;
+    };
+    fila("UPDATE OPE SET OPE=OPE--1 WHERE OPE=1", 3075);
+    fila("SELECT * FROM KRT -- WHERE Nombre='a'", 3075);
+    fila("DELETE FROM KRT /* WHERE Nombre='a' */", 3075);
+    fila("SELECT Nombre & Foto FROM KRT", 3075);
+    fila("SELECT * FROM KRT WHERE Nombre='a'&'b'", 3075);
+    fila("SELECT 'a' + Nombre FROM KRT", 3075);
+    fila("SELECT Nombre+'a' FROM KRT", 3075);
+    fila("SELECT hex(Nombre) FROM KRT", 3085);
+    fila("SELECT * FROM KRT WHERE Nombre = randomblob(3)", 3085);
+    fila("DELETE FROM KRT WHERE random() > 0", 3085);
+    fila("UPDATE KRT SET Foto = lower(Foto)", 3085);
+    fila("SELECT * FROM KRT WHERE total(Nombre) = 1", 3085);
+    // And what only looks like it.
+    fila("UPDATE OPE SET OPE=OPE - -1 WHERE OPE=1", 0);
+    fila("SELECT * FROM KRT WHERE Nombre='a--b' AND Foto='/*&' OR Foto=\"x & y\"", 0);
+    fila("SELECT OPE+1 FROM OPE WHERE OPE*2/(1)=3", 0);
+    fila("SELECT * FROM [KRT] WHERE (Nombre) IN('a','b') AND NOT(Foto='')", 0);
+    fila("INSERT INTO KRT(Nombre) VALUES('a')", 0);
+    fila("INSERT INTO Lib1 (CoD) SELECT DISTINCT(Nombre) FROM KRT", 0);
+    fila("select MID(Foto,1,2),trim(Foto),Ucase(ltrim(Foto)) from KRT where "
+         "len(Foto)=InStr(1,Foto,'a')",
+         0);
+    fila("SELECT * FROM KRT WHERE EXISTS(SELECT * FROM OPE) OR Val(Foto) BETWEEN(1) AND(2)", 0);
+    fila("SELECT CASE WHEN(OPE=1) THEN(2) ELSE(3) END FROM OPE", 0);
+    fila("PRAGMA quick_check(1)", 0);
+}
+
+void TestTraductor::lo_que_se_entenderia_mal_se_rechaza()
+{
+    QFETCH(QString, sql);
+    QFETCH(int, numero);
+    QVERIFY_ERROR(numero, Traducir(sql));
+    // What passes is SQL to the engine as well.
+    if (numero == 0) {
+        const Base_De_Prueba p;
+        QVERIFY_ERROR(0, Base_Datos->Recorrer(sql));
+    }
 }
 
 PRUEBA(TestTraductor)

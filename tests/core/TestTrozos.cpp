@@ -19,14 +19,22 @@ void TestTrozos::trozo_corta_por_el_separador_data()
     QTest::addColumn<int>("n");
     QTest::addColumn<QString>("cadena");
     QTest::addColumn<QString>("trozo");
-    QTest::newRow("segundo") << 2 << "a,b" << "b";
-    QTest::newRow("tercero") << 3 << "a,b" << "";
-    QTest::newRow("sin separador") << 1 << "abc" << "abc";
-    QTest::newRow("sin separador, segundo") << 2 << "abc" << "";
-    QTest::newRow("vacio") << 1 << "" << "";
-    QTest::newRow("hueco") << 2 << "a,,c" << "";
-    QTest::newRow("tras hueco") << 3 << "a,,c" << "c";
-    QTest::newRow("cero") << 0 << "a,b" << "";
+    QTest::newRow("segundo") << 2 << "a,b"
+                             << "b";
+    QTest::newRow("tercero") << 3 << "a,b"
+                             << "";
+    QTest::newRow("sin separador") << 1 << "abc"
+                                   << "abc";
+    QTest::newRow("sin separador, segundo") << 2 << "abc"
+                                            << "";
+    QTest::newRow("vacio") << 1 << ""
+                           << "";
+    QTest::newRow("hueco") << 2 << "a,,c"
+                           << "";
+    QTest::newRow("tras hueco") << 3 << "a,,c"
+                                << "c";
+    QTest::newRow("cero") << 0 << "a,b"
+                          << "";
 }
 
 void TestTrozos::trozo_corta_por_el_separador()

@@ -24,7 +24,7 @@ QStringList Filas(const Filas_Exportar& filas)
     for (std::size_t r = 0; !filas.empty() && r < filas.front().size(); ++r) {
         QStringList celdas;
         for (const auto& columna : filas)
-            celdas << columna[r];
+            celdas << columna.Celda(r);
         lineas << celdas.join('|');
     }
     return lineas;
@@ -191,7 +191,7 @@ void TestGuardarN::las_columnas_se_hallan_por_su_nombre()
     const Datos_Formateados datos = Datos(1, "KRT300", 0, {"Inventado", "Código", "Punto"});
     QCOMPARE(datos.campos, (QStringList{"Inventado", "Código", "Punto"}));
     QCOMPARE(datos.Numero_De_Filas(), std::size_t(1));
-    QCOMPARE(datos.filas[*datos.Columna({u"Código"})].front(), QStringLiteral("A"));
+    QCOMPARE(datos.filas[*datos.Columna({u"Código"})].Celda(0), QStringLiteral("A"));
     QCOMPARE(datos.Columna({u"Coordenada Z", u"Punto", u"Código"}), std::optional<std::size_t>(2));
     QCOMPARE(datos.Columna({u"Inventado", u"Punto"}), std::optional<std::size_t>(0));
     QVERIFY(!datos.Columna({u"código", u"Punt"}) && !datos.Columna({}));
@@ -238,13 +238,13 @@ void TestGuardarN::igual_que_punto_a_punto()
         "Código",       "Coordenada X",       "Estación",  "Punto",    "Ángulo Horizontal",
         "Coordenada Y", "Altura Instrumento", "Inventado", "Distancia"};
     const std::vector<Corrida_Punto> corridas = Buscar_Corridas(*Base_Datos, 1);
-    Filas_Exportar esperadas(std::size_t(campos.size()), std::vector<QString>(corridas.size()));
-    for (std::size_t k = 0; k < corridas.size(); ++k) {
+    Filas_Exportar esperadas(std::size_t(campos.size()));
+    for (const Corrida_Punto& corrida : corridas) {
         QStringList valores(campos.size());
-        Extraer_Punto(*Base_Datos, 1, "KRT300", 0, corridas[k].punto, corridas[k].secuencia_desde,
-                      corridas[k].secuencia_hasta, campos, valores);
+        Extraer_Punto(*Base_Datos, 1, "KRT300", 0, corrida.punto, corrida.secuencia_desde,
+                      corrida.secuencia_hasta, campos, valores);
         for (qsizetype c = 0; c < campos.size(); ++c)
-            esperadas[std::size_t(c)][k] = valores[c];
+            esperadas[std::size_t(c)].push_back(valores[c]);
     }
     Ajustar_Filas(esperadas);
     Igualar_Columnas(esperadas);
@@ -309,7 +309,7 @@ void TestGuardarN::el_nivel_con_otra_familia_en_uso()
     const Datos_Formateados datos = Datos(1, "NV400", 0, {"uno", "dos", "reserva"});
     QCOMPARE(Filas(datos.filas).size(), 3);
     QVERIFY(Filas(datos.filas)[0].startsWith("01|"));
-    QVERIFY(Es_Fila_Marcada(datos.filas[0][1]));
+    QVERIFY(Es_Fila_Marcada(datos.filas[0].Celda(1)));
     QCOMPARE(datos.lineas_especiales, (QStringList{"g,\u0006x,B,", "k,\u0005y,D,"}));
 }
 
@@ -352,8 +352,8 @@ void TestGuardarN::el_avance_va_en_dos_tiempos()
     Poner_Sesion(p, 1, "KRT300", 0, lineas);
     Poner_Campos_Exportar({"Punto"});
     Avance_De_Prueba avance;
-    QVERIFY(
-        Exportar_Sesion(1, "KRT300", 0, "txf", "F", p.Ruta("ficheros/s.txt"), {" \u0006N"}, avance));
+    QVERIFY(Exportar_Sesion(1, "KRT300", 0, "txf", "F", p.Ruta("ficheros/s.txt"), {" \u0006N"},
+                            avance));
     QCOMPARE(avance.hechos,
              (QStringList{"Formateando Datos... (1 de 2)", "max 1100", "1024", "1100", "0",
                           "Exportando... (2 de 2)", "max 1100", "1024", "1100", "0"}));

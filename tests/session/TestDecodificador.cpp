@@ -5,6 +5,7 @@
 #include "tests/apoyo/Instrumentos.h"
 #include "tests/apoyo/Prueba.h"
 
+#include <QRandomGenerator>
 #include <sqlite3.h>
 
 class TestDecodificador : public QObject {
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void una_linea_de_krt800_data();
     void una_linea_de_krt800();
     void los_generales_de_krt800_casan_registro_y_campo();
+    void los_generales_seguidos_son_los_de_cada_uno_data();
+    void los_generales_seguidos_son_los_de_cada_uno();
     void el_nivel_llena_por_lugares();
     void una_fila_a_mano_se_ve_al_momento();
     void la_base_reabierta_vacia_la_cache();
@@ -282,8 +285,12 @@ void TestDecodificador::un_nombre_que_nadie_da_queda_vacio()
     QCOMPARE(valores, (QStringList{"ARBOL", "", ""}));
     // The fields of a kind follow `Orden`, whatever the order of their rows.
     for (const int orden : {3, 1, 2})
-        p.Fila("Campos", {{"Maquina", "KRT300"}, {"ID", "o"}, {"Campo", QString::number(orden)},
-                          {"Orden", orden}, {"Digitos", 2}, {"PosDigit", "*"}});
+        p.Fila("Campos", {{"Maquina", "KRT300"},
+                          {"ID", "o"},
+                          {"Campo", QString::number(orden)},
+                          {"Orden", orden},
+                          {"Digitos", 2},
+                          {"PosDigit", "*"}});
     QStringList ordenados(3);
     Decodificar_Linea(*Base_Datos, "oAABBCC", "1", "KRT300", 0, {"1", "2", "3"}, ordenados);
     QCOMPARE(ordenados, (QStringList{"AA", "BB", "CC"}));
@@ -474,11 +481,11 @@ void TestDecodificador::las_columnas_no_listadas_se_decodifican()
     Clave_Estacion = "KRT300";
     QStringList valores = {"v", "v"};
     // "Reserva" is marked "NL": it is no coordinate, and its sign place is treated as one's.
-    Decodificar_Linea(*Base_Datos, "H+012345600012345-7nota", "1", "KRT300", 0,
-                      {"Reserva", "Nota"}, valores);
+    Decodificar_Linea(*Base_Datos, "H+012345600012345-7nota", "1", "KRT300", 0, {"Reserva", "Nota"},
+                      valores);
     QCOMPARE(valores, (QStringList{"-7", "nota"}));
-    Decodificar_Linea(*Base_Datos, "H+01234560001234507nota", "1", "KRT300", 0,
-                      {"Reserva", "Nota"}, valores);
+    Decodificar_Linea(*Base_Datos, "H+01234560001234507nota", "1", "KRT300", 0, {"Reserva", "Nota"},
+                      valores);
     QCOMPARE(valores, (QStringList{"+7", "nota"}));
 
     // A general field with a coordinate's mark gets no offset: it is cut as any other.
@@ -488,8 +495,9 @@ void TestDecodificador::las_columnas_no_listadas_se_decodifican()
     QStringList base = {"v"};
     Decodificar_General(*Base_Datos, "G+001234567", "KRT300", {"Base X"}, base, 0);
     QCOMPARE(base[0], QStringLiteral("1234.567"));
-    Poner_Registro(p, "KRT800", {1}, "BAS", "Base", "G",
-                   {{"Base X", 10, "7,3", "", "", "", "GE"}, {"Base Y", 10, "7,3", "", "", "", "CY"}});
+    Poner_Registro(
+        p, "KRT800", {1}, "BAS", "Base", "G",
+        {{"Base X", 10, "7,3", "", "", "", "GE"}, {"Base Y", 10, "7,3", "", "", "", "CY"}});
     Clave_Estacion = "KRT800";
     Desp_Y = "100";
     const auto item = [](const char* campo) {
@@ -609,6 +617,62 @@ void TestDecodificador::los_generales_de_krt800_casan_registro_y_campo()
     QCOMPARE(valores[1], QStringLiteral("E1"));
 }
 
+void TestDecodificador::los_generales_seguidos_son_los_de_cada_uno_data()
+{
+    QTest::addColumn<QString>("maquina");
+    QTest::addColumn<QStringList>("piezas");
+    QTest::newRow("KRT300") << "KRT300"
+                            << QStringList{
+                                   "EEST1   +01500", "EEST2   +01A00", "E", "JOBRA", "", "EÑ"};
+    const QString campo = QChar(SEP_CAMPO);
+    const QString estacion = "STN" + campo + "Estación",
+                  altura = "STN" + campo + "Altura Instrumento";
+    QTest::newRow("KRT800") << "KRT800"
+                            << QStringList{estacion + campo + "E1",
+                                           estacion + campo + "E2",
+                                           estacion + campo + "*",
+                                           estacion,
+                                           altura + campo + "1.50",
+                                           altura + campo + "1.60" + campo + "9",
+                                           altura + campo,
+                                           altura + campo + "-.x0",
+                                           "SS" + campo + "Punto" + campo + "7",
+                                           "STN",
+                                           ""};
+}
+
+// A decoder kept over many lines gives what one made anew for each of them gives.
+void TestDecodificador::los_generales_seguidos_son_los_de_cada_uno()
+{
+    QFETCH(const QString, maquina);
+    QFETCH(const QStringList, piezas);
+    Base_De_Prueba p;
+    Poner_Instrumentos(p);
+    Clave_Estacion = maquina;
+    const QStringList nombres = {"Altura Instrumento", "Estación", "Punto", "Estación"};
+    QRandomGenerator azar(800);
+    Decodificador seguido(*Base_Datos, maquina, 1, nombres);
+    QStringList lista;
+    int llenas = 0;
+    for (int i = 0; i < 3000; ++i) {
+        // Mostly one item changes; now and then one comes, goes or moves.
+        if (lista.isEmpty() || azar.bounded(6) == 0)
+            lista.insert(azar.bounded(int(lista.size()) + 1), piezas[azar.bounded(piezas.size())]);
+        else if (azar.bounded(6) == 0)
+            lista.removeAt(azar.bounded(lista.size()));
+        else
+            lista[azar.bounded(lista.size())] = piezas[azar.bounded(piezas.size())];
+        if (lista.size() > 5) lista.removeFirst();
+        const QString datosg = lista.join(QChar(SEP_LISTA));
+        QStringList de_seguido = {"a", "b", "c", "d"}, de_uno = de_seguido;
+        seguido.General(datosg, de_seguido);
+        Decodificar_General(*Base_Datos, datosg, maquina, nombres, de_uno, 1);
+        QCOMPARE(de_seguido, de_uno);
+        llenas += de_uno[0] != u"a" && de_uno[1] != u"b";
+    }
+    QVERIFY(llenas > 100);
+}
+
 void TestDecodificador::el_nivel_llena_por_lugares()
 {
     Base_De_Prueba p;
@@ -697,8 +761,13 @@ void TestDecodificador::las_filas_absurdas_vacian_lo_suyo()
         const auto campo = [&](const char* id, const QString& nombre, const QVariant& orden,
                                const QVariant& digitos, const QVariant& posdigit,
                                const QVariant& caracter) {
-            p.Fila("Campos", {{"Maquina", maquina}, {"ID", id}, {"Campo", nombre}, {"Orden", orden},
-                              {"Digitos", digitos}, {"PosDigit", posdigit}, {"Caracter", caracter},
+            p.Fila("Campos", {{"Maquina", maquina},
+                              {"ID", id},
+                              {"Campo", nombre},
+                              {"Orden", orden},
+                              {"Digitos", digitos},
+                              {"PosDigit", posdigit},
+                              {"Caracter", caracter},
                               {"Forsalida", nombre == u"Mal" ? "0.#0.##" : ""}});
         };
         // What is wrong with a row empties its own field.
@@ -713,8 +782,8 @@ void TestDecodificador::las_filas_absurdas_vacian_lo_suyo()
         QStringList valores(nombres.size(), "v");
         Decodificar_Linea(*Base_Datos, por_columnas ? "Aabc123499" : "A abc,,1 x,99", "1", maquina,
                           0, nombres, valores);
-        QCOMPARE(valores, por_columnas ? por_anchos
-                                       : QStringList({"abc", "", "1 x", "99", "", ""}));
+        QCOMPARE(valores,
+                 por_columnas ? por_anchos : QStringList({"abc", "", "1 x", "99", "", ""}));
         QStringList generales(nombres.size(), "v");
         Decodificar_General(*Base_Datos, "Aabc123499", maquina, nombres, generales, 0);
         QCOMPARE(generales, por_columnas ? por_anchos : QStringList(nombres.size(), "v"));

@@ -1,6 +1,7 @@
 #include "core/Sucesos.h"
 #include "session/Decodificador.h"
 #include "session/Dialogos_Pequenos.h"
+#include "session/Lista_Sesion.h"
 #include "session/ModVDatos.h"
 #include "tests/apoyo/Instrumentos.h"
 #include "tests/apoyo/Interfaz_Guion.h"
@@ -24,7 +25,8 @@ private Q_SLOTS:
     void la_clase_desconocida_calla();
     void el_visor_no_deja_desplazamientos();
     void el_nivel_se_ve_por_lugares();
-    void al_final_de_los_datos_lo_dice_y_se_queda();
+    void el_visor_sirve_para_muchas_lineas();
+    void la_lista_crece_por_tramos();
     void borrar_pregunta_y_vacia();
     void el_arbol_marca_lo_que_desborda();
     void los_separadores_van_por_orden();
@@ -156,6 +158,12 @@ void TestVisores::cada_linea_sale_una_vez()
     Poner_Sesion(p, 3, maquina, ope, datos);
     const Vista_Datos vista = Preparar_Vista({3, maquina, ope, "Lo que sea"});
     QTEST(Filas(vista.sql, {"Descr", "Datos"}), "filas");
+    Lista_Sesion lista(Base_Datos, {3, maquina, ope, {}});
+    lista.Alcanzar(lineas.size());
+    QStringList listadas;
+    for (qint64 i = 0; i < lista.Conocidas(); ++i)
+        listadas << lista.Linea(i).descr + '|' + lista.Linea(i).datos;
+    QTEST(listadas, "filas");
     QCOMPARE(vista.titulo, QStringLiteral("Datos de la sesión con id (3)   (Lo que sea)"));
     QTEST(QString(vista.columna_punto ? "si" : "no") + (vista.columna_descr ? " si" : " no"),
           "columnas");
@@ -257,22 +265,65 @@ void TestVisores::el_nivel_se_ve_por_lugares()
     QCOMPARE(vista->valores[4], QString());
 }
 
-void TestVisores::al_final_de_los_datos_lo_dice_y_se_queda()
+void TestVisores::el_visor_sirve_para_muchas_lineas()
 {
     Base_De_Prueba p;
     Poner_Instrumentos(p);
-    Interfaz_Guion guion;
-    Poner_Sesion(p, 1, "KRT300", 0, {{"1", "cA"}, {"2", "cB"}});
-    Conjunto_Registros rs = Base_Datos->OpenRecordset(Preparar_Vista({1, "KRT300", 0, ""}).sql);
-    QVERIFY(Mover_Registro(rs, 1));
-    QCOMPARE(rs.Texto("Punto"), QStringLiteral("2"));
-    QVERIFY(!Mover_Registro(rs, 1));
-    QCOMPARE(rs.Texto("Punto"), QStringLiteral("2"));
-    QVERIFY(Mover_Registro(rs, -1));
-    QVERIFY(!Mover_Registro(rs, -1));
-    QCOMPARE(rs.Texto("Punto"), QStringLiteral("1"));
-    QCOMPARE(guion.Textos(), (QStringList{"Fin de Datos.", "Fin de Datos."}));
-    QCOMPARE(guion.avisos[0].icono, Icono::Informacion);
+    Clave_Estacion = "KRT300";
+    Visor_Registros visor(*Base_Datos, "KRT300", 0);
+    for (const char* linea : {"cARBOL", "H00123456-0012340 NOTA", "?nada", "cA", "H", " cB"}) {
+        const auto uno = Ver_Registro("KRT300", 0, "", linea, "7");
+        const auto muchos = visor.Ver(linea, "7");
+        QCOMPARE(muchos.has_value(), uno.has_value());
+        if (!uno) continue;
+        QCOMPARE(muchos->nombres, uno->nombres);
+        QCOMPARE(muchos->valores, uno->valores);
+        QCOMPARE(muchos->punto, "7");
+    }
+    // A row changed by hand shows at once.
+    Base_Datos->Execute("UPDATE Campos SET Campo = 'Otro' WHERE Maquina = 'KRT300' AND ID = 'c'");
+    QCOMPARE(visor.Ver("cA", "")->nombres, QStringList{"Otro"});
+}
+
+void TestVisores::la_lista_crece_por_tramos()
+{
+    Base_De_Prueba p;
+    Poner_Instrumentos(p);
+    Insercion registros = Base_Datos->Preparar_Insercion(
+        "Registros", {"ID", "Secuencia", "Punto", "Datos", "DatosG"});
+    const int total = 3000;
+    Base_Datos->BeginTrans();
+    // Behind gaps, with unknown kinds and with two lines of one number.
+    for (int i = 1; i <= total; ++i)
+        registros.Anadir(
+            {1, i - i % 7, QString::number(i), i % 5 ? "cA" + QString::number(i) : "?", "G"});
+    registros.Anadir({2, 1, "", "cOTRA", ""});
+    Base_Datos->CommitTrans();
+    const Sesion_Elegida sesion{1, "KRT300", 0, ""};
+    const QStringList esperadas =
+        Filas(Preparar_Vista(sesion).sql, {"Punto", "Descr", "Datos", "DatosG"});
+
+    Lista_Sesion lista(Base_Datos, sesion);
+    QCOMPARE(lista.Conocidas(), 0);
+    QVERIFY(lista.Hay_Mas());
+    QVERIFY(lista.Buscar_Mas() > 0);
+    QVERIFY(lista.Conocidas() < esperadas.size() / 4);
+    QVERIFY(lista.Alcanzar(1000));
+    QVERIFY(lista.Hay_Mas());
+    QVERIFY(!lista.Alcanzar(esperadas.size()));
+    QVERIFY(!lista.Hay_Mas());
+    QCOMPARE(lista.Conocidas(), esperadas.size());
+    const auto linea = [&](qint64 fila) {
+        const Linea_De_Sesion l = lista.Linea(fila);
+        return QStringList{l.punto, l.descr, l.datos, l.datosg}.join('|');
+    };
+    for (qsizetype i = esperadas.size() - 1; i >= 0; --i)
+        QCOMPARE(linea(i), esperadas[i]);
+    QCOMPARE(linea(-1), QStringLiteral("|||"));
+    QCOMPARE(linea(esperadas.size()), QStringLiteral("|||"));
+    // What is deleted meanwhile shows empty, where it isn't in memory any more.
+    Base_Datos->Execute("DELETE FROM Registros WHERE ID = 1");
+    QCOMPARE(linea(esperadas.size() - 1).size() >= 3, true);
 }
 
 void TestVisores::borrar_pregunta_y_vacia()

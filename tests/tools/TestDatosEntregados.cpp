@@ -159,11 +159,11 @@ void TestDatosEntregados::los_generales_de_columnas_valen_para_cada_punto()
     for (const Familia& familia : Familias())
         if (familia.serie == Serie::A)
             QCOMPARE(Valores(familia.clave, 0, "h+3294595", generales,
-                         {"Trabajo", "Estación", "Altura Instrumento", "Coordenada X Estación",
-                          "Coordenada Y Estación", "Coordenada Z Estación", "Punto Atrás",
-                          "Orientación", "Ángulo Horizontal"}),
-                 (QStringList{"VALLE ALTO", "E1", "1.483", "456191.339", "4478320.433", "-617.438",
-                              "BASE0", "309.6186", "329.4595"}));
+                             {"Trabajo", "Estación", "Altura Instrumento", "Coordenada X Estación",
+                              "Coordenada Y Estación", "Coordenada Z Estación", "Punto Atrás",
+                              "Orientación", "Ángulo Horizontal"}),
+                     (QStringList{"VALLE ALTO", "E1", "1.483", "456191.339", "4478320.433",
+                                  "-617.438", "BASE0", "309.6186", "329.4595"}));
 }
 
 void TestDatosEntregados::los_generales_de_krt800_valen_para_lo_que_sigue()

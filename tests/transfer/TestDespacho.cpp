@@ -1,12 +1,12 @@
-#include "core/Familia.h"
 #include "core/Ayuda.h"
 #include "core/ModEstTotal.h"
+#include "session/Peticiones_Sesion.h"
 #include "tests/apoyo/Base_De_Prueba.h"
 #include "tests/apoyo/Interfaz_Guion.h"
 #include "tests/apoyo/Prueba.h"
 #include "tests/apoyo/Puerto_Memoria.h"
-#include "transfer/enlace/Descarga.h"
 #include "transfer/Despacho.h"
+#include "transfer/enlace/Descarga.h"
 #include "transfer/Peticiones_Transfer.h"
 
 // Which operation starts what, and the common order of a download.
@@ -36,6 +36,7 @@ private:
     std::unique_ptr<Descarga> descarga;
     Puerto_Memoria* puerto = nullptr;
     Peticiones_Transfer antes;
+    Peticiones_Sesion antes_sesion;
     QStringList pasos;
     QString nombre;
 };
@@ -45,6 +46,8 @@ void TestDespacho::init()
     base = std::make_unique<Base_De_Prueba>();
     interfaz = std::make_unique<Interfaz_Guion>();
     antes = Peticiones_De_Transfer();
+    antes_sesion = Peticiones_De_Sesion();
+    Peticiones_De_Sesion().Pedir_Separador = [] { return ","; };
     pasos.clear();
     nombre = "Obra";
     Puerto = "COM1";
@@ -56,6 +59,7 @@ void TestDespacho::init()
         pasos << "nombre";
         return nombre;
     };
+    p.Recibir_Libreria = [this](int ope) { pasos << "libreria " + QString::number(ope); };
     p.Mostrar_Pasos = [this](const QString& tipo, const QString& ope) {
         pasos << "ayuda " + tipo + ope + " paso " + QString::number(Paso_Ayuda);
     };
@@ -68,15 +72,19 @@ void TestDespacho::init()
         }
         return descarga.get();
     };
-    p.Mostrar_Descarga = [this] { pasos << (puerto->Abierto() ? "abierto, descarga" : "descarga"); };
+    p.Mostrar_Descarga = [this] {
+        pasos << (puerto->Abierto() ? "abierto, descarga" : "descarga");
+    };
     for (const QString maquina : {"KRT300", "PX7", "KRT800", "NV400"})
         for (const QString tipo : {"D", "C"})
-            for (int ope = 0; ope < 12; ++ope) Fila(maquina, ope, tipo, "");
+            for (int ope = 0; ope < 12; ++ope)
+                Fila(maquina, ope, tipo, "");
 }
 
 void TestDespacho::cleanup()
 {
     Peticiones_De_Transfer() = antes;
+    Peticiones_De_Sesion() = antes_sesion;
     descarga.reset();
     puerto = nullptr;
     interfaz.reset();
@@ -85,8 +93,9 @@ void TestDespacho::cleanup()
 
 void TestDespacho::Fila(const QString& maquina, int ope, const QString& tipo, const QString& conv)
 {
-    Base_Datos->Execute("INSERT INTO KRT2 (Nombre, OPE, TipOpe, DESOPE, Conv) VALUES (?, ?, ?, ?, ?)",
-                        {maquina, ope, tipo, "Operación " + QString::number(ope), conv});
+    Base_Datos->Execute(
+        "INSERT INTO KRT2 (Nombre, OPE, TipOpe, DESOPE, Conv) VALUES (?, ?, ?, ?, ?)",
+        {maquina, ope, tipo, "Operación " + QString::number(ope), conv});
 }
 
 void TestDespacho::las_listas_salen_de_la_base()
@@ -138,24 +147,55 @@ void TestDespacho::que_arranca_cada_operacion_data()
     QTest::addColumn<QString>("maquina");
     QTest::addColumn<int>("ope");
     QTest::addColumn<QString>("tipo");
-    QTest::addColumn<QString>("ayuda");  // empty: no download starts
+    QTest::addColumn<QString>("ayuda"); // empty: no download starts
     QTest::addColumn<int>("avisos");
-    QTest::newRow("KRT300 0") << "KRT300" << 0 << "D" << "ayuda D0 paso 1" << 0;
-    QTest::newRow("KRT300 1") << "KRT300" << 1 << "D" << "ayuda D1 paso 1" << 0;
-    QTest::newRow("KRT300 11 es 1") << "KRT300" << 11 << "D" << "ayuda D1 paso 1" << 0;
-    QTest::newRow("PX7 0") << "PX7" << 0 << "D" << "ayuda D0 paso 1" << 0;
-    QTest::newRow("KRT300 5 nada") << "KRT300" << 5 << "D" << "" << 0;
-    QTest::newRow("KRT300 libreria") << "KRT300" << 2 << "D" << "" << 1;
-    QTest::newRow("KRT300 carga") << "KRT300" << 1 << "C" << "" << 1;
-    QTest::newRow("KRT300 carga rara") << "KRT300" << 5 << "C" << "" << 0;
-    QTest::newRow("KRT800 5") << "KRT800" << 5 << "D" << "ayuda D5 paso 1" << 0;
-    QTest::newRow("KRT800 carga 6") << "KRT800" << 6 << "C" << "" << 1;
-    QTest::newRow("NV400 0") << "NV400" << 0 << "D" << "ayuda D0 paso 1" << 0;
-    QTest::newRow("NV400 1 nada") << "NV400" << 1 << "D" << "" << 0;
-    // The level's upload asks for its file, and tells that this one isn't there and why.
-    QTest::newRow("NV400 carga") << "NV400" << 1 << "C" << "" << 2;
-    QTest::newRow("otra") << "OTRA" << 0 << "D" << "" << 0;
-    QTest::newRow("tipo raro") << "KRT800" << 0 << "X" << "" << 0;
+    QTest::newRow("KRT300 0") << "KRT300" << 0 << "D"
+                              << "ayuda D0 paso 1" << 0;
+    QTest::newRow("KRT300 1") << "KRT300" << 1 << "D"
+                              << "ayuda D1 paso 1" << 0;
+    QTest::newRow("KRT300 11 es 1") << "KRT300" << 11 << "D"
+                                    << "ayuda D1 paso 1" << 0;
+    QTest::newRow("PX7 0") << "PX7" << 0 << "D"
+                           << "ayuda D0 paso 1" << 0;
+    QTest::newRow("KRT300 5 nada") << "KRT300" << 5 << "D"
+                                   << "" << 0;
+    QTest::newRow("KRT300 libreria") << "KRT300" << 2 << "D"
+                                     << "libreria 2" << 0;
+    // An upload asks for its file, and tells that this one isn't there and why.
+    QTest::newRow("KRT300 puntos") << "KRT300" << 1 << "C"
+                                   << "" << 1;
+    QTest::newRow("PX7 puntos") << "PX7" << 1 << "C"
+                                << "" << 1;
+    QTest::newRow("KRT300 carga de libreria") << "KRT300" << 2 << "C"
+                                              << "" << 1;
+    QTest::newRow("KRT300 carga rara") << "KRT300" << 5 << "C"
+                                       << "" << 0;
+    QTest::newRow("KRT800 5") << "KRT800" << 5 << "D"
+                              << "ayuda D5 paso 1" << 0;
+    QTest::newRow("KRT800 libreria") << "KRT800" << 2 << "C"
+                                     << "" << 1;
+    QTest::newRow("KRT800 puntos") << "KRT800" << 4 << "C"
+                                   << "" << 1;
+    QTest::newRow("KRT800 replanteo") << "KRT800" << 9 << "C"
+                                      << "" << 1;
+    QTest::newRow("KRT800 alineaciones") << "KRT800" << 6 << "C"
+                                         << "" << 2;
+    QTest::newRow("KRT800 transversales") << "KRT800" << 7 << "C"
+                                          << "" << 2;
+    QTest::newRow("KRT800 rasantes") << "KRT800" << 8 << "C"
+                                     << "" << 2;
+    QTest::newRow("KRT800 de proyecto") << "KRT800" << 10 << "C"
+                                        << "" << 2;
+    QTest::newRow("NV400 0") << "NV400" << 0 << "D"
+                             << "ayuda D0 paso 1" << 0;
+    QTest::newRow("NV400 1 nada") << "NV400" << 1 << "D"
+                                  << "" << 0;
+    QTest::newRow("NV400 carga") << "NV400" << 1 << "C"
+                                 << "" << 2;
+    QTest::newRow("otra") << "OTRA" << 0 << "D"
+                          << "" << 0;
+    QTest::newRow("tipo raro") << "KRT800" << 0 << "X"
+                               << "" << 0;
 }
 
 void TestDespacho::que_arranca_cada_operacion()
@@ -166,13 +206,13 @@ void TestDespacho::que_arranca_cada_operacion()
     QFETCH(QString, ayuda);
     QFETCH(int, avisos);
     Clave_Estacion = maquina;
-    // Only an upload of the level asks for its file.
-    const bool pide_fichero = Familia_De(maquina).carga == Carga::Fichero && tipo == u"C";
+    // An upload that there is asks for its file.
+    const bool pide_fichero = tipo == u"C" && avisos > 0;
     if (pide_fichero) interfaz->ficheros = {Fichero_Elegido{base->Ruta("no.asc"), 1}};
     Lanzar_Operacion(maquina, ope, tipo);
     QCOMPARE(interfaz->peticiones.size(), qsizetype(pide_fichero));
-    QCOMPARE(pasos.filter("ayuda").join(""), ayuda);
-    QCOMPARE(pasos.contains("abierto, descarga"), !ayuda.isEmpty());
+    QCOMPARE(pasos.filter(QRegularExpression("ayuda|libreria")).join(""), ayuda);
+    QCOMPARE(pasos.contains("abierto, descarga"), ayuda.startsWith("ayuda"));
     QCOMPARE(interfaz->avisos.size(), avisos);
 }
 
@@ -241,8 +281,9 @@ void TestDespacho::el_recordatorio_tiene_sus_cuatro_lineas()
     Paridad = "None";
     Bits_Parada = "1";
     const Texto_Recordatorio t = Leer_Recordatorio();
-    QCOMPARE(t.frase,
-             QString("Conecte el aparato al puerto COM3 y configúrelo con los siguientes parámetros:"));
+    QCOMPARE(
+        t.frase,
+        QString("Conecte el aparato al puerto COM3 y configúrelo con los siguientes parámetros:"));
     QCOMPARE(t.datos[0], QString("Velocidad: 9600"));
     QCOMPARE(t.datos[3], QString("Bit de Parada: 1"));
 }

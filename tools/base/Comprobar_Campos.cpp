@@ -88,8 +88,7 @@ QString Motivo_Registro(const Juego& juego, qsizetype i)
         return QStringLiteral("familia desconocida \"%1\"").arg(familia);
     if (!Ofrece(juego, familia, t.Numero(i, "OPE"), QStringLiteral("D")))
         return QStringLiteral("%1 no descarga la operación %2").arg(familia, t.Celda(i, "OPE"));
-    if (QString m = Motivo_Identificador(familia, t.Numero(i, "OPE"), id); !m.isEmpty())
-        return m;
+    if (QString m = Motivo_Identificador(familia, t.Numero(i, "OPE"), id); !m.isEmpty()) return m;
     if (Campos_De(juego, familia, id).isEmpty())
         return QStringLiteral("el registro \"%1\" no tiene campos").arg(id);
     return Motivo_Ancho(juego, familia, id, t.Celda(i, "Ancho"));
@@ -271,8 +270,7 @@ void Comprobar_Repetidos(const Juego& juego, const QString& familia, QList<Falta
     for (qsizetype i = 0; i < t.Filas(); ++i) {
         if (t.Celda(i, "Maquina") != familia) continue;
         const bool general = generales.contains(t.Celda(i, "ID"));
-        if (Es_De_Palabras(familia) &&
-            general != (t.Celda(i, "Marcas") == QLatin1String("GE")))
+        if (Es_De_Palabras(familia) && general != (t.Celda(i, "Marcas") == QLatin1String("GE")))
             faltas << t.Falta_En(i, QStringLiteral("la marca GE y el registro general van juntos"));
         const auto [donde, nuevo] = vistos.emplace(t.Celda(i, "Campo"), i);
         if (nuevo) continue;

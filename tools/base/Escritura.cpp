@@ -2,6 +2,7 @@
 
 #include "core/Error_Ejecucion.h"
 #include "core/Familia.h"
+#include "core/Renovacion.h"
 #include "core/jet/Base.h"
 #include "core/jet/Esquema.h"
 
@@ -80,7 +81,8 @@ void Escribir_Tabla(const Juego& juego, const Tabla& t, Base& base, QList<Falta>
 
 } // namespace
 
-bool Escribir_Base(const Juego& juego, const QString& fichero, QList<Falta>& faltas)
+bool Escribir_Base(const Juego& juego, const QString& fichero, QList<Falta>& faltas,
+                   const QString& sello)
 {
     const QString nueva = fichero + QStringLiteral(".nueva");
     QFile::remove(nueva);
@@ -91,6 +93,7 @@ bool Escribir_Base(const Juego& juego, const QString& fichero, QList<Falta>& fal
         for (const Definicion_Tabla& d : Definiciones())
             Escribir_Tabla(juego, juego.at(d.nombre), *base, faltas);
         transaccion.Confirmar();
+        Sellar_Entregadas(*base, sello);
         base->Close();
     }
     if (faltas.size() > antes) {

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/tablas.md
+
 #include "tools/base/Csv.h"
 
 #include <map>

@@ -2,7 +2,12 @@
 // Usage: capturas DIRECTORIO_INSTALADO CARPETA_SALIDA
 
 #include "app/ventanas/Aplicacion.h"
+#include "app/ventanas/Ventana_Convert.h"
 #include "app/ventanas/Visor_Ayuda.h"
+#include "codes/Peticiones_Codigos.h"
+#include "codes/ui/Dialogos_Codigos.h"
+#include "codes/ui/FrmCodigos.h"
+#include "codes/ui/frmCodigos800.h"
 #include "conversions/ui/Dialogos_Conversion.h"
 #include "conversions/ui/frmConvEst.h"
 #include "core/Ayuda.h"
@@ -16,11 +21,15 @@
 #include "core/ui/FrmProc.h"
 #include "core/ui/Frmutils.h"
 #include "export/GuardarN.h"
+#include "export/impresion/Dialogo_Imprimir.h"
+#include "export/Peticiones_Exportar.h"
+#include "export/ui/ExportDXF.h"
 #include "export/ui/FrmExportar.h"
 #include "formats/Formato_Existente.h"
 #include "formats/Formato_Nuevo.h"
 #include "formats/ModFormatos.h"
 #include "formats/ui/Frmformatos.h"
+#include "rawfiles/Peticiones_Rawfiles.h"
 #include "session/Peticiones_Sesion.h"
 #include "session/ui/FrmDatos.h"
 #include "session/ui/frmDescargas.h"
@@ -30,13 +39,16 @@
 #include "transfer/Peticiones_Transfer.h"
 #include "transfer/ui/FrmIni.h"
 #include "transfer/ui/FrmSplash.h"
+#include "transfer/ui/Frmsplash1.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTableView>
 
 namespace {
@@ -98,6 +110,17 @@ void Transferencias(Escenario& e)
     De<QLabel>(splash, "Rayo").show();
     e.Retratar(*splash.Marco(), "FrmSplash");
     splash.Descargar();
+    auto& envio = Dialogos::Unico<Frmsplash1>();
+    envio.Mostrar();
+    De<QLabel>(envio, "Label1").setText("Enviando Datos...");
+    De<QLabel>(envio, "LblCuenta")
+        .setText("Bloques enviados: 8 de 12; rechazos: 1; repeticiones: 1");
+    De<QProgressBar>(envio, "ProgressBar1").setRange(0, 12);
+    De<QProgressBar>(envio, "ProgressBar1").setValue(8);
+    De<QPushButton>(envio, "BtnIniciar").setEnabled(false);
+    De<QLabel>(envio, "Rayo").show();
+    e.Retratar(*envio.Marco(), "Frmsplash1");
+    envio.Descargar();
 }
 
 void Sesiones(Escenario& e)
@@ -191,12 +214,100 @@ void Exportar(Escenario& e)
     frm.Descargar();
 }
 
+void Dibujos(Escenario& e)
+{
+    const auto sesion = Buscar_Sesion(*Base_Datos, 2);
+    if (!sesion) qFatal("No session");
+    Poner_Campos_Exportar({"Punto", "Coordenada X", "Coordenada Y", "Coordenada Z", "Código"});
+    Trabajo_Exportar trabajo{2, "KRT300", 1, "NXYZCOD"};
+    trabajo.fichero = En_Instalacion("ficheros/linderos.dxf");
+    e.Retratar_Modal(
+        "FrmDXF", [&] { Peticiones_De_Exportar().Abrir_DXF(trabajo); },
+        [](QWidget& w) { De<QComboBox>(w, "CbFormato").setCurrentIndex(1); });
+    auto& lista = Dialogos::Unico<ExportDXF>();
+    lista.Mostrar();
+    e.Retratar(*lista.Marco(), "ExportDXF");
+    lista.Descargar();
+    e.Retratar_Modal(
+        "FrmImpFormato", [&] { Peticiones_De_Formatos().Abrir_Imprimir(trabajo); },
+        [](QWidget& w) {
+            De<QCheckBox>(w, "Check1").setChecked(true);
+            De<QLineEdit>(w, "Text1").setText("Linderos del valle alto");
+            De<QCheckBox>(w, "Check2").setChecked(true);
+            De<QCheckBox>(w, "Check5").setChecked(true);
+        });
+    e.Retratar_Modal("FrmImpEdtCol", [] {
+        Peticiones_De_Impresion().Editar_Columnas({"Punto", "Coordenada X", "Coordenada Y"});
+    });
+    e.Retratar_Modal("FrmImpDat", [] { Peticiones_De_Impresion().Pedir_Trabajo({"Presa", "Ana"}); });
+    e.Retratar_Modal("FrmPlano", [&] { Puertas_De_Descargas().Ver_Plano(*sesion); });
+    Avance_Exportar callado;
+    Transformar_DXF(Dibujo_De_Sesion(trabajo), Modo_DXF::Tres_D, {}, callado);
+    Ventana_Convert visor;
+    visor.show();
+    visor.Abrir(trabajo.fichero);
+    e.Retratar(visor, "Convert");
+}
+
 void Conversiones(Escenario& e)
 {
     Mostrar_frmConvEst(1);
     auto* const frm = Dialogos::Cargado<frmConvEst>();
     e.Retratar(*frm->Marco(), "frmConvEst");
     frm->Descargar();
+}
+
+void Codigos(Escenario& e)
+{
+    Escenario::Modelo("KRT-310");
+    Mostrar_Librerias();
+    auto& serie_a = Dialogos::Unico<FrmCodigos>();
+    De<QLineEdit>(serie_a, "TxtBuscar").setText("bor");
+    Q_EMIT De<QLineEdit>(serie_a, "TxtBuscar").textEdited("bor");
+    e.Retratar(*serie_a.Marco(), "FrmCodigos");
+    e.Retratar_Modal(
+        "FrmCREDLib1", [&] { De<QPushButton>(serie_a, "BtnNueLib").click(); },
+        [](QWidget& w) {
+            De<QLineEdit>(w, "Text1").setText("VALLE");
+            De<QLineEdit>(w, "Text2").setText("Valle alto, camino y linderos");
+        });
+    serie_a.Descargar();
+    e.Retratar_Modal(
+        "FrmCodRecibir", [] { Peticiones_De_Codigos().Pedir_Destino(); },
+        [](QWidget& w) {
+            w.findChildren<QRadioButton*>("OptDes")[1]->click();
+            De<QLineEdit>(w, "Text1").setText("ficheros/recibida.txt");
+        });
+    Escenario::Modelo("KRT-810");
+    Mostrar_Librerias();
+    auto& serie_b = Dialogos::Unico<frmCodigos800>();
+    e.Retratar(*serie_b.Marco(), "frmCodigos800");
+    e.Retratar_Modal("FrmCodMan800", [&] { De<QPushButton>(serie_b, "BtnEdiCod").click(); });
+    e.Retratar_Modal("frmCodCrear800", [&] { De<QPushButton>(serie_b, "BtnEdi").click(); });
+    serie_b.Descargar();
+    Escenario::Modelo("KRT-310");
+}
+
+void Ficheros_Brutos(Escenario& e)
+{
+    const auto sesion = Buscar_Sesion(*Base_Datos, 2);
+    if (!sesion) qFatal("No session");
+    Puertas_Descargas& puertas = Puertas_De_Descargas();
+    e.Retratar_Modal("FrmExpBruto", [&] { puertas.Exportar_En_Bruto(*sesion); });
+    e.Retratar_Modal("FrmExpBrut", [&] { puertas.Exportar_A_Disco(*sesion); });
+    e.Retratar_Modal(
+        "FrmImpBru", [&] { puertas.Importar_Bruto(); },
+        [](QWidget& w) {
+            De<QLineEdit>(w, "Text1").setText("ficheros/campo_krt300.txt");
+            De<QLineEdit>(w, "Text2").setText("Valle alto");
+            De<QComboBox>(w, "CbTipo").setCurrentIndex(0);
+        });
+    e.Retratar_Modal(
+        "Peticion", [] { Peticiones_De_Rawfiles().Pedir_Datos_IGN(); },
+        [](QWidget& w) {
+            De<QLineEdit>(w, "dato1").setText("NV-40217");
+            De<QLineEdit>(w, "dato4").setText("Brigada 1");
+        });
 }
 
 } // namespace
@@ -215,6 +326,9 @@ int main(int argc, char** argv)
     Pequenos(escenario);
     Formatos(escenario);
     Exportar(escenario);
+    Dibujos(escenario);
     Conversiones(escenario);
+    Codigos(escenario);
+    Ficheros_Brutos(escenario);
     return 0;
 }

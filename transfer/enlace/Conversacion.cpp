@@ -15,6 +15,13 @@ namespace {
 // One user, one cable: the transfer under way is one for the program, not for a dialog.
 Conversacion* en_curso = nullptr;
 
+// All there are: one that waits for its button holds the port too.
+QList<Conversacion*>& Todas()
+{
+    static QList<Conversacion*> todas;
+    return todas;
+}
+
 } // namespace
 
 Conversacion* Transferencia_En_Curso()
@@ -33,6 +40,7 @@ bool Reclamar_La_En_Curso()
 Conversacion::Conversacion(std::unique_ptr<Puerto_Serie> p, QObject* padre)
     : QObject(padre), puerto(std::move(p))
 {
+    Todas() << this;
     connect(puerto.get(), &Puerto_Serie::evento, this, [this] {
         try {
             Evento();
@@ -48,6 +56,7 @@ Conversacion::Conversacion(std::unique_ptr<Puerto_Serie> p, QObject* padre)
 
 Conversacion::~Conversacion()
 {
+    Todas().removeOne(this);
     puerto->disconnect(this);
     if (En_Marcha()) en_curso = nullptr;
 }
@@ -57,6 +66,7 @@ bool Conversacion::Abrir_Puerto()
     try {
         Poner_Habilitado(true);
         if (puerto->Abierto()) return true;
+        if (Reclamar_El_Puerto()) return false;
         puerto->Abrir(Numero_Puerto(Puerto), Texto_Ajustes_Puerto());
         puerto->RThreshold = 1;
         return true;
@@ -69,6 +79,17 @@ bool Conversacion::Abrir_Puerto()
     }
 }
 
+bool Conversacion::Reclamar_El_Puerto() const
+{
+    for (Conversacion* const otra : std::as_const(Todas())) {
+        if (otra == this || !otra->puerto->Abierto()) continue;
+        Interfaz_Actual().Pitar();
+        Q_EMIT otra->reclamada();
+        return true;
+    }
+    return false;
+}
+
 void Conversacion::Cerrar_Puerto()
 {
     if (puerto->Abierto()) puerto->Cerrar();
@@ -79,6 +100,26 @@ void Conversacion::Abandonar()
 {
     Cerrar_Puerto();
     if (En_Marcha()) Acabar();
+}
+
+bool Conversacion::Confirmar_Cierre()
+{
+    if (!En_Marcha() || Interfaz_Actual().Terminada()) return true;
+    if (En_Aviso()) return false;
+    const Caja_Abierta caja(*this);
+    return Interfaz_Actual().Preguntar("La transferencia no ha terminado, ¿ Desea abandonarla ?");
+}
+
+Conversacion::Caja_Abierta::Caja_Abierta(Conversacion& conversacion) : de(&conversacion)
+{
+    ++de->cajas;
+}
+
+Conversacion::Caja_Abierta::~Caja_Abierta()
+{
+    if (!de) return;
+    --de->cajas;
+    if (de->puerto->Abierto()) QTimer::singleShot(0, de->puerto.get(), &Puerto_Serie::Entregar);
 }
 
 bool Conversacion::En_Marcha() const

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <QObject>
+#include <QPointer>
 
 /// A place of the moving picture `Rayo`, in twips (15 to a pixel).
 struct Lugar_Rayo {
@@ -26,13 +27,17 @@ public:
     ~Conversacion() override;
 
     /// Enables `BtnIniciar` and opens the port of the settings; a port already open is reused as it
-    /// is. @return false after its message
+    /// is. While the dialog of another conversation has a port open, beeps and brings that one up.
+    /// @return false then, and after the message of a port that can't be opened
     bool Abrir_Puerto();
     /// Closes the port if it is open; no event comes from it afterwards.
     void Cerrar_Puerto();
     /// What the dialog answers `closeEvent` with: the port is freed, a transfer under way ends
     /// there and then, and with it the wait it may be in.
     virtual void Abandonar();
+    /// Before its dialog is closed: in mid-transfer the user is asked, and bytes and ticks wait
+    /// meanwhile. @return false when the dialog has to stay
+    bool Confirmar_Cierre();
 
     /// A transfer of this conversation began and has not ended.
     bool En_Marcha() const;
@@ -82,8 +87,25 @@ protected:
 
     Puerto_Serie& El_Puerto() { return *puerto; }
 
+    /// A box of this transfer stands while one of these lives: bytes and ticks wait, and the bytes
+    /// are delivered behind it.
+    class Caja_Abierta {
+    public:
+        explicit Caja_Abierta(Conversacion& conversacion);
+        ~Caja_Abierta();
+        Caja_Abierta(const Caja_Abierta&) = delete;
+        Caja_Abierta& operator=(const Caja_Abierta&) = delete;
+
+    private:
+        QPointer<Conversacion> de;
+    };
+    bool En_Aviso() const { return cajas > 0; }
+
 private:
+    bool Reclamar_El_Puerto() const;
+
     std::unique_ptr<Puerto_Serie> puerto;
+    int cajas = 0;
     QString etiqueta;
     int lugar = 0;
     bool iniciar_habilitado = true, rayo_visible = false;

@@ -53,7 +53,15 @@ void Descarga::Preparar_Dialogo()
 
 void Descarga::BtnIniciar()
 {
-    if (!Iniciar_Habilitado() || !Empezar()) return;
+    if (!Empezar_Recepcion()) return;
+    if (!familia->arranque.isEmpty()) Enviar(familia->arranque);
+    timer1.start(Reloj_Actual().Espera(MS_SONDEO));
+    QTimer::singleShot(0, &El_Puerto(), &Puerto_Serie::Entregar);
+}
+
+bool Descarga::Empezar_Recepcion()
+{
+    if (!Iniciar_Habilitado() || !Empezar()) return false;
     const Serie_En_Linea* const serie = Serie_De(*familia);
     receptor = serie ? serie->receptor() : nullptr;
     resultado = {};
@@ -62,14 +70,12 @@ void Descarga::BtnIniciar()
     Situar_Rayo();
     Poner_Etiqueta(ESPERANDO);
     Interfaz_Actual().Repintar();
-    if (!familia->arranque.isEmpty()) Enviar(familia->arranque);
-    timer1.start(Reloj_Actual().Espera(MS_SONDEO));
-    QTimer::singleShot(0, &El_Puerto(), &Puerto_Serie::Entregar);
+    return true;
 }
 
 void Descarga::Tic()
 {
-    if (en_aviso) return;
+    if (en_aviso || En_Aviso()) return;
     if (!familia->sondeo.isEmpty()) Enviar(familia->sondeo);
     if (++intentos == INTENTOS_MAXIMOS) Error_De_Cable();
 }
@@ -90,7 +96,8 @@ void Descarga::Error_De_Cable()
 
 void Descarga::Evento()
 {
-    if (Iniciar_Habilitado() || en_aviso || procesando) return;
+    if (Iniciar_Habilitado() && sin_boton && !En_Aviso()) Empezar_Recepcion();
+    if (Iniciar_Habilitado() || en_aviso || En_Aviso() || procesando) return;
     Recibir_Byte();
 }
 
@@ -153,7 +160,9 @@ void Descarga::Abandonar()
 
 void Descarga::Acabar()
 {
-    bool guardada = resultado.completa && !resultado.sesiones.isEmpty();
+    // A library is stored without a session.
+    const bool sin_sesion = Operacion(datos.operacion) == Operacion::Libreria;
+    bool guardada = resultado.completa && (sin_sesion || !resultado.sesiones.isEmpty());
     try {
         if (guardada && !Base_Datos) throw Error_Ejecucion(91);
         if (guardada) Base_Datos->Sincronizar();

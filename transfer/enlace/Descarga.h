@@ -27,6 +27,9 @@ public:
     /// whole transfer, whatever model is chosen meanwhile.
     void Preparar(int operacion, const QString& nombre, int destino = 0);
 
+    /// The first byte begins the reception as well, without the button.
+    void Atender_Sin_Boton() { sin_boton = true; }
+
     /// The button: polls, begins the waiting and takes what already waits in the port.
     void BtnIniciar();
     /// One tick of the 500 ms timer.
@@ -54,6 +57,7 @@ protected:
 
 private:
     void Preparar_Dialogo();
+    bool Empezar_Recepcion();
     void Recibir_Byte();
     void Error_De_Cable();
     void Procesar();
@@ -65,5 +69,5 @@ private:
     Datos_Recepcion datos;
     Resultado_Recepcion resultado;
     int intentos = 0, eventos = 0;
-    bool en_aviso = false, procesando = false;
+    bool en_aviso = false, procesando = false, sin_boton = false;
 };

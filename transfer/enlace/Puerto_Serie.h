@@ -14,8 +14,7 @@ public:
 
     /// Opens port `numero` (from 1) with `ajustes` as "9600,N,8,1".
     /// @throws Error_Ejecucion 8002 no such port, 8005 already in use, 70 no permission (the group
-    /// to
-    ///         join is named), 380 settings that no port takes, 8015 refused by the device
+    ///         to join is named), 380 settings that no port takes, 8015 refused by the device
     virtual void Abrir(int numero, const QString& ajustes) = 0;
     virtual void Cerrar() = 0;
     virtual bool Abierto() const = 0;

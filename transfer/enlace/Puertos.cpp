@@ -12,8 +12,7 @@ QString Dispositivo_De_Puerto(int numero)
 #ifdef Q_OS_WIN
     return nombre;
 #else
-    const QString del_fichero =
-        Perfil::Leer(En_Instalacion("Puertos.ini"), "PUERTOS", nombre, QString());
+    QString del_fichero = Perfil::Leer(En_Instalacion("Puertos.ini"), "PUERTOS", nombre, QString());
     if (!del_fichero.isEmpty()) return del_fichero;
     const auto presentes = QSerialPortInfo::availablePorts();
     return numero <= presentes.size() ? presentes[numero - 1].systemLocation() : QString();

@@ -4,6 +4,7 @@
 #include "core/ModEstTotal.h"
 #include "core/ModLOG.h"
 #include "core/Sesiones.h"
+#include "transfer/Peticiones_Transfer.h"
 
 namespace {
 
@@ -162,6 +163,8 @@ std::optional<Resultado_Recepcion> Guardar_Descarga_KRT300(const Datos_Recepcion
     case Operacion::Coordenadas:
     case Operacion::Calculadas:
         break;
+    case Operacion::Libreria:
+        return Peticiones_De_Transfer().Guardar_Libreria(datos);
     default:
         return std::nullopt;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/krt300.md
+
 #include "transfer/enlace/Recepcion.h"
 
 #include <memory>
@@ -38,5 +40,5 @@ void Contar_Puntos(qint64 id);
 
 /// Makes the session of a finished download, stores its records and counts its points, outside any
 /// transaction: a failure leaves what was written. Null for an operation other than measurements
-/// and coordinates.
+/// and coordinates; a code library goes to those who keep them.
 std::optional<Resultado_Recepcion> Guardar_Descarga_KRT300(const Datos_Recepcion& datos);

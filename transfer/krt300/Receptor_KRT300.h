@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/krt300.md
+
 #include "transfer/enlace/Receptor.h"
 
 /// Receives from a KRT300 or PX7. A frame is STX, data, one sequence digit, three digits of

@@ -4,8 +4,7 @@
 #include "core/ModEstTotal.h"
 #include "core/Sesiones.h"
 #include "session/Identificador.h"
-
-#include <QSet>
+#include "transfer/krt800/Perfiles_KRT800.h"
 
 namespace {
 
@@ -138,6 +137,20 @@ bool Guardar_Lineas(Base& base, const Datos_Recepcion& datos, qint64 id, qint64&
     return true;
 }
 
+// Cancelled, the lines stay as they came: they are stored all the same.
+void Ordenar(qint64 id, bool con_progreso)
+{
+    bool empezado = false;
+    Ordenar_Perfiles(*Base_Datos, id, [&](qint64 hechas, qint64 todas) {
+        if (!con_progreso) return true;
+        if (!std::exchange(empezado, true))
+            Interfaz_Actual().Proceso_Etiqueta("Ordenando los perfiles...", todas);
+        Interfaz_Actual().Proceso_Avanzar(hechas);
+        Interfaz_Actual().Dejar_Pasar();
+        return !Proceso_Cancelado;
+    });
+}
+
 } // namespace
 
 bool Guardar_KRT800(const Datos_Recepcion& datos, QString& numero)
@@ -167,53 +180,12 @@ bool Guardar_KRT800(const Datos_Recepcion& datos, QString& numero)
     }
     if (Operacion(datos.operacion) == Operacion::Perfiles && !numero.isEmpty()) {
         try {
-            Ordenar_Perfiles(*Base_Datos, numero.toLongLong());
+            Ordenar(numero.toLongLong(), con_progreso);
         } catch (...) {
             Avisar_Fallo(Error_En_Curso(), mensaje);
         }
     }
     return enteras;
-}
-
-void Ordenar_Perfiles(Base& base, qint64 id)
-{
-    Transaccion transaccion(base);
-    QList<QString> lineas;
-    QList<qint64> secuencias;
-    for (Recorrido filas =
-             base.Recorrer("SELECT Secuencia, Datos FROM Registros WHERE ID = ?", {id});
-         filas.Siguiente();) {
-        secuencias << filas.Entero(0);
-        lineas << filas.Texto(1);
-    }
-    QSet<qint64> copiadas;
-    for (qsizetype i = 0; i < lineas.size(); ++i) {
-        if (copiadas.contains(secuencias[i])) continue;
-        const qint64 p = Basico::InStr(1, lineas[i], u",");
-        const qint64 q = Basico::InStr(p + 1, lineas[i], u",");
-        // Odd on purpose: the second field is read to a length of q-1, counted from its start;
-        // behind a number the rest of it changes no value.
-        Recorrido grupo = base.Recorrer(
-            QStringLiteral("SELECT Punto,Secuencia,Datos,DatosG FROM REGISTROS WHERE ID = %1 AND "
-                           "Mid(Datos, 1, %2) = Mid('%3', 1,%2) "
-                           "ORDER BY val(Mid(Datos, %4,%5)) ASC")
-                // All at once: a "%" of the line itself is no place for the next value.
-                .arg(QString::number(id), QString::number(p), lineas[i], QString::number(p + 1),
-                     QString::number(qMax<qint64>(q - 1, 0))));
-        QList<QVariantList> filas;
-        while (grupo.Siguiente())
-            if (const qint64 s = grupo.Entero(1); !copiadas.contains(s)) {
-                copiadas.insert(s);
-                filas.append({0, grupo.Texto(0), s, grupo.Texto(2), grupo.Texto(3)});
-            }
-        Insercion copia =
-            base.Preparar_Insercion("Registros", {"ID", "Punto", "Secuencia", "Datos", "DatosG"});
-        for (const QVariantList& f : filas)
-            copia.Anadir(f);
-    }
-    base.Execute(QStringLiteral("DELETE FROM Registros WHERE ID = %1").arg(id));
-    base.Execute(QStringLiteral("UPDATE Registros SET ID = %1 Where Id=0").arg(id));
-    transaccion.Confirmar();
 }
 
 std::optional<Resultado_Recepcion> Guardar_Descarga_KRT800(const Datos_Recepcion& datos)

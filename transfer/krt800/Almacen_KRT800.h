@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/krt800.md
+
 #include "transfer/enlace/Recepcion.h"
 
 #include <memory>
@@ -27,12 +29,6 @@ private:
     struct Datos;
     std::unique_ptr<Datos> d;
 };
-
-/// Rewrites the rows of a session of operation 7 so that those of one profile (same first field)
-/// stand together, ordered by their second: each row once, profiles in order of first appearance,
-/// sequence numbers untouched. In one transaction that an error undoes.
-/// @throws Error_Ejecucion 3075 when a line holds an apostrophe
-void Ordenar_Perfiles(Base& base, qint64 id);
 
 /// Stores a finished download of any operation.
 std::optional<Resultado_Recepcion> Guardar_Descarga_KRT800(const Datos_Recepcion& datos);

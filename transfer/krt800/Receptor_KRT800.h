@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/krt800.md
+
 #include "transfer/enlace/Receptor.h"
 
 /// Receives from a KRT800: plain text without frames or answers, ended by EOT.

@@ -4,7 +4,9 @@
 #include "core/Ficheros.h"
 #include "core/ModEstTotal.h"
 #include "session/Desplazamiento.h"
+#include "transfer/Lineas_Envio.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -25,11 +27,15 @@ void Subir_Diseno(Clase_Conversion clase, const QString& filtro, int guardar,
     if (guardar != 1 && envio.enviar) envio.enviar(texto);
 }
 
+constexpr int CAMPOS_MINIMOS = 4;
+
 // A point line for the instrument; nothing when the line has too few fields.
-std::optional<QString> Linea_De_Punto(QString linea, const QString& separador, bool offsets)
-{
+// @param numero  of the line, for the report
+std::optional<QString> Linea_De_Punto(QString linea, const QString& separador, bool offsets,
+                                      qint64 numero)
+try {
     if (separador == u" ") linea = Quitar_Espacios_Dobles(linea);
-    if (Contar_Trozos(linea, separador) < 4) return std::nullopt;
+    if (Contar_Trozos(linea, separador) < CAMPOS_MINIMOS) return std::nullopt;
     const QString sin = QStringLiteral("0");
     const QString* const desplazamientos[] = {&Desp_X, &Desp_Y, &Desp_Z};
     QStringList campos = {Trozo(1, linea, separador)};
@@ -38,7 +44,27 @@ std::optional<QString> Linea_De_Punto(QString linea, const QString& separador, b
                                      QString::fromUtf16(FORMATO_COORDENADA),
                                      Trozo(i + 2, linea, separador), QStringLiteral("6,3"));
     campos << Trozo(5, linea, separador);
+    for (const QString& campo : {campos.first(), campos.last()})
+        Comprobar_Campo(campo, u',', numero, linea);
     return campos.join(u',');
+} catch (const Error_Ejecucion& e) {
+    if (e.numero == 5) throw;
+    throw Error_De_Linea(e.numero, numero, linea);
+}
+
+// The lines of a point file, those that hold nothing left out of the sending.
+QStringList Leer_Lineas_Puntos(const QString& fichero, const QString& separador)
+{
+    QStringList lineas = Leer_Lineas_Envio(fichero);
+    const auto tiene_punto = [&](const QString& linea) {
+        return Contar_Trozos(separador == u" " ? Quitar_Espacios_Dobles(linea) : linea,
+                             separador) >= CAMPOS_MINIMOS;
+    };
+    // Short lines repeat the one before; where all are short the separator is another.
+    if (std::ranges::any_of(lineas, tiene_punto)) return lineas;
+    lineas.removeIf([](const QString& linea) { return linea.trimmed().isEmpty(); });
+    Avisar_Separador(lineas.value(0));
+    return {};
 }
 
 } // namespace
@@ -61,7 +87,9 @@ void Subir_Transversales(const QString& filtro, int Guardar, const Envio_Diseno&
 bool Leer_Fichero_Envio(const QString& fichero, QString& texto, const QString& separador,
                         bool offsets, int tipo)
 try {
-    const QStringList lineas = Ficheros::Leer_Lineas(fichero);
+    const QStringList lineas = tipo == ENVIO_PUNTOS ? Leer_Lineas_Puntos(fichero, separador)
+                                                    : Ficheros::Leer_Lineas(fichero);
+    if (tipo == ENVIO_PUNTOS && lineas.isEmpty()) return false;
     qint64 largo = 0;
     for (const QString& linea : lineas)
         largo += linea.size() + FIN_LINEA.size();
@@ -72,14 +100,17 @@ try {
 
     qint64 hecho = 0;
     QString salida;
-    for (const QString& linea : lineas) {
+    for (qsizetype i = 0; i < lineas.size(); ++i) {
         if (Proceso_Cancelado) return false;
-        if (tipo == ENVIO_PUNTOS)
-            salida = Linea_De_Punto(linea, separador, offsets).value_or(salida);
-        else
-            salida = linea;
-        texto += salida + FIN_LINEA;
+        const QString& linea = lineas[i];
         hecho += linea.size() + FIN_LINEA.size();
+        if (tipo == ENVIO_CONVERTIDO)
+            salida = linea;
+        else if (linea.trimmed().isEmpty())
+            continue;
+        else
+            salida = Linea_De_Punto(linea, separador, offsets, i + 1).value_or(salida);
+        texto += salida + FIN_LINEA;
         if (proceso) Interfaz_Actual().Proceso_Avanzar(hecho);
     }
     return true;

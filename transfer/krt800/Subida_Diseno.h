@@ -31,9 +31,11 @@ enum Tipo_Envio { ENVIO_PUNTOS = 4, ENVIO_CONVERTIDO = 6 };
 /// @param offsets  adds `Desp_X`, `Desp_Y`, `Desp_Z` to the coordinates
 /// @param tipo  `ENVIO_PUNTOS`: lines "name,x,y,z,code" are made of lines of four fields or more; a
 ///              line of fewer repeats the line before, as the instrument's files have always been
-///              read. `ENVIO_CONVERTIDO`: the lines as they are
-/// @return false when the user cancelled, and after a failure, which a box reports (13 for a
-///         coordinate that is no number); `texto` is then not to be sent
+///              read, and blank lines are passed over. `ENVIO_CONVERTIDO`: the lines as they are
+/// @return false when the user cancelled, and after a box: no line has the fields of a point, or a
+///         failure (53 for an absent file, 321 for another encoding, 13 for a coordinate that is no
+///         number, 5 for a character that the wire doesn't take; the line is named); `texto` is then
+///         not to be sent
 bool Leer_Fichero_Envio(const QString& fichero, QString& texto, const QString& separador,
                         bool offsets, int tipo);
 

@@ -27,7 +27,7 @@ struct Reparto {
 Reparto Repartir(Base& base, const Datos_Recepcion& datos)
 {
     const auto nueva = [&](const QString& nombre) {
-        const QString id = Nueva_Sesion(nombre, datos.operacion, datos.maquina, datos.maqdes);
+        QString id = Nueva_Sesion(nombre, datos.operacion, datos.maquina, datos.maqdes);
         if (id.isEmpty()) throw Error_Ejecucion(6);
         return id;
     };

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/nv400.md
+
 #include "transfer/enlace/Receptor.h"
 
 /// The level's fixed lines, with their own checksums ("Z", "&", "R" and "!").

@@ -7,6 +7,8 @@
 #include "transfer/ui/FrmIni.h"
 #include "transfer/ui/FrmRecuerde.h"
 #include "transfer/ui/FrmSplash.h"
+#include "transfer/ui/Frmsplash1.h"
+#include "transfer/ui/FrmSplash2.h"
 
 void Conectar_Dialogos_Transfer()
 {
@@ -21,4 +23,12 @@ void Conectar_Dialogos_Transfer()
     };
     pide.Dialogo_Descarga = [] { return &Dialogos::Unico<FrmSplash>().La_Descarga(); };
     pide.Mostrar_Descarga = [] { Dialogos::Unico<FrmSplash>().Mostrar(); };
+    pide.Dialogo_Recepcion = [] { return &Dialogos::Unico<FrmSplash2>().La_Descarga(); };
+    pide.Mostrar_Recepcion = [] { Dialogos::Unico<FrmSplash2>().Mostrar(); };
+    pide.Dialogo_Envio = [] { return &Dialogos::Unico<Frmsplash1>().El_Envio(); };
+    pide.Mostrar_Envio = [] {
+        const QPointer<Frmsplash1> frm(&Dialogos::Unico<Frmsplash1>());
+        frm->Mostrar_Modal();
+        if (frm) frm->Descargar();
+    };
 }

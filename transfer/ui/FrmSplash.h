@@ -11,7 +11,7 @@ class QLabel;
 class FrmSplash : public Ventana {
     Q_OBJECT
 public:
-    FrmSplash();
+    FrmSplash() : FrmSplash(QStringLiteral("FrmSplash")) {}
 
     Descarga& La_Descarga() { return *descarga; }
 
@@ -20,14 +20,15 @@ public:
     static std::function<std::unique_ptr<Puerto_Serie>()> Hacer_Puerto;
 
 protected:
+    explicit FrmSplash(const QString& nombre);
     void Colocar() override;
+    bool Consiente_Cerrar() override;
     void Al_Descargar() override;
 
 private:
-    QWidget* Hacer_Dibujo();
     void Conectar();
 
     Descarga* descarga;
-    QLabel *Label1, *Rayo;
+    QLabel* Label1;
     QPushButton* BtnIniciar;
 };

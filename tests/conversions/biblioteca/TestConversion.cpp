@@ -59,9 +59,9 @@ void TestConversion::el_destino_no_puede_ser_el_origen()
         QCOMPARE(Conversion::Convertir(p, informe, Conversion::Omisiones::No_Cuentan,
                                        [] { return QByteArray("x"); }),
                  0);
-        QCOMPARE(informe.Lineas(),
-                 QStringList{"El fichero destino debe ser diferente al origen: \"" + p.salida +
-                             "\""});
+        QCOMPARE(
+            informe.Lineas(),
+            QStringList{"El fichero destino debe ser diferente al origen: \"" + p.salida + "\""});
         QCOMPARE(Leer(ruta), "del proyectista");
     }
 }

@@ -1,5 +1,8 @@
+#include "core/Copias.h"
+#include "core/Sesiones.h"
 #include "core/Sucesos.h"
 #include "core/ui/Dialogos.h"
+#include "core/ui/FrmCopias.h"
 #include "core/ui/FrmKRT.h"
 #include "core/ui/Frmutils.h"
 #include "tests/apoyo/Base_De_Prueba.h"
@@ -33,6 +36,7 @@ private Q_SLOTS:
     void cerrar_oculta_y_guarda_lo_tocado();
     void la_ayuda_es_la_suya();
     void guarda_su_sitio_al_descargarse();
+    void dice_donde_esta_la_base_y_vuelve_a_una_copia();
     void krt_va_en_el_orden_de_la_tabla();
     void krt_ensena_la_foto();
     void krt_sin_elegir_pita_y_sigue();
@@ -260,6 +264,40 @@ void TestFrmutils::guarda_su_sitio_al_descargarse()
     frm.Descargar();
     QCOMPARE(sala->Leer("Posicion.ini"),
              QByteArray("[CONFIGURACION]\r\nstate=0\r\ntop=44\r\nleft=33\r\n"));
+}
+
+void TestFrmutils::dice_donde_esta_la_base_y_vuelve_a_una_copia()
+{
+    QCOMPARE(De<QLabel>("LblBase").text(), Lugar_De_La_Base());
+    Nueva_Sesion("Obra", 0);
+    QVERIFY(Compactar_BD());
+    Eliminar_Sesion(1);
+    QFile::remove(sala->Ruta("MDB/copias/sobra"));
+    sala->Escribir("MDB/copias/EstTotal_2001-01-01.mdb", "rota");
+    interfaz->respuestas = {false, true};
+    const Al_Abrirse abierta(
+        [&](QWidget& w) {
+            auto& lista = Hijo<QListWidget>(w, "LstCopias");
+            auto& recuperar = Hijo<QPushButton>(w, "BtnRecuperar");
+            QCOMPARE(lista.count(), 3);
+            for (int i = 0; i < lista.count(); ++i) {
+                lista.setCurrentRow(i);
+                QCOMPARE(recuperar.isEnabled(), !lista.item(i)->text().contains("dañada"));
+            }
+            for (int i = 0; i < lista.count() && !recuperar.isEnabled(); ++i)
+                lista.setCurrentRow(i);
+            recuperar.click(); // the question is answered with no
+            QCOMPARE(Ultima_Sesion(), QString());
+            for (int i = 0; i < lista.count() && !recuperar.isEnabled(); ++i)
+                lista.setCurrentRow(i);
+            recuperar.click();
+        },
+        "FrmCopias");
+    De<QPushButton>("BtnRecuperar").click();
+    QCOMPARE(abierta.veces, 1);
+    QCOMPARE(Ultima_Sesion(), QStringLiteral("1"));
+    QCOMPARE(interfaz->avisos.size(), 3);
+    QVERIFY(!Dialogos::Cargado<FrmCopias>());
 }
 
 void TestFrmutils::krt_va_en_el_orden_de_la_tabla()

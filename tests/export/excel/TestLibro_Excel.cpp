@@ -176,7 +176,8 @@ void TestLibro_Excel::las_formas_se_llaman_por_su_conexion()
     QCOMPARE(Numero_De_Error([&] { libro.Comprobar(antigua); }), 3251);
     QCOMPARE(Numero_De_Error([&] { libro.Comprobar(de_1995); }), 3125);
     QCOMPARE(Numero_De_Error([&] { libro.Comprobar(Forma_De(Version_Excel::Excel_8)); }), 0);
-    while (libro.Numero_Hojas() <= 4096) libro.Agregar_Hoja(QString::number(libro.Numero_Hojas()));
+    while (libro.Numero_Hojas() <= 4096)
+        libro.Agregar_Hoja(QString::number(libro.Numero_Hojas()));
     QCOMPARE(Numero_De_Error([&] { libro.Comprobar(Forma_De(Version_Excel::Excel_8)); }), 3251);
     const double infinito = std::numeric_limits<double>::infinity();
     QCOMPARE(Numero_De_Error([&] { libro.Hoja(0).Poner(0, 0, infinito); }), 5);

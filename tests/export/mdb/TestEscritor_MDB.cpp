@@ -83,14 +83,14 @@ void TestEscritor_MDB::una_celda_de_mas_de_ochenta()
 {
     const QString larga(81, u'x');
     Datos_Formateados datos = Datos({{"a"}, {"b"}, {"c"}}, {"A"});
-    datos.filas[0][1] = larga;
+    datos.filas[0] = {"a", larga, "c"};
     QVERIFY(!Escribir("MDB", Ruta(), datos, {}));
     QVERIFY(guion->avisos[0].texto.contains("\r(3163) "));
     // The rows before it stay.
     QCOMPARE(Lectura_Jet::Exportar(Ruta(), "Datos"), QList<QStringList>{{"a"}});
-    datos.filas[0][1] = larga.chopped(1);
+    datos.filas[0] = {"a", larga.chopped(1), "c"};
     QVERIFY(Escribir("MDB", Ruta(), datos, {}));
-    datos.filas[0][2] = larga;
+    datos.filas[0] = {"a", larga.chopped(1), larga};
     QVERIFY(!Escribir("MDB", Ruta(), datos, {}));
     QCOMPARE(guion->avisos.size(), 2);
     QCOMPARE(Lectura_Jet::Exportar(Ruta(), "Datos").size(), 3);

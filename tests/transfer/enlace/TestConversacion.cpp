@@ -45,6 +45,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void una_sola_transferencia_a_la_vez();
+    void el_puerto_de_otra_no_se_abre();
+    void cerrar_a_medias_pregunta();
     void destruida_deja_sitio();
     void abandonar_cierra_y_acaba_una_vez();
     void un_error_al_atender_calla();
@@ -94,6 +96,7 @@ std::unique_ptr<Charla> TestConversacion::Nueva()
 
 void TestConversacion::una_sola_transferencia_a_la_vez()
 {
+    charla->Cerrar_Puerto();
     const auto otra = Nueva();
     QSignalSpy reclamada(charla.get(), &Conversacion::reclamada);
     QVERIFY(!Reclamar_La_En_Curso());
@@ -111,6 +114,40 @@ void TestConversacion::una_sola_transferencia_a_la_vez()
     charla->Acabar();
     QVERIFY(otra->Empezar());
     QCOMPARE(Transferencia_En_Curso(), otra.get());
+}
+
+// A dialog that waits for its button holds the port as well.
+void TestConversacion::el_puerto_de_otra_no_se_abre()
+{
+    QSignalSpy reclamada(charla.get(), &Conversacion::reclamada);
+    Puerto_Memoria* const el_suyo = puerto;
+    const auto otra = Nueva();
+    QVERIFY(!puerto->Abierto());
+    QVERIFY(!otra->Abrir_Puerto());
+    QCOMPARE(interfaz->pitidos, 2);
+    QCOMPARE(reclamada.size(), 2);
+    QVERIFY(charla->Abrir_Puerto());
+    charla->Cerrar_Puerto();
+    QVERIFY(otra->Abrir_Puerto());
+    QVERIFY(puerto->Abierto() && !el_suyo->Abierto());
+}
+
+// Before its dialog is closed the user is asked, and what comes waits.
+void TestConversacion::cerrar_a_medias_pregunta()
+{
+    QVERIFY(charla->Confirmar_Cierre());
+    QVERIFY(charla->Empezar());
+    interfaz->respuestas = {false, true};
+    interfaz->al_avisar = [this](const Interfaz_Guion::Aviso&) {
+        QVERIFY(!charla->Confirmar_Cierre());
+    };
+    QVERIFY(!charla->Confirmar_Cierre());
+    QVERIFY(charla->Confirmar_Cierre());
+    QCOMPARE(interfaz->Textos(),
+             QStringList(2, "La transferencia no ha terminado, ¿ Desea abandonarla ?"));
+    QVERIFY(charla->En_Marcha());
+    interfaz->Terminar(0);
+    QVERIFY(charla->Confirmar_Cierre());
 }
 
 void TestConversacion::destruida_deja_sitio()

@@ -485,7 +485,6 @@ void TestDescarga::sin_permiso_de_otra_no_empieza()
     Puerto_Memoria& otro = *p;
     Descarga segunda(std::move(p));
     QSignalSpy reclamada(descarga.get(), &Descarga::reclamada);
-    QVERIFY(segunda.Abrir_Puerto());
     segunda.Preparar(0, "Segunda");
     segunda.BtnIniciar();
     QCOMPARE(interfaz->pitidos, 1);
@@ -493,6 +492,7 @@ void TestDescarga::sin_permiso_de_otra_no_empieza()
     QVERIFY(!segunda.En_Marcha() && segunda.Iniciar_Habilitado());
     QCOMPARE(otro.enviado, QByteArray());
     descarga->Abandonar();
+    QVERIFY(segunda.Abrir_Puerto());
     segunda.BtnIniciar();
     QVERIFY(segunda.En_Marcha());
     QCOMPARE(otro.enviado, QByteArray("\x05"));

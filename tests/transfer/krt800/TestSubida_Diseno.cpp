@@ -436,12 +436,11 @@ void TestSubida_Diseno::puntos_de_envio_data()
                                    << "P1,1.000,2.000,3.000,C\r\n";
     QTest::newRow("linea corta repite la anterior")
         << QByteArray("P1,1,2,3,A\nP2,1,2\n\nP3,1,1,1,\n") << ","
-        << "P1,1.000,2.000,3.000,A\r\nP1,1.000,2.000,3.000,A\r\nP1,1.000,2.000,3.000,A\r\n"
-           "P3,1.000,1.000,1.000,\r\n";
+        << "P1,1.000,2.000,3.000,A\r\nP1,1.000,2.000,3.000,A\r\nP3,1.000,1.000,1.000,\r\n";
     QTest::newRow("linea corta al principio") << QByteArray("P1\nP2,1,2,3\n") << ","
                                               << "\r\nP2,1.000,2.000,3.000,\r\n";
-    QTest::newRow("vacio") << QByteArray() << ","
-                           << "";
+    QTest::newRow("lineas en blanco") << QByteArray("\n  \nP1,1,2,3\n\t\n") << ","
+                                      << "P1,1.000,2.000,3.000,\r\n";
 }
 
 void TestSubida_Diseno::puntos_de_envio()
@@ -478,7 +477,8 @@ void TestSubida_Diseno::puntos_con_letras_no_se_envian()
     QVERIFY(!Leer_Fichero_Envio(base.Ruta("no.asc"), texto, ",", true, ENVIO_PUNTOS));
     QCOMPARE(guion.avisos.size(), 2);
     QCOMPARE(guion.avisos[0].texto,
-             QString("Se produjo un error al Procesar el Fichero\r(13) No coinciden los tipos"));
+             QString("Se produjo un error al Procesar el Fichero\r(13) No coinciden los tipos "
+                     "(línea 2: P2,1,x,3,A)"));
     QCOMPARE(guion.avisos[0].icono, Icono::Critico);
     QVERIFY(guion.avisos[1].texto.startsWith("Se produjo un error al Procesar el Fichero\r(53) "));
 }

@@ -1,5 +1,5 @@
-#include "core/Sumas.h"
 #include "core/Sucesos.h"
+#include "core/Sumas.h"
 #include "core/ui/Dialogos.h"
 #include "core/ui/FrmAyuda.h"
 #include "session/ui/frmDescargas.h"
@@ -208,8 +208,9 @@ void TestTransferencias_Ui::arrastrar_a_su_dibujo_empieza()
     frm.Mostrar();
     Hijo<QListWidget>(frm, "LVD").setCurrentRow(1);
     sala->Fila("CONVERT", {{"clave", "x"}});
+    sala->interfaz.ficheros = {Fichero_Elegido{sala->Ruta("no.txt"), 1}};
     Soltar(Hijo<QLabel>(frm, "Image2"), "LVD");
-    QVERIFY(sala->Tomar_Avisos().join(' ').contains("no está disponible"));
+    QCOMPARE(sala->Tomar_Avisos(), QStringList{"El Fichero especificado no existe"});
 }
 
 void TestTransferencias_Ui::arrastrar_al_otro_dibujo_pita_data()
@@ -437,7 +438,13 @@ void TestTransferencias_Ui::cerrar_a_medias_libera_el_puerto()
     FrmSplash& splash = Empezar();
     QTest::mouseClick(&Hijo<QPushButton>(splash, "BtnIniciar"), Qt::LeftButton);
     puerto->Llegan(Trama("_+P1        "));
+    sala->interfaz.respuestas = {false, true};
     QTest::keyClick(&splash, Qt::Key_Escape);
+    QVERIFY(splash.isVisible());
+    QVERIFY(puerto->abierto);
+    QTest::keyClick(&splash, Qt::Key_Escape);
+    QCOMPARE(sala->Tomar_Avisos(),
+             QStringList(2, "La transferencia no ha terminado, ¿ Desea abandonarla ?"));
     QVERIFY(!Dialogos::Cargado<FrmSplash>());
     QVERIFY(!puerto->abierto);
     QCOMPARE(sala->Columna("SELECT ID FROM Sesiones"), QStringList());
