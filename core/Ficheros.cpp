@@ -42,13 +42,18 @@ QByteArray Ficheros::Leer(const QString& ruta)
     return bytes;
 }
 
+void Ficheros::Comprobar_Destino(const QString& ruta)
+{
+    const QFileInfo donde(ruta);
+    if (donde.exists() && !donde.isFile()) throw Error_Ejecucion::Con(75, ruta);
+}
+
 // Opens the file that takes the place of `ruta` when it is committed.
 static void Abrir_Escritura(QSaveFile& fichero, const QString& ruta)
 {
     if (ruta.isEmpty()) throw Error_Ejecucion(52);
-    const QFileInfo donde(ruta);
-    if (donde.isDir()) throw Error_Ejecucion::Con(75, ruta);
-    if (!donde.absoluteDir().exists()) throw Error_Ejecucion::Con(76, ruta);
+    Ficheros::Comprobar_Destino(ruta);
+    if (!QFileInfo(ruta).absoluteDir().exists()) throw Error_Ejecucion::Con(76, ruta);
     fichero.setFileName(ruta);
     // A file marked read-only is told as a failed write: nothing has been written yet.
     // Without a buffer: its flush takes a half-written block for written, and a full disk would

@@ -22,8 +22,13 @@ QStringList Leer_Lineas(const QString& ruta);
 
 /// Writes `bytes` beside `ruta` and takes the place of `ruta` with them.
 /// @throws Error_Ejecucion 52 for an empty name, 76 when the folder isn't there, 75 when `ruta` is
-///         a folder, 70 without permission, 61 on a full disk, 57 when the device fails otherwise
+///         no ordinary file, 70 without permission, 61 on a full disk, 57 when the device fails
+///         otherwise
 void Escribir(const QString& ruta, const QByteArray& bytes);
+
+/// The one test of what a file is written over, for every writer: nothing, or an ordinary file.
+/// @throws Error_Ejecucion 75 when a folder, a device, a pipe or a socket stands there
+void Comprobar_Destino(const QString& ruta);
 
 /// Copies a file of any size; `destino` appears whole or stays as it was.
 /// @throws Error_Ejecucion as `Leer` for the one and `Escribir` for the other

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "export/Columna_Exportar.h"
+#include "export/nivel/Datos_Nivel.h"
 
 #include <initializer_list>
 #include <optional>
@@ -16,6 +17,8 @@ struct Datos_Formateados {
     Filas_Exportar filas;
     /// Level lines that rows marked by code 6 or 5 stand for, in the order of these rows.
     QStringList lineas_especiales;
+    /// The session as the level's report takes it; empty in the other ways of stage 1.
+    Datos_Nivel nivel;
 
     std::size_t Numero_De_Filas() const { return filas.empty() ? 0 : filas.front().size(); }
     /// @return the column, from 0, of the first of these names that is a field

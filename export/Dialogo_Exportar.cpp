@@ -2,6 +2,8 @@
 
 #include "core/Estado_Global.h"
 #include "core/ModEstTotal.h"
+#include "core/Perfil.h"
+#include "core/Posicion.h"
 #include "export/excel/Forma_Excel.h"
 #include "export/GuardarN.h"
 #include "export/Peticiones_Exportar.h"
@@ -25,11 +27,23 @@ constexpr Entrada_Version VERSIONES[] = {
 };
 constexpr int VERSION_INICIAL = 3;
 
+// Where the check boxes of the dialog stand between two runs.
+const QString SECCION = QStringLiteral("EXPORTAR"), CLAVE_NUMEROS = QStringLiteral("numeros");
+const QString SI = QStringLiteral("SI"), NO = QStringLiteral("NO");
+
 } // namespace
 
 Peticiones_Exportar& Peticiones_De_Exportar()
 {
     return Estado_Global::Unico<Peticiones_Exportar>();
+}
+
+QStringList Versiones_De_Libro()
+{
+    QStringList textos;
+    for (const Entrada_Version& entrada : VERSIONES)
+        if (entrada.forma) textos << QString::fromUtf16(entrada.texto);
+    return textos;
 }
 
 Dialogo_Exportar::Dialogo_Exportar(const Trabajo_Exportar& t) : trabajo(t)
@@ -38,6 +52,7 @@ Dialogo_Exportar::Dialogo_Exportar(const Trabajo_Exportar& t) : trabajo(t)
         if (salida.opcion < 0) continue;
         activa << Se_Ofrece(salida, trabajo.formato);
     }
+    numeros = Perfil::Leer(Fichero_Posicion(), SECCION, CLAVE_NUMEROS, NO) == SI;
     Tipo_Ficheros_Puntos = Salida_De("DXF")->formatos.contains(trabajo.formato);
     Reset();
     Elegir_Opcion(0);
@@ -124,12 +139,27 @@ void Dialogo_Exportar::Elegir_Fichero()
 Opciones_Exportar Dialogo_Exportar::Opciones() const
 {
     Opciones_Exportar opciones;
+    opciones.nivel = trabajo.nivel;
     if (caracter_visible) {
         const QString separador = Trozo(caracter + 1, tag_caracteres, SEP_LISTA);
         opciones.texto = Opciones_Texto{separador, Incluir_Cabeceras}.Unir();
     }
-    if (version_visible) opciones.texto = Opciones_Libro{Incluir_Cabeceras, version_excel}.Unir();
+    if (version_visible) {
+        opciones.texto = Opciones_Libro{Incluir_Cabeceras, version_excel}.Unir();
+        opciones.numeros = numeros;
+    }
     return opciones;
+}
+
+void Dialogo_Exportar::Marcar_Numeros(bool si)
+{
+    numeros = si;
+    try {
+        Perfil::Escribir(Fichero_Posicion(), SECCION, CLAVE_NUMEROS, numeros ? SI : NO);
+    } catch (...) {
+        Informe_Error("Se produjo un error al escribir en el fichero " + Fichero_Posicion(),
+                      Error_En_Curso());
+    }
 }
 
 bool Dialogo_Exportar::Exportar(Avance_Exportar& avance)

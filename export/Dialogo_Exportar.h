@@ -2,6 +2,9 @@
 
 #include "export/Salidas.h"
 
+/// The entries of `VersionExcel` that name a form of their own.
+QStringList Versiones_De_Libro();
+
 /// What `FrmExportar` holds: the choice of the kind of file and its name, and the start of the
 /// export. The dialog shows the public members after each call and hands the user's choices back by
 /// the routines below.
@@ -20,6 +23,7 @@ public:
     QStringList versiones;         ///< `VersionExcel`
     int version = -1;              ///< its entry
     QString version_excel;         ///< `Version_Excel`: connect string
+    bool numeros = false;          ///< `ChkNumeros`, shown with the versions; remembered
     QString fichero;               ///< `Text1`
     bool elegir_activo = false;    ///< `BtnElegir`
 
@@ -29,6 +33,8 @@ public:
     void Elegir_Opcion(int indice);
     /// `VersionExcel` click. "Excel 2000" keeps the connect string that was in force.
     void Elegir_Version(int indice);
+    /// `ChkNumeros` click: the choice is kept for the next time.
+    void Marcar_Numeros(bool si);
     /// `BtnElegir`: asks for the file until one is accepted or the user cancels.
     void Elegir_Fichero();
     /// Takes a name for the file, asking when one stands there. @return false when it was refused

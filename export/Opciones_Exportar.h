@@ -1,12 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "formats/Opciones_Nivel.h"
 
-/// The check boxes of the level's format dialog that its report looks at.
-struct Opciones_Nivel {
-    bool anillo = false;     ///< `ChkAnillo`
-    bool nivelacion = false; ///< `ChkNivelacion`
-};
+#include <QString>
 
 /// What the user chose for an output.
 struct Opciones_Exportar {

@@ -1,15 +1,9 @@
 #include "export/Renglon.h"
 
 #include "core/Basico.h"
+#include "formats/Campo_Nivel.h"
 
 #include <algorithm>
-
-namespace {
-
-// A level field keeps its name in so many characters; behind them stands its mark.
-constexpr qsizetype ANCHO_NOMBRE_NIVEL = 40;
-
-} // namespace
 
 void Renglon::Poner(QStringView texto, qsizetype ancho)
 {
@@ -39,7 +33,7 @@ void Renglon::Vaciar()
 
 QString Titulo_De(const QString& campo)
 {
-    return Basico::Trim(campo.left(ANCHO_NOMBRE_NIVEL));
+    return Nombre_Campo_Nivel(campo);
 }
 
 void Anchos_Columna(const QStringList& campos, const Filas_Exportar& filas,

@@ -1,6 +1,10 @@
 #include "export/Salidas.h"
 
+#include "export/excel/Escritor_Excel.h"
 #include "export/Formatear_Datos.h"
+#include "export/mdb/Escritor_MDB.h"
+#include "export/nivel/Cargar_Nivel.h"
+#include "export/nivel/Escritor_Nivel.h"
 #include "export/Peticiones_Exportar.h"
 #include "export/texto/Escritor_Texto.h"
 
@@ -8,11 +12,10 @@
 
 namespace {
 
-// The level's own stage 1 takes its place here together with its writers.
 constexpr Modo_Salida MODOS[] = {
     {Serie::A, Formatear_Datos, &Salida_Exportar::escribir, false, false},
     {Serie::B, Formatear_Datos, &Salida_Exportar::escribir, false, false},
-    {Serie::Nivel, Formatear_Datos, &Salida_Exportar::escribir_nivel, true, true},
+    {Serie::Nivel, Cargar_Nivel, &Salida_Exportar::escribir_nivel, true, true},
     {Serie::Ninguna, Formatear_Datos, &Salida_Exportar::escribir, false, false},
 };
 
@@ -27,7 +30,8 @@ QList<Salida_Exportar> Hacer_Salidas()
          .extension = "Txt",
          .pide_separador = true,
          .se_muestra = true,
-         .escribir = Escribir_Texto_Formateado},
+         .escribir = Escribir_Texto_Formateado,
+         .escribir_nivel = Escribir_Nivel_Texto},
         {.tipo = "Txt",
          .palabra = "txt",
          .opcion = 1,
@@ -36,14 +40,17 @@ QList<Salida_Exportar> Hacer_Salidas()
          .extension = "Txt",
          .pide_separador = true,
          .se_muestra = true,
-         .escribir = Escribir_Texto_Separado},
+         .escribir = Escribir_Texto_Separado,
+         .escribir_nivel = Escribir_Nivel_Texto},
         {.tipo = "Xls",
          .palabra = "xls",
          .opcion = 2,
          .rotulo = "Ms-Excel",
          .etiqueta = "Excel",
          .extension = "xls",
-         .pide_version = true},
+         .pide_version = true,
+         .escribir = Escribir_Excel,
+         .escribir_nivel = Escribir_Nivel_Excel},
         // Only these formats hold what a drawing needs; their names are the one thing that tells.
         {.tipo = "DXF",
          .palabra = "dxf",
@@ -56,10 +63,11 @@ QList<Salida_Exportar> Hacer_Salidas()
         {.tipo = "mdb",
          .palabra = "mdb",
          .opcion = 4,
-         .rotulo = "Ms-Access",
-         .oculta_sin_escritor = true,
+         .rotulo = "Access (.mdb)",
          .etiqueta = "Access",
-         .extension = "mdb"},
+         .extension = "mdb",
+         .escribir = Escribir_MDB,
+         .escribir_nivel = Escribir_MDB},
         // The format dialogs go straight to it.
         {.tipo = "Papel",
          .palabra = {},

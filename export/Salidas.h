@@ -19,11 +19,11 @@ struct Salida_Exportar {
     QString palabra;                  ///< its word on the command line; empty: not offered there
     int opcion = -1;                  ///< index of its `OptFor`; -1: none
     QString rotulo;                   ///< text of its `OptFor`
-    bool oculta_sin_escritor = false; ///< its `OptFor` shows only where it can be chosen
     QString etiqueta = {}, extension = {}; ///< of its files, in the file dialog
     QStringList formatos = {};             ///< names of the only formats it takes; empty: any
     bool pide_separador = false; ///< shows `Caracter`; options of the form `Opciones_Texto`
-    bool pide_version = false;   ///< shows `VersionExcel`; options of the form `Opciones_Libro`
+    /// Shows `VersionExcel` and `ChkNumeros`; options of the form `Opciones_Libro`.
+    bool pide_version = false;
     bool se_muestra = false;     ///< the viewer opens on the file, however it ended
     Escritor escribir = nullptr;
     Escritor escribir_nivel = nullptr;          ///< the same with the level in force

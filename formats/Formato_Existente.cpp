@@ -1,7 +1,9 @@
 #include "formats/Formato_Existente.h"
 
 #include "core/Familia.h"
+#include "formats/Formato_Existente_Nivel.h"
 #include "formats/Formato_Nuevo.h"
+#include "formats/Formato_Nuevo_Nivel.h"
 
 Formato_Existente::Formato_Existente(const Sesion_Elegida& s, const QString& d)
     : sesion(s), destino(d)
@@ -46,9 +48,19 @@ void Formato_Existente::Leer_Formato(const QString& nombre)
     Sacar_IDs(*Base_Datos, sesion, false);
     if (Comprobar_IDs(formato->ids, sesion.ope))
         Interfaz_Actual().Mensaje(Aviso_Campos(nombre), Icono::Informacion);
+    Leer_Campos(nombre);
+}
+
+void Formato_Existente::Leer_Campos(const QString& nombre)
+{
     listas.elegidos = Campos_Formato(*Base_Datos, sesion.maquina, nombre);
     Ofrecer_Campos(*Base_Datos, sesion.maquina, listas, false, Generales::De_La_Familia,
                    sesion.ope);
+}
+
+Trabajo_Exportar Formato_Existente::Trabajo() const
+{
+    return {sesion.id, sesion.maquina, sesion.ope, nombres[indice]};
 }
 
 bool Formato_Existente::Aceptar(const std::function<void()>& ocultar)
@@ -60,7 +72,7 @@ bool Formato_Existente::Aceptar(const std::function<void()>& ocultar)
     const Paso paso = Preparar(sesion.maquina);
     if (paso != Paso::Sigue) return paso == Paso::Cancelado;
     ocultar();
-    const Trabajo_Exportar trabajo{sesion.id, sesion.maquina, sesion.ope, nombres[indice]};
+    const Trabajo_Exportar trabajo = Trabajo();
     if (destino == u"I")
         Peticiones_De_Formatos().Abrir_Imprimir(trabajo);
     else
@@ -105,7 +117,8 @@ void Exporta_o_Imprime_Formato_Existente(const std::optional<Sesion_Elegida>& se
         if (!Hay_Que_Exportar(sesion)) return;
         if (destino == u"E") Tipo_Ficheros_Puntos = Es_Fichero_De_Puntos(sesion->wope);
         if (Es_Del_Nivel(*sesion)) {
-            Peticiones_De_Formatos().Mostrar_Existente_NV400(*sesion, destino);
+            Formato_Existente_Nivel modelo(*sesion, destino);
+            if (modelo.Ver()) Peticiones_De_Formatos().Mostrar_Existente_NV400(modelo);
             return;
         }
         Formato_Existente modelo(*sesion, destino);
@@ -118,7 +131,9 @@ void Exporta_Formato_Nuevo(const std::optional<Sesion_Elegida>& sesion)
     Informando([&] {
         if (!Hay_Que_Exportar(sesion)) return;
         if (Es_Del_Nivel(*sesion)) {
-            Peticiones_De_Formatos().Mostrar_Nuevo_NV400(*sesion);
+            Formato_Nuevo_Nivel modelo(sesion->maquina, sesion);
+            modelo.Crear();
+            Peticiones_De_Formatos().Mostrar_Nuevo_NV400(modelo);
             return;
         }
         Formato_Nuevo modelo(sesion->maquina, sesion);

@@ -19,13 +19,19 @@ public:
 
     /// Fills the list of formats. @return false when there is none: the box has been shown and the
     /// dialog isn't
-    bool Ver();
+    virtual bool Ver();
     /// The user picks an entry of `CbFormatos`.
     void Elegir(int entrada);
     /// `BtnAceptar`: hands the fields on, may ask for offsets, and opens the output.
     bool Aceptar(const std::function<void()>& ocultar) override;
 
     const Sesion_Elegida& Sesion() const { return sesion; }
+
+protected:
+    /// Fills the lists with the fields of the format and those on offer beside them.
+    virtual void Leer_Campos(const QString& nombre);
+    /// What is handed on to the output.
+    virtual Trabajo_Exportar Trabajo() const;
 
 private:
     void Leer_Formato(const QString& nombre);

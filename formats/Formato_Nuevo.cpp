@@ -53,20 +53,30 @@ void Formato_Nuevo::Actualizar_Datos()
     Escribir_Nombre({});
     try {
         nombres = Nombres_Formatos(*Base_Datos, maquina);
-        if (sesion)
-            Sacar_IDs(*Base_Datos, *sesion, true);
-        else
-            Sacar_Ids_Nuevo(*Base_Datos, maquina, Operacion());
-        Ofrecer_Campos(*Base_Datos, maquina, listas, true, Generales::De_La_Familia, Operacion());
+        Llenar_Listas();
     } catch (...) {
         Informe_Error("Se produjo un error al leer los campos disponibles", Error_En_Curso());
     }
 }
 
+void Formato_Nuevo::Llenar_Listas()
+{
+    if (sesion)
+        Sacar_IDs(*Base_Datos, *sesion, true);
+    else
+        Sacar_Ids_Nuevo(*Base_Datos, maquina, Operacion());
+    Ofrecer_Campos(*Base_Datos, maquina, listas, true, Generales::De_La_Familia, Operacion());
+}
+
+void Formato_Nuevo::Almacenar(const Formato& formato, bool nuevo)
+{
+    Guardar_Formato(*Base_Datos, formato, nuevo);
+}
+
 bool Formato_Nuevo::Guardar()
 {
     if (!Depura(nombre)) return false;
-    if (listas.elegidos.isEmpty()) {
+    if (!Hay_Campos()) {
         Interfaz_Actual().Mensaje("No se han seleccionado campos para el formato", Icono::Critico);
         return false;
     }
@@ -80,7 +90,7 @@ bool Formato_Nuevo::Guardar()
     formato.ids = Cadena_Ids(formato.ope);
     formato.campos = listas.elegidos;
     try {
-        Guardar_Formato(*Base_Datos, formato, indice_nombre < 0);
+        Almacenar(formato, indice_nombre < 0);
     } catch (...) {
         Informe_Error("Se produjo un error al guardar el formato", Error_En_Curso());
         return false;

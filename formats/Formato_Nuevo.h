@@ -30,6 +30,15 @@ public:
     /// `BtnAceptar`: checks, stores, and for a session goes on to the export.
     bool Aceptar(const std::function<void()>& ocultar) override;
 
+protected:
+    const QString& Maquina() const { return maquina; }
+    /// Fills the lists for the kind in force.
+    virtual void Llenar_Listas();
+    /// @return false for a format without fields, which isn't stored
+    virtual bool Hay_Campos() const { return !listas.elegidos.isEmpty(); }
+    /// Stores the format. @throws Error_Ejecucion 3022 for a new one that exists
+    virtual void Almacenar(const Formato& formato, bool nuevo);
+
 private:
     int Operacion() const;
     bool Guardar();

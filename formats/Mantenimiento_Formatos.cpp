@@ -63,9 +63,19 @@ void Mantenimiento_Formatos::Leer_Formato()
     operaciones.Seek({ope});
     if (!operaciones.NoMatch()) tipo = operaciones.Texto("DESOPE");
 
-    Rellenar_IDs(formato->ids, ope);
+    Leer_Campos(*formato);
+}
+
+void Mantenimiento_Formatos::Leer_Campos(const Formato& formato)
+{
+    Rellenar_IDs(formato.ids, ope);
     listas.elegidos = Campos_Formato(*Base_Datos, maquina, nombre);
     Ofrecer_Campos(*Base_Datos, maquina, listas, false, Generales::De_La_Operacion, ope);
+}
+
+bool Mantenimiento_Formatos::Cambiar(const Formato& formato)
+{
+    return Cambiar_Formato(*Base_Datos, formato);
 }
 
 void Mantenimiento_Formatos::Actualizar_Combo()
@@ -88,7 +98,7 @@ void Mantenimiento_Formatos::Guardar()
     formato.cabeceras = cabeceras;
     formato.campos = listas.elegidos;
     try {
-        if (!Cambiar_Formato(*Base_Datos, formato))
+        if (!Cambiar(formato))
             Interfaz_Actual().Mensaje("No se puede guardar; el formato '" + nombre +
                                       "' ha sido eliminado");
     } catch (...) {
@@ -118,6 +128,11 @@ void Mantenimiento_Formatos::Nuevo()
     Formato_Nuevo modelo(maquina);
     modelo.Crear();
     Peticiones_De_Formatos().Mostrar_Nuevo(modelo);
+    Elegir_El_Nuevo(modelo.guardado);
+}
+
+void Mantenimiento_Formatos::Elegir_El_Nuevo(const QString& guardado)
+{
     nombres = Nombres_Formatos(*Base_Datos, maquina);
-    if (!modelo.guardado.isEmpty()) Elegir(modelo.guardado);
+    if (!guardado.isEmpty()) Elegir(guardado);
 }

@@ -6,6 +6,7 @@
 class Mantenimiento_Formatos : public Contenido_Formato {
 public:
     Mantenimiento_Formatos();
+    virtual ~Mantenimiento_Formatos() = default;
 
     QString nombre;         ///< text of `DBCombo1`
     QString tipo;           ///< `LblTip`
@@ -22,9 +23,19 @@ public:
 
     void Guardar();  ///< `BtnGuardar`
     void Eliminar(); ///< `BtnEliminar`; a locked format can be deleted
-    void Nuevo();    ///< `BtnNuevo`: shows `FrmNuevoformato` and chooses what it made
+    /// `BtnNuevo`: shows the dialog of a new format and chooses what it made.
+    virtual void Nuevo();
     /// Close: keeps the name for the next time.
     void Cerrar() const;
+
+protected:
+    const QString& Maquina() const { return maquina; }
+    /// Fills the lists with the fields of the format and those on offer beside them.
+    virtual void Leer_Campos(const Formato& formato);
+    /// Stores what was changed. @return false when the format has vanished
+    virtual bool Cambiar(const Formato& formato);
+    /// @param guardado  name of the format that was made; empty for none
+    void Elegir_El_Nuevo(const QString& guardado);
 
 private:
     void Limpiar();

@@ -14,8 +14,6 @@ void Decir_Que_Falta()
 Peticiones_Formatos Iniciales()
 {
     Peticiones_Formatos p;
-    p.Mostrar_Existente_NV400 = [](const Sesion_Elegida&, const QString&) { Decir_Que_Falta(); };
-    p.Mostrar_Nuevo_NV400 = [](const Sesion_Elegida&) { Decir_Que_Falta(); };
     p.Abrir_Imprimir = [](const Trabajo_Exportar&) { Decir_Que_Falta(); };
     return p;
 }

@@ -27,7 +27,7 @@ sesion=$(cli descargar --modelo "$modelo" --ope 0 --puerto "$enlace" --nombre "D
 echo "Sesión $sesion guardada en $instalacion/MDB/EstTotal.mdb"
 formato=$(cli formatos --maquina KRT300 | awk -F'\t' 'NR > 1 && $3 == 0 { print $1; exit }')
 salida="$instalacion/ficheros/demostracion.txt"
-cli exportar "$sesion" --formato "$formato" --tipo txf --salida "$salida" --titulos
+cli exportar "$sesion" --formato "$formato" --tipo txf --salida "$salida" --titulos si
 echo "Exportada con el formato $formato, como texto formateado, a:"
 echo "  $salida"
 echo "Primeras líneas:"

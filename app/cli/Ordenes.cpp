@@ -32,7 +32,8 @@ const QList<Orden>& Ordenes()
         {"formatos", "formatos [--maquina CLAVE]", Orden_Formatos},
         {"ver", "ver ID [--campos]", Orden_Ver},
         {"formato-nuevo",
-         "formato-nuevo --maquina CLAVE --ope N --nombre NOMBRE --campos \"A,B,C\" [--titulos]",
+         "formato-nuevo --maquina CLAVE --ope N --nombre NOMBRE --campos \"A,B,C\" "
+         "[--cabecera \"D,E\"] [--titulos] [--descripcion TEXTO]",
          Orden_Formato_Nuevo},
         {"formato-borrar", "formato-borrar --maquina CLAVE --nombre NOMBRE", Orden_Formato_Borrar},
         {"exportar", Uso_Exportar(), Orden_Exportar},
@@ -55,6 +56,11 @@ const QList<Orden>& Ordenes()
          "convertir ENTRADA SALIDA [--eje N] [--perfil NOMBRE] [--seccion A:B] "
          "[--clase alineacion|rasante|transversal|puntos]",
          Orden_Convertir},
+        {"monitorizar",
+         "monitorizar --lecturas FICHERO --coordenadas FICHERO --salida FICHERO [--excel] "
+         "[--trabajo TEXTO] [--descripcion TEXTO] [--operario TEXTO] [--temperatura TEXTO] "
+         "[--fecha TEXTO] [--hora TEXTO]",
+         Orden_Monitorizar},
         {"descargar",
          "descargar --modelo NOMBRE --ope N --puerto DISPOSITIVO --nombre NOMBRE [--velocidad V] "
          "[--espera S]",

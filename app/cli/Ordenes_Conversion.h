@@ -7,3 +7,5 @@
 int Orden_Convertidor(const Contexto& c, const QStringList& palabras);
 /// Picks the function by the extensions of source and target; prints its name and its result.
 int Orden_Convertir(const Contexto& c, const QStringList& palabras);
+/// Results of a robotic monitoring campaign, as a text or a workbook.
+int Orden_Monitorizar(const Contexto& c, const QStringList& palabras);

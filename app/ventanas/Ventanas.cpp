@@ -14,6 +14,7 @@
 #include "formats/Formato_Existente.h"
 #include "formats/ui/Dialogos_Formatos.h"
 #include "formats/ui/Frmformatos.h"
+#include "formats/ui/FrmFormatosNV400.h"
 #include "rawfiles/ui/Dialogos_Brutos.h"
 #include "session/ui/Dialogos_Sesion.h"
 #include "session/ui/frmDescargas.h"
@@ -63,7 +64,7 @@ void Conectar_Descargas()
 void Formatos_De_Toolbar()
 {
     if (Familia_Actual().serie == Serie::Nivel)
-        No_Disponible("El mantenimiento de formatos del nivel");
+        Mostrar<FrmFormatosNV400>()();
     else
         Mostrar<Frmformatos>("Mantenimiento de Formatos")();
 }
@@ -96,6 +97,7 @@ void Conectar_Entradas(FrmMain& principal)
     principal.Al_Elegir("Mnu_ConvDXF", Mostrar<ExportDXF>());
     principal.Al_Elegir("Toolbar1(5)", Mostrar_Librerias);
     principal.Al_Elegir("Mnu_ConvEst", [] { Mostrar_frmConvEst(0); });
+    principal.Al_Elegir("Mnu_ConvRob", Mostrar_frmRobotizada);
     principal.Al_Elegir("Mnu_ConvLandxml", [] { Mostrar_frmConvEst(1); });
 }
 

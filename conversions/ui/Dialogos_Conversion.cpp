@@ -3,6 +3,9 @@
 #include "conversions/biblioteca/Peticiones_Conversion.h"
 #include "conversions/ui/EjeLandxml.h"
 #include "conversions/ui/frmConvEst.h"
+#include "conversions/ui/frmRobotizada.h"
+#include "core/Error_Ejecucion.h"
+#include "core/Interfaz.h"
 #include "core/ui/Dialogos.h"
 
 namespace {
@@ -31,4 +34,16 @@ void Mostrar_frmConvEst(int modo)
     auto& frm = Dialogos::Unico<frmConvEst>();
     frm.Poner_Modo(modo);
     frm.Mostrar();
+}
+
+void Mostrar_frmRobotizada()
+{
+    try {
+        if (frmRobotizada* const abierta = Dialogos::Cargado<frmRobotizada>())
+            abierta->Mostrar();
+        else
+            Dialogos::Unico<frmRobotizada>().Abrir();
+    } catch (...) {
+        Informe_Error("Se produjo un error al abrir la monitorización", Error_En_Curso());
+    }
 }

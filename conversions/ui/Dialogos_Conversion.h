@@ -5,3 +5,7 @@ void Conectar_Dialogos_Conversion();
 
 /// Shows `frmConvEst` for conversions to the instrument's form (0) or to LandXML (1).
 void Mostrar_frmConvEst(int modo);
+
+/// Shows `frmRobotizada`, which asks for its source files first; one that is up is brought up. An
+/// error on the way is reported.
+void Mostrar_frmRobotizada();

@@ -1,6 +1,7 @@
 #include "export/excel/Escritor_Biff.h"
 
 #include "export/excel/Archivo_Ole.h"
+#include "export/excel/Area_Impresion.h"
 #include "export/excel/Escritor_Estilos.h"
 #include "export/excel/Escritor_Hoja.h"
 #include "export/excel/Texto_Biff.h"
@@ -54,14 +55,17 @@ void Escribir_Fin(Salida_Biff& salida)
 
 // ---------------------------------------------------------------- one plain sheet
 
-QByteArray Escribir_Hoja_Suelta(const Hoja_Excel& hoja, const Forma_Excel& forma)
+QByteArray Escribir_Hoja_Suelta(const Libro_Excel& libro, const Forma_Excel& forma)
 {
+    const Hoja_Excel& hoja = libro.Hoja(0);
     Salida_Biff salida;
     Tabla_Cadenas cadenas;
-    Escritor_Hoja escritor(hoja, forma, cadenas, salida);
+    const Estilos_Libro estilos(libro);
+    Escritor_Hoja escritor(hoja, forma, estilos, cadenas, salida);
     Escribir_Bof(salida, forma, HOJA_DE_CALCULO);
     salida.Escribir_Como(CODEPAGE, U16(PAGINA_1252));
-    Escribir_Estilos(forma, salida);
+    estilos.Escribir(forma, salida);
+    Escribir_Area_De_Hoja(salida, hoja);
     escritor.Escribir_Ajustes();
     escritor.Escribir_Celdas();
     salida.Escribir(Window1_34{VENTANA_X, VENTANA_Y, VENTANA_ANCHO, VENTANA_ALTO, quint16(0)});
@@ -78,11 +82,11 @@ struct Hoja_Hecha {
     Indice_Hoja indice;
 };
 
-Hoja_Hecha Hacer_Hoja(const Hoja_Excel& hoja, const Forma_Excel& forma, Tabla_Cadenas& cadenas,
-                      bool elegida)
+Hoja_Hecha Hacer_Hoja(const Hoja_Excel& hoja, const Forma_Excel& forma,
+                      const Estilos_Libro& estilos, Tabla_Cadenas& cadenas, bool elegida)
 {
     Salida_Biff salida;
-    Escritor_Hoja escritor(hoja, forma, cadenas, salida);
+    Escritor_Hoja escritor(hoja, forma, estilos, cadenas, salida);
     escritor.Escribir_Ajustes();
     escritor.Escribir_Celdas();
     escritor.Escribir_Vista(elegida);
@@ -156,7 +160,8 @@ std::vector<qsizetype> Escribir_Nombres(Salida_Biff& salida, const Forma_Excel& 
 }
 
 std::vector<qsizetype> Escribir_Globales(Salida_Biff& salida, const Forma_Excel& forma,
-                                         const Libro_Excel& libro, const Tabla_Cadenas& cadenas)
+                                         const Libro_Excel& libro, const Estilos_Libro& estilos,
+                                         const Tabla_Cadenas& cadenas)
 {
     Escribir_Bof(salida, forma, GLOBALES);
     if (forma.unicode) Escribir_Autor(salida, forma);
@@ -173,10 +178,11 @@ std::vector<qsizetype> Escribir_Globales(Salida_Biff& salida, const Forma_Excel&
                                VENTANA_CON_BARRAS, quint16(0), quint16(0), quint16(1),
                                PROPORCION_PESTANAS});
     Escribir_Ajustes_Libro(salida, forma, OPCIONES);
-    Escribir_Estilos(forma, salida);
+    estilos.Escribir(forma, salida);
     if (forma.unicode) salida.Escribir_Como(USESELFS, U16(0));
     std::vector<qsizetype> huecos = Escribir_Nombres(salida, forma, libro);
     salida.Escribir_Como(COUNTRY, std::array<U16, 2>{PAIS_ESPANA, PAIS_ESPANA});
+    Escribir_Areas_De_Libro(salida, forma, libro);
     if (forma.unicode) cadenas.Escribir(salida);
     Escribir_Fin(salida);
     return huecos;
@@ -198,13 +204,14 @@ QByteArray Escribir_Flujo_Libro(const Libro_Excel& libro, const Forma_Excel& for
 {
     Tabla_Cadenas cadenas;
     if (forma.unicode) cadenas.Prever(Contar_Textos(libro));
+    const Estilos_Libro estilos(libro);
     std::vector<Hoja_Hecha> hojas;
     hojas.reserve(std::size_t(libro.Numero_Hojas()));
     for (int i = 0; i < libro.Numero_Hojas(); ++i)
-        hojas.push_back(Hacer_Hoja(libro.Hoja(i), forma, cadenas, i == 0));
+        hojas.push_back(Hacer_Hoja(libro.Hoja(i), forma, estilos, cadenas, i == 0));
 
     Salida_Biff salida;
-    const std::vector<qsizetype> huecos = Escribir_Globales(salida, forma, libro, cadenas);
+    const std::vector<qsizetype> huecos = Escribir_Globales(salida, forma, libro, estilos, cadenas);
     for (std::size_t i = 0; i < hojas.size(); ++i) {
         const U32 lugar = quint32(salida.Posicion());
         salida.bytes.replace(huecos[i], sizeof(lugar), Bytes_De(lugar));
@@ -221,7 +228,7 @@ QByteArray Escribir_Libro(const Libro_Excel& libro, Version_Excel version)
 {
     const Forma_Excel& forma = Forma_De(version);
     libro.Comprobar(forma);
-    if (!forma.compuesto) return Escribir_Hoja_Suelta(libro.Hoja(0), forma);
+    if (!forma.compuesto) return Escribir_Hoja_Suelta(libro, forma);
     const QByteArray flujo = Escribir_Flujo_Libro(libro, forma);
     return forma.unicode ? Escribir_Ole(QStringLiteral("Workbook"), flujo, CLASE_EXCEL_8)
                          : Escribir_Ole(QStringLiteral("Book"), flujo, CLASE_EXCEL_5);

@@ -15,16 +15,40 @@ enum Fuente : quint8 { FUENTE_BASE, BASE_NEGRITA, BASE_CURSIVA, BASE_NEGRITA_CUR
 /// An XF, whatever the form.
 struct Aspecto {
     Fuente fuente = FUENTE_BASE;
-    bool como_texto = false;
+    quint16 formato = FORMATO_GENERAL;
     bool es_estilo = false;
     quint8 atributos = 0;
 };
 
 // In the earliest forms a number format is named by its place among the FORMAT records.
-quint8 Lugar_Formato(const Forma_Excel& forma, bool como_texto)
+quint16 Formato_De_Texto(const Forma_Excel& forma)
 {
-    if (!como_texto) return FORMATO_GENERAL;
-    return forma.compuesto ? quint8(FORMATO_TEXTO) : 1;
+    return forma.compuesto ? FORMATO_TEXTO : 1;
+}
+constexpr quint16 FORMATOS_FIJOS = 2; ///< "General" and "@", ahead of those of the decimals
+
+quint16 Formato_De_Decimales(const Forma_Excel& forma, std::size_t lugar)
+{
+    return quint16((forma.compuesto ? FORMATO_PROPIO : FORMATOS_FIJOS) + lugar);
+}
+
+void Escribir_Formato(const Forma_Excel& forma, Salida_Biff& salida, quint16 numero,
+                      QStringView dibujo)
+{
+    switch (forma.version) {
+    case Version_Excel::Excel_3:
+        salida.Escribir_Bytes(Format_3::ID, Texto_Corto(forma, dibujo));
+        break;
+    case Version_Excel::Excel_4:
+        salida.Escribir(Format_4{quint16(0)}, Texto_Corto(forma, dibujo));
+        break;
+    case Version_Excel::Excel_5:
+        salida.Escribir(Format_58{numero}, Texto_Corto(forma, dibujo));
+        break;
+    case Version_Excel::Excel_8:
+        salida.Escribir(Format_58{numero}, Texto_Largo(forma, dibujo));
+        break;
+    }
 }
 
 void Escribir_Fuente(const Forma_Excel& forma, Salida_Biff& salida, Fuente fuente)
@@ -45,23 +69,9 @@ void Escribir_Fuente(const Forma_Excel& forma, Salida_Biff& salida, Fuente fuent
     salida.Escribir(f, nombre);
 }
 
-// The later forms know both pictures by heart.
-void Escribir_Formatos(const Forma_Excel& forma, Salida_Biff& salida)
-{
-    if (forma.compuesto) return;
-    salida.Escribir_Como(BUILTINFMTCOUNT, U16(1));
-    for (const char16_t* dibujo : {u"General", u"@"}) {
-        const QByteArray texto = Texto_Corto(forma, QStringView(dibujo));
-        if (forma.version == Version_Excel::Excel_3)
-            salida.Escribir_Bytes(Format_3::ID, texto);
-        else
-            salida.Escribir(Format_4{quint16(0)}, texto);
-    }
-}
-
 void Escribir_Xf(const Forma_Excel& forma, Salida_Biff& salida, const Aspecto& a)
 {
-    const quint8 formato = Lugar_Formato(forma, a.como_texto);
+    const quint8 formato = quint8(a.formato);
     const quint16 proteccion = quint16(XF_BLOQUEADA | (a.es_estilo ? XF_ES_ESTILO : 0));
     const quint16 padre = a.es_estilo ? XF_SIN_PADRE : 0;
     switch (forma.version) {
@@ -74,36 +84,80 @@ void Escribir_Xf(const Forma_Excel& forma, Salida_Biff& salida, const Aspecto& a
                              XF_AREA_34, quint32(0)});
         break;
     case Version_Excel::Excel_5:
-        salida.Escribir(Xf_5{quint16(a.fuente), quint16(formato), quint16(proteccion | padre),
+        salida.Escribir(Xf_5{quint16(a.fuente), a.formato, quint16(proteccion | padre),
                              XF_ABAJO, a.atributos, quint32(XF_AREA_58), quint32(0)});
         break;
     case Version_Excel::Excel_8:
-        salida.Escribir(Xf_8{quint16(a.fuente), quint16(formato), quint16(proteccion | padre),
+        salida.Escribir(Xf_8{quint16(a.fuente), a.formato, quint16(proteccion | padre),
                              XF_ABAJO, 0, 0, a.atributos, quint32(0), quint32(0), XF_AREA_58});
         break;
     }
 }
 
+constexpr int ASPECTOS_FIJOS = 4; ///< XFs of cells that every book gets
+
 } // namespace
 
-quint16 Xf_De(const Celda& celda)
+Estilos_Libro::Estilos_Libro(const Libro_Excel& libro)
 {
-    return quint16(XF_NORMAL + (celda.negrita ? 1 : 0) + (celda.como_texto ? 2 : 0));
+    for (int h = 0; h < libro.Numero_Hojas(); ++h) {
+        const Hoja_Excel& hoja = libro.Hoja(h);
+        const int ultima = hoja.Rango_Usado().fila_hasta;
+        for (int fila = 0; fila <= ultima; ++fila)
+            for (const Celda_Situada& celda : hoja.Fila(fila)) {
+                if (celda.decimales < 0) continue;
+                quint16& lugar = lugares[std::size_t(celda.decimales)];
+                if (lugar != 0) continue;
+                decimales.push_back(celda.decimales);
+                lugar = quint16(decimales.size());
+            }
+    }
 }
 
-void Escribir_Estilos(const Forma_Excel& forma, Salida_Biff& salida)
+// A number of decimals is the look of a number: what else the cell was prepared for counts no more.
+quint16 Estilos_Libro::Xf_De(const Celda& celda) const
+{
+    const int negrita = celda.negrita ? 1 : 0;
+    if (celda.decimales >= 0) {
+        const int lugar = lugares[std::size_t(celda.decimales)];
+        if (lugar > 0) return quint16(XF_NORMAL + ASPECTOS_FIJOS + 2 * (lugar - 1) + negrita);
+    }
+    return quint16(XF_NORMAL + negrita + (celda.como_texto ? 2 : 0));
+}
+
+// The later forms know "General" and "@" by heart.
+void Estilos_Libro::Escribir_Formatos(const Forma_Excel& forma, Salida_Biff& salida) const
+{
+    if (!forma.compuesto) {
+        salida.Escribir_Como(BUILTINFMTCOUNT, U16(1));
+        Escribir_Formato(forma, salida, FORMATO_GENERAL, u"General");
+        Escribir_Formato(forma, salida, Formato_De_Texto(forma), u"@");
+    }
+    for (std::size_t i = 0; i < decimales.size(); ++i) {
+        const QString dibujo =
+            decimales[i] == 0 ? QStringLiteral("0") : "0." + QString(decimales[i], u'0');
+        Escribir_Formato(forma, salida, Formato_De_Decimales(forma, i), dibujo);
+    }
+}
+
+void Estilos_Libro::Escribir(const Forma_Excel& forma, Salida_Biff& salida) const
 {
     for (const Fuente f : {FUENTE_BASE, BASE_NEGRITA, BASE_CURSIVA, BASE_NEGRITA_CURSIVA})
         Escribir_Fuente(forma, salida, f);
     Escribir_Formatos(forma, salida);
     // The style "Normal", then those of the outline levels of rows and columns; readers look for
     // the looks of unset cells behind them.
-    Escribir_Xf(forma, salida, {FUENTE_BASE, false, true, 0});
+    Escribir_Xf(forma, salida, {FUENTE_BASE, FORMATO_GENERAL, true, 0});
     for (int i = 1; i < XF_NORMAL; ++i)
-        Escribir_Xf(forma, salida, {FUENTE_BASE, false, true, XF_ATR_ESTILO});
-    Escribir_Xf(forma, salida, {});
-    Escribir_Xf(forma, salida, {BASE_NEGRITA, false, false, XF_ATR_FUENTE});
-    Escribir_Xf(forma, salida, {FUENTE_BASE, true, false, XF_ATR_NUMERO});
-    Escribir_Xf(forma, salida, {BASE_NEGRITA, true, false, XF_ATR_FUENTE | XF_ATR_NUMERO});
+        Escribir_Xf(forma, salida, {FUENTE_BASE, FORMATO_GENERAL, true, XF_ATR_ESTILO});
+    const auto par = [&](quint16 formato) {
+        const quint8 numero = formato == FORMATO_GENERAL ? 0 : XF_ATR_NUMERO;
+        Escribir_Xf(forma, salida, {FUENTE_BASE, formato, false, numero});
+        Escribir_Xf(forma, salida, {BASE_NEGRITA, formato, false, quint8(numero | XF_ATR_FUENTE)});
+    };
+    par(FORMATO_GENERAL);
+    par(Formato_De_Texto(forma));
+    for (std::size_t i = 0; i < decimales.size(); ++i)
+        par(Formato_De_Decimales(forma, i));
     salida.Escribir(Style{ESTILO_INTEGRADO, 0, SIN_NIVEL});
 }

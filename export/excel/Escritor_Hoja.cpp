@@ -1,8 +1,6 @@
 #include "export/excel/Escritor_Hoja.h"
 
 #include "core/Ansi.h"
-#include "export/excel/Escritor_Estilos.h"
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -30,9 +28,9 @@ struct Guts_Nada {
 
 } // namespace
 
-Escritor_Hoja::Escritor_Hoja(const Hoja_Excel& h, const Forma_Excel& f, Tabla_Cadenas& c,
-                             Salida_Biff& s)
-    : hoja(h), forma(f), cadenas(c), salida(s)
+Escritor_Hoja::Escritor_Hoja(const Hoja_Excel& h, const Forma_Excel& f, const Estilos_Libro& e,
+                             Tabla_Cadenas& c, Salida_Biff& s)
+    : hoja(h), forma(f), estilos(e), cadenas(c), salida(s)
 {
     indice.usado = hoja.Rango_Usado();
 }
@@ -125,7 +123,7 @@ void Escritor_Hoja::Escribir_Fila(const std::vector<Celda_Situada>& celdas, int 
 {
     for (std::size_t i = 0; i < celdas.size();) {
         const Celda_Situada& celda = celdas[i];
-        const Lugar_Celda lugar{quint16(fila), celda.columna, Xf_De(celda)};
+        const Lugar_Celda lugar{quint16(fila), celda.columna, estilos.Xf_De(celda)};
         switch (celda.tipo) {
         case Celda::Tipo::Nada:
             i += Escribir_Vacias(celdas, i, fila);
@@ -161,12 +159,12 @@ std::size_t Escritor_Hoja::Escribir_Vacias(const std::vector<Celda_Situada>& cel
            celdas[ultima + 1].columna == celdas[ultima].columna + 1)
         ++ultima;
     if (ultima == primera) {
-        salida.Escribir(Blank{{quint16(fila), celdas[primera].columna, Xf_De(celdas[primera])}});
+        salida.Escribir(Blank{{quint16(fila), celdas[primera].columna, estilos.Xf_De(celdas[primera])}});
         return 1;
     }
     QByteArray aspectos;
     for (std::size_t i = primera; i <= ultima; ++i)
-        aspectos += Bytes_De(U16(Xf_De(celdas[i])));
+        aspectos += Bytes_De(U16(estilos.Xf_De(celdas[i])));
     aspectos += Bytes_De(U16(celdas[ultima].columna));
     salida.Escribir(MulBlank{quint16(fila), celdas[primera].columna}, aspectos);
     return ultima - primera + 1;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "export/excel/Libro_Excel.h"
+#include "export/excel/Escritor_Estilos.h"
 #include "export/excel/Salida_Biff.h"
 #include "export/excel/Tabla_Cadenas.h"
 
@@ -20,8 +20,8 @@ struct Indice_Hoja {
 class Escritor_Hoja {
 public:
     /// @param cadenas  table of shared texts; used by the Unicode form only
-    Escritor_Hoja(const Hoja_Excel& hoja, const Forma_Excel& forma, Tabla_Cadenas& cadenas,
-                  Salida_Biff& salida);
+    Escritor_Hoja(const Hoja_Excel& hoja, const Forma_Excel& forma, const Estilos_Libro& estilos,
+                  Tabla_Cadenas& cadenas, Salida_Biff& salida);
 
     /// Calculation and page settings, column widths.
     void Escribir_Ajustes();
@@ -43,6 +43,7 @@ private:
 
     const Hoja_Excel& hoja;
     const Forma_Excel& forma;
+    const Estilos_Libro& estilos;
     Tabla_Cadenas& cadenas;
     Salida_Biff& salida;
     Indice_Hoja indice;

@@ -13,6 +13,15 @@ constexpr quint16 PESO_DESDE_NEGRITA = 600;
 constexpr quint16 FUENTE_QUE_NO_HAY = 4; ///< no font has this number: the fifth is 5
 constexpr QByteArrayView DIBUJO_TEXTO = "@";
 
+// "0", "0.0", …: the pictures of a fixed number of decimals. @return -1 for any other
+qint8 Decimales_De(const QByteArray& dibujo)
+{
+    if (dibujo == "0") return 0;
+    const qsizetype decimales = dibujo.size() - 2;
+    if (decimales < 1 || decimales > Celda::MAX_DECIMALES) return -1;
+    return dibujo == "0." + QByteArray(decimales, '0') ? qint8(decimales) : -1;
+}
+
 } // namespace
 
 std::optional<Version_Excel> Version_De_Bof(const Registro_Biff& bof)
@@ -68,7 +77,8 @@ bool Aspectos_Leidos::Tomar(const Registro_Biff& registro, Version_Excel version
     }
 }
 
-// The picture stands at the end of the record, in one or two bytes a character: only "@" matters.
+// The picture stands at the end of the record, in one or two bytes a character: those that matter
+// have one.
 void Aspectos_Leidos::Tomar_Formato(const Registro_Biff& registro, Version_Excel version)
 {
     const bool numerado = version >= Version_Excel::Excel_5;
@@ -77,8 +87,8 @@ void Aspectos_Leidos::Tomar_Formato(const Registro_Biff& registro, Version_Excel
     const qsizetype antes = version == Version_Excel::Excel_3   ? 1
                             : version == Version_Excel::Excel_8 ? 5
                                                                 : 3;
-    formatos_texto[numero] =
-        registro.cuerpo.size() > antes && registro.cuerpo.sliced(antes) == DIBUJO_TEXTO;
+    dibujos[numero] = registro.cuerpo.size() > antes ? registro.cuerpo.sliced(antes).toByteArray()
+                                                     : QByteArray();
 }
 
 void Aspectos_Leidos::Tomar_Xf(const Registro_Biff& registro, Version_Excel version)
@@ -96,13 +106,30 @@ void Aspectos_Leidos::Tomar_Xf(const Registro_Biff& registro, Version_Excel vers
     }
 }
 
+// A picture that the book doesn't bring is built into the forms; those that matter here are three.
+QByteArray Aspectos_Leidos::Dibujo_De(quint16 formato) const
+{
+    const auto propio = dibujos.find(formato);
+    if (propio != dibujos.end()) return propio->second;
+    switch (formato) {
+    case FORMATO_TEXTO:
+        return DIBUJO_TEXTO.toByteArray();
+    case FORMATO_ENTERO:
+        return QByteArrayLiteral("0");
+    case FORMATO_DOS_DECIMALES:
+        return QByteArrayLiteral("0.00");
+    default:
+        return {};
+    }
+}
+
 void Aspectos_Leidos::Vestir(Celda& celda, quint16 ixfe) const
 {
     if (ixfe >= xfs.size()) return;
     const Xf& xf = xfs[ixfe];
     const std::size_t fuente = xf.fuente > FUENTE_QUE_NO_HAY ? xf.fuente - 1u : xf.fuente;
     celda.negrita = fuente < negritas.size() && negritas[fuente];
-    const auto formato = formatos_texto.find(xf.formato);
-    celda.como_texto =
-        formato != formatos_texto.end() ? formato->second : xf.formato == FORMATO_TEXTO;
+    const QByteArray dibujo = Dibujo_De(xf.formato);
+    celda.como_texto = dibujo == DIBUJO_TEXTO;
+    celda.decimales = Decimales_De(dibujo);
 }

@@ -39,10 +39,11 @@ private:
     };
 
     void Tomar_Formato(const Registro_Biff& registro, Version_Excel version);
+    QByteArray Dibujo_De(quint16 formato) const;
     void Tomar_Xf(const Registro_Biff& registro, Version_Excel version);
 
     std::vector<bool> negritas;             ///< of each font, in the order of the records
-    std::map<quint16, bool> formatos_texto; ///< by the number of a format: is it "@"?
+    std::map<quint16, QByteArray> dibujos;  ///< of the formats, by their number
     quint16 formatos_leidos = 0;
     std::vector<Xf> xfs;
 };

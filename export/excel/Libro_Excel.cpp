@@ -117,6 +117,15 @@ void Hoja_Excel::Poner_Como_Texto(const Rango& rango)
     Recorrer(rango, [this](int fila, int columna) { En(fila, columna).como_texto = true; });
 }
 
+void Hoja_Excel::Quitar(const Rango& rango)
+{
+    Comprobar_Lugar(rango.fila, rango.columna, MAX_FILAS, MAX_COLUMNAS);
+    for (int fila = rango.fila; fila <= rango.fila_hasta && fila < int(filas.size()); ++fila)
+        std::erase_if(filas[std::size_t(fila)], [&](const Celda_Situada& c) {
+            return c.columna >= rango.columna && c.columna <= rango.columna_hasta;
+        });
+}
+
 void Hoja_Excel::Poner_Ancho(int columna, double caracteres)
 {
     Comprobar_Lugar(0, columna, MAX_FILAS, MAX_COLUMNAS);

@@ -8,6 +8,7 @@
 
 #include <deque>
 #include <map>
+#include <optional>
 #include <vector>
 
 /// A cell: text, number or nothing, and how it is shown. A cell without a value may still be there
@@ -20,6 +21,10 @@ struct Celda {
     Tipo tipo = Tipo::Nada;
     bool negrita = false;
     bool como_texto = false; ///< what is typed into it stays text, also digits
+    /// A number shows so many decimals, 0 to `MAX_DECIMALES`; -1: as many as it has.
+    qint8 decimales = -1;
+
+    static constexpr int MAX_DECIMALES = 30;
 
     static Celda De(const QString& texto);
     static Celda De(double numero);
@@ -70,6 +75,13 @@ public:
     void Poner_Ancho(int columna, double caracteres);
     const std::map<int, double>& Anchos() const { return anchos; }
 
+    /// Takes the cells of a range away, values and looks. @throws as Poner
+    void Quitar(const Rango& rango);
+
+    /// The only part of the sheet that is printed; without one, all of it.
+    void Poner_Area_Impresion(const Rango& rango) { area_impresion = rango; }
+    const std::optional<Rango>& Area_Impresion() const { return area_impresion; }
+
     /// @return the cell, or an empty one where none is set
     const Celda& Leer(int fila, int columna) const;
 
@@ -94,6 +106,7 @@ private:
     std::vector<std::vector<Celda_Situada>> filas;
     std::map<int, double> anchos;
     Rango uso_ampliado;
+    std::optional<Rango> area_impresion;
 };
 
 /// A workbook in memory.

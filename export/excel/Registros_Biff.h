@@ -28,6 +28,8 @@ enum Id : quint16 {
     PASSWORD = 0x0013,
     HEADER = 0x0014,
     FOOTER = 0x0015,
+    EXTERNCOUNT = 0x0016,
+    EXTERNSHEET = 0x0017,
     WINDOWPROTECT = 0x0019,
     DATEMODE = 0x0022,
     PRINTHEADERS = 0x002A,
@@ -59,6 +61,7 @@ enum Id : quint16 {
     TABID = 0x013D,
     USESELFS = 0x0160,
     DSF = 0x0161,
+    SUPBOOK = 0x01AE,
     PROT4REV = 0x01AF,
     PROT4REVPASS = 0x01BC,
     REFRESHALL = 0x01B7,
@@ -120,7 +123,9 @@ struct Format_58 { // the picture follows, with an 8-bit (5) or 16-bit (8) lengt
 };
 
 constexpr quint16 FORMATO_GENERAL = 0;
-constexpr quint16 FORMATO_TEXTO = 49; ///< built into the later forms: the picture "@"
+constexpr quint16 FORMATO_ENTERO = 1, FORMATO_DOS_DECIMALES = 2; ///< built in: "0", "0.00"
+constexpr quint16 FORMATO_TEXTO = 49;   ///< built into the later forms: the picture "@"
+constexpr quint16 FORMATO_PROPIO = 164; ///< first number of a picture that the book brings
 
 // Bits of an XF that protect its cells, tell styles from cells and name the parent style.
 constexpr quint16 XF_BLOQUEADA = 0x0001;
@@ -190,6 +195,46 @@ struct ExtSst { // the places follow
 struct IsstInf {
     U32 ib;
     U16 cb_offset, reservado;
+};
+
+// A name built into Excel, which stands for a part of a sheet. Its text and its formula follow.
+struct Name_34 {
+    static constexpr quint16 ID = 0x0218;
+    U16 grbit;
+    U8 tecla, cch;
+    U16 cce;
+};
+struct Name_58 {
+    static constexpr quint16 ID = 0x0018;
+    U16 grbit;
+    U8 tecla, cch;
+    U16 cce, ixals, itab; ///< sheet, from 1
+    U8 cch_menu, cch_descripcion, cch_ayuda, cch_estado;
+};
+constexpr quint16 NOMBRE_INTEGRADO = 0x0020; ///< bit of grbit
+constexpr quint8 NOMBRE_AREA_IMPRESION = 0x06;
+// The formula of such a name: one operand.
+constexpr quint8 PTG_AREA = 0x25, PTG_AREA_3D = 0x3B;
+struct Area_34 {
+    U8 ptg;
+    U16 rw_first, rw_last;
+    U8 col_first, col_last;
+};
+struct Area_3D_5 {
+    U8 ptg;
+    U16 ixals; ///< minus the place of the sheet among the EXTERNSHEETs, from 1
+    std::array<U8, 8> reservado;
+    U16 itab_first, itab_last, rw_first, rw_last;
+    U8 col_first, col_last;
+};
+struct Area_3D_8 {
+    U8 ptg;
+    U16 ixti, rw_first, rw_last, col_first, col_last;
+};
+constexpr quint16 LIBRO_PROPIO = 0x0401; ///< in SUPBOOK: the sheets are those of the book itself
+constexpr quint8 HOJA_PROPIA = 0x03;     ///< in EXTERNSHEET, before the sheet's name
+struct Xti {
+    U16 supbook, itab_first, itab_last;
 };
 
 struct Window1_34 {

@@ -28,6 +28,20 @@ Tabla_Excel::Tabla_Excel(Libro_Excel& libro, const QString& nombre)
     }
     while (!columnas.isEmpty() && columnas.last().isEmpty())
         columnas.removeLast();
+    if (ultima == cabecera) return;
+    for (int campo = 0; campo < columnas.size(); ++campo) {
+        Celda celda = hoja.Leer(ultima, primera_columna + campo);
+        celda.tipo = Celda::Tipo::Nada;
+        celda.texto.clear();
+        celda.numero = 0;
+        aspectos.push_back(celda);
+    }
+}
+
+// Looks of a field of the last record that was there at the start.
+Celda Tabla_Excel::Aspecto(int campo) const
+{
+    return std::size_t(campo) < aspectos.size() ? aspectos[std::size_t(campo)] : Celda();
 }
 
 void Tabla_Excel::Comprobar_Actual() const
@@ -92,6 +106,11 @@ void Tabla_Excel::Poner(int campo, double numero)
     Poner_Valor(campo, Celda::De(numero));
 }
 
+void Tabla_Excel::Poner(int campo, const Celda& numero)
+{
+    Poner_Valor(campo, numero);
+}
+
 void Tabla_Excel::Update()
 {
     if (!abierta) throw Error_Ejecucion(3020);
@@ -101,16 +120,32 @@ void Tabla_Excel::Update()
     if (nueva && escrito.empty()) hoja.Poner(fila, primera_columna, Celda());
     for (const auto& [campo, valor] : escrito) {
         const int columna = primera_columna + campo;
-        if (valor.tipo == Celda::Tipo::Texto)
-            hoja.Poner(fila, columna, valor.texto);
-        else
-            hoja.Poner(fila, columna, valor.numero);
+        Celda celda = nueva ? Aspecto(campo) : hoja.Leer(fila, columna);
+        celda.tipo = valor.tipo;
+        celda.texto = valor.texto;
+        celda.numero = valor.numero;
+        if (valor.decimales >= 0) celda.decimales = valor.decimales;
+        hoja.Poner(fila, columna, celda);
     }
     // Behind the last record there is none to come to, also when one has been added.
     const bool en_el_final = Es_EOF();
     if (nueva) ultima = fila;
     if (en_el_final) actual = ultima + 1;
     CancelUpdate();
+}
+
+void Tabla_Excel::Quitar_Columnas_Desde(int campo)
+{
+    if (campo >= columnas.size()) return;
+    hoja.Quitar({cabecera, primera_columna + campo, cabecera,
+                 primera_columna + int(columnas.size()) - 1});
+    columnas.resize(campo);
+}
+
+void Tabla_Excel::Imprimir(int registros, int campos)
+{
+    hoja.Poner_Area_Impresion({cabecera + 1, primera_columna, cabecera + registros,
+                               primera_columna + campos - 1});
 }
 
 void Tabla_Excel::CancelUpdate()

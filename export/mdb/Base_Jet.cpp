@@ -2,6 +2,7 @@
 
 #include "core/Ansi.h"
 #include "core/Error_Ejecucion.h"
+#include "core/Ficheros.h"
 #include "core/Reloj.h"
 #include "export/mdb/Catalogo_Jet.h"
 #include "export/mdb/Definicion_Jet.h"
@@ -62,7 +63,7 @@ bool Es_Nombre_De_Fichero(const QString& nombre)
 void Comprobar_Destino(const QString& fichero, const Ajustes_Jet& ajustes)
 {
     const QFileInfo donde(fichero);
-    if (donde.isDir()) throw Error_Con(75, fichero);
+    Ficheros::Comprobar_Destino(fichero);
     if (!Es_Nombre_De_Fichero(donde.fileName())) throw Error_Con(3055, fichero);
     if (!donde.absoluteDir().exists()) throw Error_Con(3044, fichero);
     if (donde.exists() && ajustes.si_existe == Ajustes_Jet::RECHAZAR)

@@ -14,8 +14,6 @@ constexpr Aviso_De_Fallo SIN_NOMBRE[] = {
     {53, u"Debe especificar un nombre correcto para el Fichero de Salida", Icono::Exclamacion,
      u"Atención"},
 };
-constexpr Fallos_Escritor DEL_FORMATEADO = {
-    u"Se produjo un error al Guardar un Fichero de Texto formateado", SIN_NOMBRE};
 constexpr Fallos_Escritor DEL_SEPARADO = {u"Se produjo un error al Guardar un Fichero de Texto",
                                           SIN_NOMBRE};
 
@@ -126,9 +124,12 @@ bool Escribir(const Tarea_Exportar& tarea, const Fallos_Escritor& fallos,
 
 } // namespace
 
+const Fallos_Escritor FALLOS_DEL_FORMATEADO = {
+    u"Se produjo un error al Guardar un Fichero de Texto formateado", SIN_NOMBRE};
+
 bool Escribir_Texto_Formateado(const Tarea_Exportar& tarea)
 {
-    return Escribir(tarea, DEL_FORMATEADO, Escribir_Formateado);
+    return Escribir(tarea, FALLOS_DEL_FORMATEADO, Escribir_Formateado);
 }
 
 bool Escribir_Texto_Separado(const Tarea_Exportar& tarea)

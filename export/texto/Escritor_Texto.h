@@ -4,6 +4,11 @@
 
 #include "export/Tarea_Exportar.h"
 
+#include "export/Trampa_Escritor.h"
+
+/// What a writer of columns at fixed places says when it fails.
+extern const Fallos_Escritor FALLOS_DEL_FORMATEADO;
+
 // The writers of text files; their options are of the form `Opciones_Texto`.
 
 /// "TXF": columns at fixed places, a cell being left-aligned in the width of its column, never cut.

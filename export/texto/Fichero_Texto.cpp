@@ -3,28 +3,24 @@
 #include "core/Ansi.h"
 #include "core/Ficheros.h"
 
-#include <algorithm>
 #include <QFileInfo>
 
 namespace {
 
 constexpr qsizetype TRAMO = 64 * 1024;
 
-// Blank, or with a wild card or a control character in it: never the name of a file.
-bool Es_Nombre(const QString& ruta)
+const QString& Comprobado(const QString& ruta)
 {
-    const auto prohibido = [](QChar c) { return c < u' ' || c == u'*' || c == u'?'; };
-    return !ruta.trimmed().isEmpty() && std::ranges::none_of(ruta, prohibido);
+    if (!Es_Nombre_De_Fichero(ruta)) throw Error_Ejecucion::Con(53, ruta);
+    if (!QFileInfo(ruta).absoluteDir().exists()) throw Error_Ejecucion::Con(76, ruta);
+    return ruta;
 }
 
 } // namespace
 
-Fichero_Texto::Fichero_Texto(const QString& ruta) : fichero(ruta)
+Fichero_Texto::Fichero_Texto(const QString& ruta)
+    : destino(Comprobado(ruta)), fichero(destino.Ruta())
 {
-    if (!Es_Nombre(ruta)) throw Error_Ejecucion::Con(53, ruta);
-    const QFileInfo donde(ruta);
-    if (donde.isDir()) throw Error_Ejecucion::Con(75, ruta);
-    if (!donde.absoluteDir().exists()) throw Error_Ejecucion::Con(76, ruta);
     if (!fichero.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw Ficheros::Error_De(fichero);
     pendiente.reserve(TRAMO + 1024);
@@ -69,6 +65,7 @@ void Fichero_Texto::Cerrar()
     if (!fichero.flush()) throw Ficheros::Error_De(fichero);
     fichero.close();
     if (fichero.error() != QFileDevice::NoError) throw Ficheros::Error_De(fichero);
+    destino.Terminar();
 }
 
 void Fichero_Texto::Volcar()
@@ -76,6 +73,9 @@ void Fichero_Texto::Volcar()
     const qint64 escritos = fichero.write(pendiente);
     if (escritos != pendiente.size()) {
         pendiente.clear();
+        // A block that was written in part is a full disk that has not said so yet.
+        if (fichero.error() == QFileDevice::NoError)
+            throw Error_Ejecucion::Con(61, fichero.fileName());
         throw Ficheros::Error_De(fichero);
     }
     pendiente.clear();

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "export/Destino_Exportar.h"
+
 #include <QFile>
 #include <QString>
 
 /// A text file on its way out: lines ended by CR LF in the program's single-byte page. What was
-/// written stays when something fails.
+/// written stays when something fails, as `Destino_Exportar` has it.
 class Fichero_Texto {
 public:
-    /// Opens for output; a file that stands there is replaced.
+    /// Opens for output; a file that stands there is replaced by `Cerrar`.
     /// @throws Error_Ejecucion 53 for a name that can't be a file's, 76 when its folder isn't
     ///         there, 75 when it is a folder, 70 without permission
     explicit Fichero_Texto(const QString& ruta);
@@ -30,6 +32,7 @@ public:
 private:
     void Volcar();
 
+    Destino_Exportar destino;
     QFile fichero;
     QByteArray pendiente;
 };

@@ -6,6 +6,7 @@
 #include "export/ui/Avance_Dialogo.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QFormLayout>
@@ -80,10 +81,12 @@ QGroupBox* FrmExportar::Hacer_Opciones()
     Caracter = Piezas::Combo("Caracter");
     Label3 = Piezas::Rotulo("Versión Excel :", "Label3");
     VersionExcel = Piezas::Combo("VersionExcel");
+    ChkNumeros = Piezas::Casilla("ChkNumeros", "Números como números");
     auto* const lado = new QVBoxLayout;
     for (QWidget* const pieza :
          {static_cast<QWidget*>(Label4), static_cast<QWidget*>(Caracter),
-          static_cast<QWidget*>(Label3), static_cast<QWidget*>(VersionExcel)})
+          static_cast<QWidget*>(Label3), static_cast<QWidget*>(VersionExcel),
+          static_cast<QWidget*>(ChkNumeros)})
         lado->addWidget(pieza);
     lado->addStretch();
     auto* const caja = new QHBoxLayout(grupo);
@@ -92,6 +95,7 @@ QGroupBox* FrmExportar::Hacer_Opciones()
     connect(Caracter, &QComboBox::activated, this, [this](int i) { modelo->caracter = i; });
     connect(VersionExcel, &QComboBox::activated, this,
             [this](int i) { modelo->Elegir_Version(i); });
+    connect(ChkNumeros, &QCheckBox::clicked, this, [this](bool si) { modelo->Marcar_Numeros(si); });
     return grupo;
 }
 
@@ -129,7 +133,6 @@ void FrmExportar::Mostrar_Modelo()
     for (int i = 0; i < OptFor.size(); ++i) {
         OptFor[i]->setEnabled(modelo->activa[i]);
         OptFor[i]->setChecked(i == modelo->opcion);
-        OptFor[i]->setVisible(modelo->activa[i] || !Salida_De_Opcion(i)->oculta_sin_escritor);
     }
     Llenar(*Caracter, modelo->caracteres, modelo->caracter);
     Caracter->setProperty("Tag", modelo->tag_caracteres);
@@ -137,8 +140,10 @@ void FrmExportar::Mostrar_Modelo()
     for (QWidget* const pieza : {static_cast<QWidget*>(Label4), static_cast<QWidget*>(Caracter)})
         pieza->setVisible(modelo->caracter_visible);
     for (QWidget* const pieza :
-         {static_cast<QWidget*>(Label3), static_cast<QWidget*>(VersionExcel)})
+         {static_cast<QWidget*>(Label3), static_cast<QWidget*>(VersionExcel),
+          static_cast<QWidget*>(ChkNumeros)})
         pieza->setVisible(modelo->version_visible);
+    ChkNumeros->setChecked(modelo->numeros);
     Text1->setText(modelo->fichero);
     BtnElegir->setEnabled(modelo->elegir_activo);
 }

@@ -3,6 +3,7 @@
 #include "core/ui/Ventana.h"
 #include "export/Dialogo_Exportar.h"
 
+class QCheckBox;
 class QComboBox;
 class QGroupBox;
 class QLabel;
@@ -34,6 +35,7 @@ private:
     QList<QRadioButton*> OptFor;
     QLabel *Label3, *Label4, *LblMsg;
     QComboBox *Caracter, *VersionExcel;
+    QCheckBox* ChkNumeros;
     QLineEdit* Text1;
     QProgressBar* Pb1;
     QPushButton *BtnElegir, *BtnExportar;

@@ -4,7 +4,9 @@
 #include "core/ui/Dialogos.h"
 #include "core/ui/Piezas.h"
 #include "formats/Peticiones_Formatos.h"
+#include "formats/ui/FrmExistFormNV400.h"
 #include "formats/ui/FrmExistformato.h"
+#include "formats/ui/FrmNuevoFormatoNV400.h"
 #include "formats/ui/FrmNuevoformato.h"
 
 void Conectar_Dialogos_Formatos()
@@ -19,11 +21,11 @@ void Conectar_Dialogos_Formatos()
     const auto falta = [](const QString& que) {
         Interfaz_Actual().Mensaje(Piezas::Texto_No_Disponible(que), Icono::Informacion);
     };
-    pide.Mostrar_Existente_NV400 = [falta](const Sesion_Elegida&, const QString&) {
-        falta("La exportación del nivel");
+    pide.Mostrar_Existente_NV400 = [](Formato_Existente_Nivel& modelo) {
+        Dialogos::Unico<FrmExistFormNV400>().Mostrar_Con(modelo);
     };
-    pide.Mostrar_Nuevo_NV400 = [falta](const Sesion_Elegida&) {
-        falta("La exportación del nivel");
+    pide.Mostrar_Nuevo_NV400 = [](Formato_Nuevo_Nivel& modelo) {
+        Dialogos::Unico<FrmNuevoFormatoNV400>().Mostrar_Con(modelo);
     };
     pide.Abrir_Imprimir = [falta](const Trabajo_Exportar&) { falta("La impresión"); };
 }

@@ -8,7 +8,13 @@
 #include <QLabel>
 #include <QLineEdit>
 
-FrmExistformato::FrmExistformato() : Dialogo_Formato("FrmExistformato", "Formatos")
+FrmExistformato::FrmExistformato() : FrmExistformato("FrmExistformato", "Formatos")
+{
+    Montar();
+}
+
+FrmExistformato::FrmExistformato(const QString& nombre, const QString& titulo)
+    : Dialogo_Formato(nombre, titulo)
 {
     CbFormatos = Piezas::Combo("CbFormatos");
     TxtDes->setReadOnly(true);
@@ -17,9 +23,13 @@ FrmExistformato::FrmExistformato() : Dialogo_Formato("FrmExistformato", "Formato
     Check2->setEnabled(false); // it tells, and changes nothing here
     Label2 = Piezas::Rotulo("Modificable", "Label2");
     Label2->setStyleSheet("color: #ff0000");
-    Armar({{"Nombre del formato:", CbFormatos}, {"Descripción:", TxtDes}}, {Check1, Check2, Label2},
-          "expexist");
     connect(CbFormatos, &QComboBox::activated, this, &FrmExistformato::CbFormatos_Click);
+}
+
+void FrmExistformato::Montar(const QList<Renglon>& renglones, const QList<QWidget*>& casillas)
+{
+    Armar(QList<Renglon>{{"Nombre del formato:", CbFormatos}, {"Descripción:", TxtDes}} + renglones,
+          QList<QWidget*>{Check1, Check2, Label2} + casillas, "expexist");
 }
 
 void FrmExistformato::Mostrar_Con(Formato_Existente& modelo)

@@ -16,9 +16,15 @@ public:
     /// Shows the model modally; it outlives the call.
     void Mostrar_Con(Formato_Existente& modelo);
 
+protected:
+    /// Makes the controls; `Montar` lays them out.
+    FrmExistformato(const QString& nombre, const QString& titulo);
+    /// @param renglones, casillas  what a dialog has beside those of this one
+    void Montar(const QList<Renglon>& renglones = {}, const QList<QWidget*>& casillas = {});
+    void Mostrar_Datos() override;
+
 private:
     Formato_Existente* Existente() const { return static_cast<Formato_Existente*>(Modelo()); }
-    void Mostrar_Datos() override;
     void CbFormatos_Click(int indice);
 
     QComboBox* CbFormatos;

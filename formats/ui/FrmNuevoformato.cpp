@@ -50,15 +50,26 @@ private:
 
 } // namespace
 
-FrmNuevoformato::FrmNuevoformato() : Dialogo_Formato("FrmNuevoformato", "Crear formato nuevo")
+FrmNuevoformato::FrmNuevoformato() : FrmNuevoformato(QStringLiteral("FrmNuevoformato"))
+{
+    Montar();
+}
+
+FrmNuevoformato::FrmNuevoformato(const QString& nombre)
+    : Dialogo_Formato(nombre, "Crear formato nuevo")
 {
     Txt = new Combo_Nombre;
     CbTipo = Piezas::Combo("CbTipo");
     Check1 = Hacer_Cabeceras();
     Check2 = Piezas::Casilla("Check2", " Modificable");
-    Armar({{"Nombre del formato:", Txt}, {"Descripción:", TxtDes}, {"Tipo:", CbTipo}},
-          {Check1, Check2}, "expnuevo");
     Atender();
+}
+
+void FrmNuevoformato::Montar(const QList<Renglon>& renglones)
+{
+    const QList<Renglon> propios{
+        {"Nombre del formato:", Txt}, {"Descripción:", TxtDes}, {"Tipo:", CbTipo}};
+    Armar(propios + renglones, {Check1, Check2}, "expnuevo");
 }
 
 void FrmNuevoformato::Atender()

@@ -14,10 +14,16 @@ public:
     /// Shows the model modally; it outlives the call.
     void Mostrar_Con(Formato_Nuevo& modelo);
 
+protected:
+    /// Makes the controls; `Montar` lays them out.
+    explicit FrmNuevoformato(const QString& nombre);
+    /// @param renglones  what a dialog has beside those of this one
+    void Montar(const QList<Renglon>& renglones = {});
+    void Mostrar_Datos() override;
+
 private:
     Formato_Nuevo* Nuevo() const { return static_cast<Formato_Nuevo*>(Modelo()); }
     void Atender();
-    void Mostrar_Datos() override;
     void Al_Rechazar() override;
 
     QComboBox *Txt, *CbTipo;

@@ -93,7 +93,11 @@ void Panel_Campos::Atar(Dos_Listas* de)
 void Panel_Campos::Mostrar()
 {
     if (!listas) return;
-    Llenar(*List1, listas->disponibles);
+    QStringList disponibles = listas->disponibles;
+    if (rotulo)
+        for (QString& campo : disponibles)
+            campo = rotulo(campo);
+    Llenar(*List1, disponibles);
     Llenar(*List2, listas->elegidos);
 }
 

@@ -2,6 +2,7 @@
 
 #include "formats/Dos_Listas.h"
 
+#include <functional>
 #include <QWidget>
 
 class QListWidget;
@@ -17,6 +18,8 @@ public:
 
     /// Shows the lists of the model, which outlives the panel.
     void Atar(Dos_Listas* listas);
+    /// @param de  how an available field is listed; without it, by its name
+    void Rotular(const std::function<QString(const QString&)>& de) { rotulo = de; }
     /// Shows them anew.
     void Mostrar();
     /// Bars the changes; the fields can still be looked at.
@@ -28,6 +31,7 @@ private:
     void Mover(int (Dos_Listas::*como)(const QList<int>&));
 
     Dos_Listas* listas = nullptr;
+    std::function<QString(const QString&)> rotulo;
     QListWidget *List1, *List2;
     QPushButton *BtnAgregar, *BtnQuitar, *BtnSubir, *BtnBajar;
 };

@@ -137,7 +137,7 @@ void TestFilasNuevas::los_mismos_bytes_en_todas_partes()
                    "Distancia", "Altura Instrumento"});
     const Salida s =
         Orden(p, {"exportar", "1", "--formato", "MÍO", "--tipo", "txf", "--separador", "coma",
-                  "--titulos", "--desplazamiento", "123456789.5,,", "--salida", p.Ruta("s.txt")});
+                  "--titulos", "si", "--desplazamiento", "123456789.5,,", "--salida", p.Ruta("s.txt")});
     const QString sesiones = Orden(p, {"sesiones", "--maquina", "KRT300"}).texto;
     std::setlocale(LC_ALL, "C");
     QLocale::setDefault(antes);

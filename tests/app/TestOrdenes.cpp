@@ -52,9 +52,11 @@ void TestOrdenes::la_ayuda_lista_cada_orden()
     for (const Orden& o : Ordenes())
         QVERIFY(salida.contains(o.uso.toUtf8()));
     // The kinds and the separators are those of their tables.
-    QVERIFY(salida.contains("  exportar ID --formato NOMBRE --tipo txf|txt --salida FICHERO "
-                            "[--separador espacio|coma|tabulacion] [--titulos] "
-                            "[--desplazamiento X,Y,Z]\n"));
+    QVERIFY(salida.contains("  exportar ID --formato NOMBRE --tipo txf|txt|xls|mdb --salida "
+                            "FICHERO [--separador espacio|coma|tabulacion] "
+                            "[--version \"Excel 3.0\"|\"Excel 4.0\"|\"Excel 95\"|\"Excel 97\"] "
+                            "[--numeros] [--titulos si|no] [--desplazamiento X,Y,Z] [--anillo] "
+                            "[--nivelacion]\n"));
 }
 
 void TestOrdenes::los_argumentos_se_cortan()

@@ -1,11 +1,12 @@
 #include "core/Perfil.h"
 #include "core/Posicion.h"
-#include "formats/Formato_Existente.h"
-#include "formats/Formato_Nuevo.h"
+#include "formats/Formato_Existente_Nivel.h"
+#include "formats/Formato_Nuevo_Nivel.h"
 #include "formats/Mantenimiento_Formatos.h"
 #include "session/Peticiones_Sesion.h"
 #include "tests/apoyo/Instrumentos.h"
 #include "tests/apoyo/Interfaz_Guion.h"
+#include "tests/apoyo/Nivel_De_Prueba.h"
 #include "tests/apoyo/Prueba.h"
 
 namespace {
@@ -318,16 +319,20 @@ void TestDialogosFormatos::el_nivel_va_a_sus_dialogos()
 {
     Escena e;
     Poner_Sesion(e.p, 3, "NV400", 0, {{"", "g,1"}});
-    Peticiones_De_Formatos().Mostrar_Existente_NV400 = [&](const Sesion_Elegida& s,
-                                                           const QString& destino) {
-        e.hechos << "nivel " + QString::number(s.id) + destino;
+    Peticiones_De_Formatos().Mostrar_Existente_NV400 = [&](const Formato_Existente_Nivel& m) {
+        e.hechos << "nivel " + QString::number(m.Sesion().id) + m.nombres.join(',') + m.titulo;
     };
-    Peticiones_De_Formatos().Mostrar_Nuevo_NV400 = [&](const Sesion_Elegida& s) {
-        e.hechos << "nuevo nivel " + QString::number(s.id);
+    Peticiones_De_Formatos().Mostrar_Nuevo_NV400 = [&](const Formato_Nuevo_Nivel& m) {
+        e.hechos << "nuevo nivel " + m.titulo;
     };
-    Exporta_o_Imprime_Formato_Existente(Sesion_Elegida{3, "NV400", 0, ""}, "I");
-    Exporta_Formato_Nuevo(Sesion_Elegida{3, "NV400", 0, ""});
-    QCOMPARE(e.hechos, (QStringList{"nivel 3I", "nuevo nivel 3"}));
+    const Sesion_Elegida sesion{3, "NV400", 0, "Niveles"};
+    Exporta_o_Imprime_Formato_Existente(sesion, "I");
+    QCOMPARE(e.guion.Textos(), QStringList{"No hay formatos disponibles"});
+    Nivel_De_Prueba::Poner_Formato(e.p, "F", {"Trabajo"}, {"Cota"});
+    Exporta_o_Imprime_Formato_Existente(sesion, "I");
+    Exporta_Formato_Nuevo(sesion);
+    QCOMPARE(e.hechos, (QStringList{"nivel 3FFormatos Disponibles para [Niveles]",
+                                    "nuevo nivel Crear formato nuevo"}));
 }
 
 void TestDialogosFormatos::el_nuevo_ofrece_sus_tipos()

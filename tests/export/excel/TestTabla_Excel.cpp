@@ -17,6 +17,8 @@ private Q_SLOTS:
     void una_hoja_sin_nada();
     void la_hoja_llena_es_el_3437();
     void la_plantilla_tiene_columnas_y_filas();
+    void lo_nuevo_lleva_el_aspecto_de_lo_ultimo_preparado();
+    void las_columnas_sin_uso_se_quitan();
     void la_plantilla_retocada_conserva_sus_filas();
     void la_plantilla_se_llena_en_cada_forma_data();
     void la_plantilla_se_llena_en_cada_forma();
@@ -105,6 +107,53 @@ void TestTabla_Excel::sin_registro_es_el_3021()
         tabla.MoveNext();
     QCOMPARE(Numero_De_Error([&] { tabla.Edit(); }), 3021);
     QCOMPARE(Numero_De_Error([&] { tabla.Valor(0); }), 3021);
+}
+
+void TestTabla_Excel::lo_nuevo_lleva_el_aspecto_de_lo_ultimo_preparado()
+{
+    Libro_Excel libro = Libro_De_Prueba();
+    libro.Hoja(0).Poner_Negrita({4, 3, 4, 3});
+    Tabla_Excel tabla(libro, "hoja1$");
+    const auto anadir = [&](const std::optional<Celda>& numero) {
+        tabla.AddNew();
+        tabla.Poner(0, "t");
+        if (numero)
+            tabla.Poner(1, *numero);
+        else
+            tabla.Poner(1, "t");
+        tabla.Update();
+    };
+    Celda numero = Celda::De(1.5);
+    numero.decimales = 3;
+    anadir(numero);
+    anadir(std::nullopt);
+    const Hoja_Excel& h = libro.Hoja(0);
+    for (const int fila : {5, 6}) {
+        QVERIFY(h.Leer(fila, 2).como_texto && !h.Leer(fila, 2).negrita);
+        QVERIFY(h.Leer(fila, 3).como_texto && h.Leer(fila, 3).negrita);
+    }
+    QCOMPARE(h.Leer(5, 3).decimales, qint8(3));
+    // The number's own picture goes no further.
+    QCOMPARE(h.Leer(6, 3).decimales, qint8(-1));
+    QCOMPARE(h.Leer(5, 4), Celda());
+}
+
+void TestTabla_Excel::las_columnas_sin_uso_se_quitan()
+{
+    Libro_Excel libro = Libro_De_Prueba();
+    Tabla_Excel tabla(libro, "hoja1$");
+    tabla.Quitar_Columnas_Desde(1);
+    QCOMPARE(tabla.Columnas(), QStringList{"A"});
+    QCOMPARE(libro.Hoja(0).Leer(1, 2).texto, QString("A"));
+    QCOMPARE(libro.Hoja(0).Leer(1, 4), Celda());
+    QCOMPARE(libro.Hoja(0).Leer(2, 3).numero, 5.0);
+    tabla.Quitar_Columnas_Desde(1);
+    tabla.Quitar_Columnas_Desde(7);
+    QCOMPARE(tabla.Columnas().size(), 1);
+    tabla.Imprimir(2, 1);
+    QCOMPARE(libro.Hoja(0).Area_Impresion(), std::optional<Rango>({2, 2, 3, 2}));
+    tabla.Quitar_Columnas_Desde(0);
+    QCOMPARE(libro.Hoja(0).Fila(1).size(), std::size_t(0));
 }
 
 void TestTabla_Excel::un_registro_nuevo_va_al_final()

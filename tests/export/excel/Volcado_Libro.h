@@ -15,6 +15,11 @@ inline QStringList Volcar_Libro(const Libro_Excel& libro, const QString& nombre_
             .replace("\n", "\\n")
             .replace("\r", "\\r");
     };
+    const auto aspecto = [](const Celda& c) {
+        const QString texto = c.negrita ? "n" : "";
+        if (c.decimales < 0) return texto + (c.como_texto ? "t" : "");
+        return texto + (c.decimales == 0 ? "0" : "0." + QString(c.decimales, u'0'));
+    };
     QStringList lineas;
     for (int h = 0; h < libro.Numero_Hojas(); ++h) {
         const Hoja_Excel& hoja = libro.Hoja(h);
@@ -22,6 +27,14 @@ inline QStringList Volcar_Libro(const Libro_Excel& libro, const QString& nombre_
         for (const auto& [columna, ancho] : hoja.Anchos())
             lineas << QStringList{"ancho", nombre, QString::number(columna),
                                   QString::number(qRound(ancho * 256))}
+                          .join('\t');
+        if (const auto& area = hoja.Area_Impresion())
+            lineas << QStringList{"area",
+                                  nombre,
+                                  QString::number(area->fila),
+                                  QString::number(area->columna),
+                                  QString::number(area->fila_hasta),
+                                  QString::number(area->columna_hasta)}
                           .join('\t');
         const int ultima = hoja.Rango_Usado().fila_hasta;
         for (int fila = 0; fila <= ultima; ++fila)
@@ -39,7 +52,7 @@ inline QStringList Volcar_Libro(const Libro_Excel& libro, const QString& nombre_
                                       QString::number(c.columna),
                                       tipo,
                                       valor,
-                                      QString(c.negrita ? "n" : "") + (c.como_texto ? "t" : "")}
+                                      aspecto(c)}
                               .join('\t');
             }
     }
@@ -47,10 +60,11 @@ inline QStringList Volcar_Libro(const Libro_Excel& libro, const QString& nombre_
 }
 
 /// The lines that xlrd makes of a file, or one line with its complaint.
-inline QStringList Volcar_Con_Xlrd(const QString& fichero)
+/// @param opciones  "areas" lists what is printed of the sheets, too
+inline QStringList Volcar_Con_Xlrd(const QString& fichero, const QStringList& opciones = {})
 {
     QProcess python;
-    python.start("/usr/bin/python3", {RAIZ_FUENTES "/tests/export/excel/volcar_xls.py", fichero});
+    python.start("/usr/bin/python3", QStringList{RAIZ_FUENTES "/tests/export/excel/volcar_xls.py", fichero} + opciones);
     python.waitForFinished(600000);
     const QByteArray quejas = python.readAllStandardError();
     if (python.exitCode() != 0 || !quejas.isEmpty()) return {QString::fromUtf8(quejas)};

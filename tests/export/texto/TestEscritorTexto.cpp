@@ -8,7 +8,10 @@
 #include "tests/apoyo/Interfaz_Guion.h"
 #include "tests/apoyo/Prueba.h"
 
+#include <csignal>
 #include <QFileInfo>
+#include <QScopeGuard>
+#include <sys/resource.h>
 
 namespace {
 
@@ -45,6 +48,7 @@ private Q_SLOTS:
     void los_fallos_se_dicen_data();
     void los_fallos_se_dicen();
     void lo_escrito_se_queda();
+    void un_dispositivo_no_se_pisa();
     void la_pagina_y_los_finales_de_linea();
 
 private:
@@ -204,12 +208,41 @@ void TestEscritorTexto::los_fallos_se_dicen()
 
 void TestEscritorTexto::lo_escrito_se_queda()
 {
-    if (!QFileInfo::exists("/dev/full")) QSKIP("no full device here");
+    // Under a bound of 100 kB for any file, the second block doesn't fit.
+    rlimit antes{};
+    getrlimit(RLIMIT_FSIZE, &antes);
+    rlimit corto = antes;
+    corto.rlim_cur = 100000;
+    const auto senal = std::signal(SIGXFSZ, SIG_IGN);
+    const auto fin = qScopeGuard([&] {
+        setrlimit(RLIMIT_FSIZE, &antes);
+        std::signal(SIGXFSZ, senal);
+    });
+    Base_De_Prueba p;
+    Interfaz_Guion guion;
+    Clave_Estacion = "KRT300";
+    const QList<QStringList> muchas(3000, {QString(80, u'x')});
+    const QByteArray principio = QByteArray(80, 'x') + "\r\n";
+    p.Escribir("ficheros/hay.txt", "lo de antes");
+    setrlimit(RLIMIT_FSIZE, &corto);
+    QVERIFY(!Escribir("TXF", p.Ruta("ficheros/s.txt"), ",", false, Datos(muchas)));
+    QVERIFY(!Escribir("TXF", p.Ruta("ficheros/hay.txt"), ",", false, Datos(muchas)));
+    for (const auto& aviso : guion.avisos)
+        QVERIFY2(aviso.texto.contains("\r(61) "), qPrintable(aviso.texto));
+    QVERIFY(p.Leer("ficheros/s.txt").startsWith(principio));
+    QVERIFY(!QFile::exists(p.Ruta("ficheros/s.txt.parcial")));
+    QCOMPARE(p.Leer("ficheros/hay.txt"), QByteArray("lo de antes"));
+    QVERIFY(p.Leer("ficheros/hay.txt.parcial").startsWith(principio));
+}
+
+void TestEscritorTexto::un_dispositivo_no_se_pisa()
+{
+    if (!QFileInfo::exists("/dev/full")) QSKIP("no such device here");
     Base_De_Prueba p;
     Interfaz_Guion guion;
     Clave_Estacion = "KRT300";
     QVERIFY(!Escribir("TXF", "/dev/full", ",", false, Datos(FILAS)));
-    QVERIFY(guion.avisos[0].texto.contains("\r(61) "));
+    QVERIFY(guion.avisos[0].texto.contains("\r(75) "));
 }
 
 void TestEscritorTexto::la_pagina_y_los_finales_de_linea()
