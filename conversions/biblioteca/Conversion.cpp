@@ -7,7 +7,7 @@
 
 namespace Conversion {
 
-int Convertir(const Peticion& p, Informe_Lectura& informe, Omisiones omisiones,
+int Convertir(const Peticion_Funcion& p, Informe_Lectura& informe, Omisiones omisiones,
               const std::function<QByteArray()>& producir)
 {
     try {

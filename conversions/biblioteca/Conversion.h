@@ -17,7 +17,7 @@ enum class Omisiones { Dan_Menos_Uno, No_Cuentan };
 /// With result 0 no target file is left behind, and the report tells the reason. A target that is
 /// the source itself is refused before anything is touched: it would cost the surveyor his design.
 /// @return 1, -1 or 0
-int Convertir(const Peticion& peticion, Informe_Lectura& informe, Omisiones omisiones,
+int Convertir(const Peticion_Funcion& peticion, Informe_Lectura& informe, Omisiones omisiones,
               const std::function<QByteArray()>& producir);
 
 /// Opens a source file for reading. @throws Fallo_Conversion with the reason
@@ -31,7 +31,7 @@ QString Nombre_De_Fichero(const QString& ruta);
 /// `Escribir` is `QByteArray (const Modelo&, const QString& destino)`. Both may throw
 /// Fallo_Conversion.
 template <auto Leer, auto Escribir, Omisiones OMISIONES>
-int Fichero(const Peticion& p, Informe_Lectura& informe)
+int Fichero(const Peticion_Funcion& p, Informe_Lectura& informe)
 {
     return Convertir(p, informe, OMISIONES, [&] {
         QFile fichero(p.entrada);

@@ -42,7 +42,7 @@ QByteArray Como_En_Lista(const QString& texto)
     return Ansi::A_Bytes(linea);
 }
 
-int Listar_En_Fichero(const Peticion& p, Informe_Lectura& informe,
+int Listar_En_Fichero(const Peticion_Funcion& p, Informe_Lectura& informe,
                       QStringList (*listar)(QIODevice&))
 {
     const QString lista = p.salida.isEmpty() ? Fichero_Lista() : p.salida;

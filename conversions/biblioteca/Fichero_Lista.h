@@ -16,5 +16,5 @@ void Mover_Fichero_Lista(const QString& ruta);
 /// Windows-1252, CR LF, a choice a line. The file is always made, empty after a failure: the dialog
 /// opens it without a test.
 /// @return the number of lines
-int Listar_En_Fichero(const Peticion& peticion, Informe_Lectura& informe,
+int Listar_En_Fichero(const Peticion_Funcion& peticion, Informe_Lectura& informe,
                       QStringList (*listar)(QIODevice&));

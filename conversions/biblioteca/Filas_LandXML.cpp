@@ -9,7 +9,7 @@ namespace {
 using Conversion::Omisiones;
 
 /// Runs `convertir` on the opened source.
-int Con_Fuente(const Peticion& p, Informe_Lectura& informe, Omisiones omisiones,
+int Con_Fuente(const Peticion_Funcion& p, Informe_Lectura& informe, Omisiones omisiones,
                const std::function<QByteArray(QIODevice&)>& convertir)
 {
     return Conversion::Convertir(p, informe, omisiones, [&] {
@@ -19,7 +19,7 @@ int Con_Fuente(const Peticion& p, Informe_Lectura& informe, Omisiones omisiones,
     });
 }
 
-int Eje_Al_Instrumento(const Peticion& p, Informe_Lectura& informe)
+int Eje_Al_Instrumento(const Peticion_Funcion& p, Informe_Lectura& informe)
 {
     return Con_Fuente(p, informe, Omisiones::Dan_Menos_Uno, [&](QIODevice& fuente) {
         bool bien = false;
@@ -30,7 +30,7 @@ int Eje_Al_Instrumento(const Peticion& p, Informe_Lectura& informe)
     });
 }
 
-int Rasante_Al_Instrumento(const Peticion& p, Informe_Lectura& informe)
+int Rasante_Al_Instrumento(const Peticion_Funcion& p, Informe_Lectura& informe)
 {
     return Con_Fuente(p, informe, Omisiones::Dan_Menos_Uno, [&](QIODevice& fuente) {
         return Escribir_Rasante_Instrumento(Leer_Rasante_LandXML(fuente, p.datos[0], informe),
@@ -38,7 +38,7 @@ int Rasante_Al_Instrumento(const Peticion& p, Informe_Lectura& informe)
     });
 }
 
-int Secciones_Al_Instrumento(const Peticion& p, Informe_Lectura& informe)
+int Secciones_Al_Instrumento(const Peticion_Funcion& p, Informe_Lectura& informe)
 {
     return Con_Fuente(p, informe, Omisiones::No_Cuentan, [&](QIODevice& fuente) {
         return Escritor_Secciones::Ssp(
@@ -46,7 +46,8 @@ int Secciones_Al_Instrumento(const Peticion& p, Informe_Lectura& informe)
     });
 }
 
-template <QStringList (*LISTAR)(QIODevice&)> int Listar(const Peticion& p, Informe_Lectura& informe)
+template <QStringList (*LISTAR)(QIODevice&)>
+int Listar(const Peticion_Funcion& p, Informe_Lectura& informe)
 {
     return Listar_En_Fichero(p, informe, LISTAR);
 }

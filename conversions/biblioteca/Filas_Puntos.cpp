@@ -11,7 +11,7 @@ using namespace Conversion;
 
 namespace {
 
-int Nivel_A_Ign(const Peticion& p, Informe_Lectura& informe)
+int Nivel_A_Ign(const Peticion_Funcion& p, Informe_Lectura& informe)
 {
     return Convertir(p, informe, Omisiones::No_Cuentan, [&] {
         QFile fichero(p.entrada);
@@ -22,7 +22,7 @@ int Nivel_A_Ign(const Peticion& p, Informe_Lectura& informe)
 }
 
 // The dialog that asked reads three lines whatever the result.
-int Procesar_Cabecera(const Peticion& p, Informe_Lectura& informe)
+int Procesar_Cabecera(const Peticion_Funcion& p, Informe_Lectura& informe)
 {
     const int hecho = Convertir(p, informe, Omisiones::No_Cuentan, [&] {
         QFile fichero(p.entrada);
@@ -35,7 +35,7 @@ int Procesar_Cabecera(const Peticion& p, Informe_Lectura& informe)
     return hecho;
 }
 
-int Procesar_Robotizada(const Peticion& p, Informe_Lectura& informe)
+int Procesar_Robotizada(const Peticion_Funcion& p, Informe_Lectura& informe)
 {
     if (Destino::Mismo_Fichero(p.datos[0], p.salida)) {
         informe.Fallar(

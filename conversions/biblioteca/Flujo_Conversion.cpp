@@ -76,10 +76,10 @@ static QString Pedir_Destino_Puntos(const QString& origen)
 {
     for (;;) {
         QString destino = Pedir({.titulo = QStringLiteral("Fichero Destino"),
-                                       .filtro = QStringLiteral("Puntos KRT (*.krt)|*.krt"),
-                                       .carpeta = {},
-                                       .extension = QStringLiteral("krt"),
-                                       .guardar = true});
+                                 .filtro = QStringLiteral("Puntos KRT (*.krt)|*.krt"),
+                                 .carpeta = {},
+                                 .extension = QStringLiteral("krt"),
+                                 .guardar = true});
         if (destino == origen || !QFileInfo::exists(destino)) return destino;
         if (Interfaz_Actual().Preguntar(destino + QStringLiteral(" ya existe.") + FIN_LINEA +
                                         QStringLiteral("¿Desea reemplazarlo?")))

@@ -11,9 +11,9 @@ QStringList Nombres_Argumentos(const Funcion& f)
     return QString::fromLatin1(f.argumentos).split(u' ');
 }
 
-Peticion Repartir(const Funcion& f, const QStringList& argumentos)
+Peticion_Funcion Repartir(const Funcion& f, const QStringList& argumentos)
 {
-    Peticion p;
+    Peticion_Funcion p;
     const QStringList nombres = Nombres_Argumentos(f);
     for (qsizetype i = 0; i < argumentos.size(); ++i) {
         if (nombres[i] == u"ENTRADA") {

@@ -8,7 +8,7 @@
 #include <vector>
 
 /// What a function of the library is asked: its arguments, sorted by their use.
-struct Peticion {
+struct Peticion_Funcion {
     QString entrada;   ///< source path
     QString salida;    ///< target path; of a list function the list file, empty for the usual one
     QStringList datos; ///< the other arguments in their order (index, names, texts, second source)
@@ -16,7 +16,7 @@ struct Peticion {
 
 /// Result 1 converted, -1 converted with something invalid, 0 nothing converted (the report tells
 /// why); a list function gives the number of lines.
-using Cuerpo_Funcion = int (*)(const Peticion&, Informe_Lectura&);
+using Cuerpo_Funcion = int (*)(const Peticion_Funcion&, Informe_Lectura&);
 
 /// One function of the library.
 struct Funcion {

@@ -90,7 +90,7 @@ struct Entidad {
         const Grupo* const g = Buscar(codigo);
         return g ? Ansi::A_Texto(g->valor) : QString();
     }
-    Lugar En(int codigo) const
+    Lugar_Plano En(int codigo) const
     {
         return {Numero(codigo).value_or(0), Numero(codigo + 10).value_or(0)};
     }
@@ -171,7 +171,7 @@ private:
         leido.plano.textos.push_back(
             {texto, e.En(10), e.Numero(40).value_or(1), 0, capa, Color(e)});
     }
-    void Poner_Linea(std::vector<Lugar> vertices, const Entidad& e, int capa)
+    void Poner_Linea(std::vector<Lugar_Plano> vertices, const Entidad& e, int capa)
     {
         if (vertices.size() > 1)
             leido.plano.lineas.push_back({std::move(vertices), capa, Color(e)});
@@ -180,7 +180,7 @@ private:
     static bool Cerrada(const Entidad& e) { return int(e.Numero(70).value_or(0)) & 1; }
     void Ligera(const Entidad& e, int capa)
     {
-        std::vector<Lugar> vertices;
+        std::vector<Lugar_Plano> vertices;
         for (const Grupo& g : e.grupos) {
             if (g.codigo == 10) vertices.push_back({Entidad::Leer(g), 0});
             if (g.codigo == 20 && !vertices.empty()) vertices.back().y = Entidad::Leer(g);
@@ -204,11 +204,11 @@ private:
     void Arco(const Entidad& e, int capa)
     {
         constexpr int CUERDAS = 72;
-        const Lugar centro = e.En(10);
+        const Lugar_Plano centro = e.En(10);
         const double radio = e.Numero(40).value_or(0), desde = e.Numero(50).value_or(0);
         double hasta = e.Numero(51).value_or(360);
         if (e.clase == "CIRCLE" || hasta <= desde) hasta += e.clase == "CIRCLE" ? 0 : 360;
-        std::vector<Lugar> vertices;
+        std::vector<Lugar_Plano> vertices;
         for (int i = 0; i <= CUERDAS; ++i) {
             const double a = (desde + (hasta - desde) * i / CUERDAS) * GRADO;
             vertices.push_back({centro.x + radio * std::cos(a), centro.y + radio * std::sin(a)});
@@ -219,7 +219,7 @@ private:
     Grupos grupos;
     Grupo grupo;
     Entidad actual, polilinea;
-    std::vector<Lugar> vertices_abiertos;
+    std::vector<Lugar_Plano> vertices_abiertos;
     QString seccion;
     QHash<QString, int> colores;
     Dibujo_Leido leido;

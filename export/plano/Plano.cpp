@@ -17,7 +17,7 @@ double Mediana(std::vector<double> valores)
 
 class Suma_Caja {
 public:
-    void Poner(Lugar l)
+    void Poner(Lugar_Plano l)
     {
         if (!caja) caja = Caja_Plano{l.x, l.y, l.x, l.y};
         caja->x0 = std::min(caja->x0, l.x);
@@ -30,7 +30,7 @@ public:
 
 } // namespace
 
-double Distancia(Lugar a, Lugar b)
+double Distancia(Lugar_Plano a, Lugar_Plano b)
 {
     return std::hypot(a.x - b.x, a.y - b.y);
 }
@@ -43,7 +43,7 @@ int Plano::Capa(const QString& nombre)
     return int(capas.size()) - 1;
 }
 
-void Plano::Poner_Punto(const QString& nombre, Lugar lugar, std::optional<double> cota,
+void Plano::Poner_Punto(const QString& nombre, Lugar_Plano lugar, std::optional<double> cota,
                         const QString& codigo)
 {
     puntos.push_back({nombre, lugar, cota, Capa(QStringLiteral("PUNTOS")), 7});
@@ -60,13 +60,13 @@ void Plano::Marcar()
     if (puntos.empty()) return;
     QHash<QString, int> veces;
     std::vector<double> xs, ys, lejos;
-    for (const Punto_Plano& p : puntos) {
+    for (const Punto_De_Plano& p : puntos) {
         if (!p.nombre.isEmpty()) ++veces[p.nombre];
         xs.push_back(p.lugar.x);
         ys.push_back(p.lugar.y);
     }
-    const Lugar medio{Mediana(std::move(xs)), Mediana(std::move(ys))};
-    for (const Punto_Plano& p : puntos)
+    const Lugar_Plano medio{Mediana(std::move(xs)), Mediana(std::move(ys))};
+    for (const Punto_De_Plano& p : puntos)
         lejos.push_back(Distancia(p.lugar, medio));
     const double limite = VECES_LEJANO * Mediana(lejos);
     for (std::size_t i = 0; i < puntos.size(); ++i) {
@@ -78,24 +78,24 @@ void Plano::Marcar()
 std::optional<Caja_Plano> Plano::Caja() const
 {
     Suma_Caja cerca, todo;
-    for (const Punto_Plano& p : puntos) {
+    for (const Punto_De_Plano& p : puntos) {
         if (!Visible(p.capa)) continue;
         todo.Poner(p.lugar);
         if (!p.lejano) cerca.Poner(p.lugar);
     }
     for (const Linea_Plano& l : lineas)
         if (Visible(l.capa))
-            for (const Lugar v : l.vertices)
+            for (const Lugar_Plano v : l.vertices)
                 cerca.Poner(v);
     for (const Texto_Plano& t : textos)
         if (Visible(t.capa) && t.altura > 0) cerca.Poner(t.lugar);
     return cerca.caja ? cerca.caja : todo.caja;
 }
 
-const Punto_Plano* Plano::Cercano(Lugar lugar, double radio) const
+const Punto_De_Plano* Plano::Cercano(Lugar_Plano lugar, double radio) const
 {
-    const Punto_Plano* mejor = nullptr;
-    for (const Punto_Plano& p : puntos) {
+    const Punto_De_Plano* mejor = nullptr;
+    for (const Punto_De_Plano& p : puntos) {
         if (!Visible(p.capa)) continue;
         const double d = Distancia(p.lugar, lugar);
         if (d > radio) continue;
@@ -105,14 +105,14 @@ const Punto_Plano* Plano::Cercano(Lugar lugar, double radio) const
     return mejor;
 }
 
-std::optional<Lugar> Plano::Buscar(const QString& nombre) const
+std::optional<Lugar_Plano> Plano::Buscar(const QString& nombre) const
 {
     const QString buscado = nombre.trimmed();
     if (buscado.isEmpty()) return std::nullopt;
     const auto es = [&](const QString& texto) {
         return texto.trimmed().compare(buscado, Qt::CaseInsensitive) == 0;
     };
-    for (const Punto_Plano& p : puntos)
+    for (const Punto_De_Plano& p : puntos)
         if (es(p.nombre)) return p.lugar;
     for (const Texto_Plano& t : textos)
         if (es(t.texto)) return t.lugar;

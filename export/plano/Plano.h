@@ -9,9 +9,9 @@
 /// What a plan shows: points, texts and lines on layers, in metres of the ground, X to the east and
 /// Y to the north.
 
-struct Lugar {
+struct Lugar_Plano {
     double x = 0, y = 0;
-    bool operator==(const Lugar&) const = default;
+    bool operator==(const Lugar_Plano&) const = default;
 };
 
 struct Capa_Plano {
@@ -19,9 +19,9 @@ struct Capa_Plano {
     bool visible = true;
 };
 
-struct Punto_Plano {
+struct Punto_De_Plano {
     QString nombre;
-    Lugar lugar;
+    Lugar_Plano lugar;
     std::optional<double> cota;
     int capa = 0, color = 7; ///< index of its layer; colour number as in drawings
     bool repetido = false;   ///< another point has its name
@@ -30,14 +30,14 @@ struct Punto_Plano {
 
 struct Texto_Plano {
     QString texto;
-    Lugar lugar;       ///< of its left end
+    Lugar_Plano lugar; ///< of its left end
     double altura = 0; ///< metres; 0: a label of one size whatever the scale
     int renglon = 0;   ///< of a label: so many lines above its place, or below it
     int capa = 0, color = 7;
 };
 
 struct Linea_Plano {
-    std::vector<Lugar> vertices;
+    std::vector<Lugar_Plano> vertices;
     int capa = 0, color = 7;
 };
 
@@ -51,7 +51,7 @@ struct Caja_Plano {
 class Plano {
 public:
     QList<Capa_Plano> capas;
-    std::vector<Punto_Plano> puntos;
+    std::vector<Punto_De_Plano> puntos;
     std::vector<Texto_Plano> textos;
     std::vector<Linea_Plano> lineas;
 
@@ -61,7 +61,7 @@ public:
     bool Vacio() const { return puntos.empty() && textos.empty() && lineas.empty(); }
 
     /// A point with its labels, each on the layer that drawings give it.
-    void Poner_Punto(const QString& nombre, Lugar lugar, std::optional<double> cota,
+    void Poner_Punto(const QString& nombre, Lugar_Plano lugar, std::optional<double> cota,
                      const QString& codigo);
     /// Finds the repeated and the far-off points, once all are there. Far off is what lies more than
     /// thirty times as far from the middle of the points as half of them do.
@@ -70,10 +70,10 @@ public:
     /// What the visible layers take; far-off points don't count unless there is nothing else.
     std::optional<Caja_Plano> Caja() const;
     /// The visible point nearest to a place, at most `radio` metres away.
-    const Punto_Plano* Cercano(Lugar lugar, double radio) const;
+    const Punto_De_Plano* Cercano(Lugar_Plano lugar, double radio) const;
     /// The place of a point by its name, without case; without such a point, that of a text.
-    std::optional<Lugar> Buscar(const QString& nombre) const;
+    std::optional<Lugar_Plano> Buscar(const QString& nombre) const;
 };
 
 /// Length between two places, metres.
-double Distancia(Lugar a, Lugar b);
+double Distancia(Lugar_Plano a, Lugar_Plano b);

@@ -74,10 +74,10 @@ public:
     {
         return Basico::Numero_O_Nada(datos.filas[campo].Celda(fila));
     }
-    std::optional<Lugar> Sitio(Campo x, Campo y) const
+    std::optional<Lugar_Plano> Sitio(Campo x, Campo y) const
     {
         const auto a = Numero(x), b = Numero(y);
-        return a && b ? std::optional(Lugar{*a, *b}) : std::nullopt;
+        return a && b ? std::optional(Lugar_Plano{*a, *b}) : std::nullopt;
     }
     std::optional<double> Orientacion() const
     {
@@ -127,7 +127,7 @@ void Poner_Estacion(Plano& plano, const Fila& f, QSet<QString>& puestas)
 
 } // namespace
 
-Lugar Radiar(Lugar estacion, double orientacion, const Visual& v)
+Lugar_Plano Radiar(Lugar_Plano estacion, double orientacion, const Visual& v)
 {
     const double reducida = v.distancia * std::sin(v.vertical * GON);
     const double acimut = (orientacion + v.horizontal) * GON;

@@ -33,4 +33,4 @@ struct Visual {
     double distancia = 0;                ///< along the slope, metres
 };
 /// Place of a sighted point. @param orientacion  what the circle's zero looks at, gon
-Lugar Radiar(Lugar estacion, double orientacion, const Visual& visual);
+Lugar_Plano Radiar(Lugar_Plano estacion, double orientacion, const Visual& visual);

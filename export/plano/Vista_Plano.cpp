@@ -33,9 +33,9 @@ void Vista_Plano::Encajar(const Caja_Plano& caja, double a, double b)
 
 void Vista_Plano::Acercar(double veces, double x, double y)
 {
-    const Lugar quieto = A_Terreno(x, y);
+    const Lugar_Plano quieto = A_Terreno(x, y);
     Poner_Escala(escala * veces);
-    const Lugar movido = A_Terreno(x, y);
+    const Lugar_Plano movido = A_Terreno(x, y);
     centro.x += quieto.x - movido.x;
     centro.y += quieto.y - movido.y;
 }
@@ -46,20 +46,20 @@ void Vista_Plano::Arrastrar(double dx, double dy)
     centro.y += dy / escala;
 }
 
-Lugar Vista_Plano::A_Pantalla(Lugar terreno) const
+Lugar_Plano Vista_Plano::A_Pantalla(Lugar_Plano terreno) const
 {
     return {ancho / 2 + (terreno.x - centro.x) * escala,
             alto / 2 - (terreno.y - centro.y) * escala};
 }
 
-Lugar Vista_Plano::A_Terreno(double x, double y) const
+Lugar_Plano Vista_Plano::A_Terreno(double x, double y) const
 {
     return {centro.x + (x - ancho / 2) / escala, centro.y - (y - alto / 2) / escala};
 }
 
 Caja_Plano Vista_Plano::En_Vista() const
 {
-    const Lugar a = A_Terreno(0, alto), b = A_Terreno(ancho, 0);
+    const Lugar_Plano a = A_Terreno(0, alto), b = A_Terreno(ancho, 0);
     return {a.x, a.y, b.x, b.y};
 }
 

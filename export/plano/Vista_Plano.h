@@ -9,7 +9,7 @@ public:
     /// Shows all of a rectangle with a margin around.
     void Encajar(const Caja_Plano& caja, double ancho, double alto);
     /// Puts a place of the ground in the middle.
-    void Centrar(Lugar lugar) { centro = lugar; }
+    void Centrar(Lugar_Plano lugar) { centro = lugar; }
     void Tamano(double ancho_, double alto_);
     /// Units a metre.
     double Escala() const { return escala; }
@@ -19,13 +19,13 @@ public:
     /// Drags the ground by so many units.
     void Arrastrar(double dx, double dy);
 
-    Lugar A_Pantalla(Lugar terreno) const;
-    Lugar A_Terreno(double x, double y) const;
+    Lugar_Plano A_Pantalla(Lugar_Plano terreno) const;
+    Lugar_Plano A_Terreno(double x, double y) const;
     /// The ground in sight.
     Caja_Plano En_Vista() const;
 
 private:
-    Lugar centro;
+    Lugar_Plano centro;
     double escala = 1;
     double ancho = 1, alto = 1;
 };

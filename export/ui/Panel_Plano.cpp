@@ -97,8 +97,8 @@ void Panel_Plano::Poner(const Plano_Hecho& hecho, const QString& de)
     const auto contar = [&](const QString& que, qint64 cuantos) {
         if (cuantos > 0) avisos += QStringLiteral("   %1: %2").arg(que).arg(cuantos);
     };
-    contar("repetidos", std::ranges::count_if(puntos, &Punto_Plano::repetido));
-    contar("muy alejados", std::ranges::count_if(puntos, &Punto_Plano::lejano));
+    contar("repetidos", std::ranges::count_if(puntos, &Punto_De_Plano::repetido));
+    contar("muy alejados", std::ranges::count_if(puntos, &Punto_De_Plano::lejano));
     contar("sin dibujar", hecho.omitidos + hecho.lineas_cortas.size());
     LblAvisos->setText(avisos);
     visor->setFocus();

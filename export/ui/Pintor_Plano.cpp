@@ -59,7 +59,7 @@ public:
         for (const Linea_Plano& linea : plano.lineas) {
             if (!plano.Visible(linea.capa)) continue;
             QPolygonF poligono;
-            for (const Lugar vertice : linea.vertices)
+            for (const Lugar_Plano vertice : linea.vertices)
                 poligono << En(vertice);
             if (!poligono.boundingRect().adjusted(-1, -1, 1, 1).intersects(hueco)) continue;
             Pluma(linea.color);
@@ -69,7 +69,7 @@ public:
 
     void Puntos()
     {
-        for (const Punto_Plano& punto : plano.puntos) {
+        for (const Punto_De_Plano& punto : plano.puntos) {
             if (!plano.Visible(punto.capa)) continue;
             const QPointF p = En(punto.lugar);
             if (!hueco.contains(p)) continue;
@@ -110,9 +110,9 @@ public:
     }
 
 private:
-    QPointF En(Lugar lugar) const
+    QPointF En(Lugar_Plano lugar) const
     {
-        const Lugar p = vista.A_Pantalla(lugar);
+        const Lugar_Plano p = vista.A_Pantalla(lugar);
         return {p.x, p.y};
     }
     void Pluma(int color)

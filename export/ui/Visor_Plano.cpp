@@ -74,8 +74,8 @@ void Visor_Plano::paintEvent(QPaintEvent*)
     const Aspecto_Plano aspecto = Aspecto_Pantalla();
     pintor.fillRect(rect(), aspecto.fondo);
     Pintar_Plano(pintor, plano, vista, aspecto, width(), height());
-    const auto en = [&](Lugar l) {
-        const Lugar p = vista.A_Pantalla(l);
+    const auto en = [&](Lugar_Plano l) {
+        const Lugar_Plano p = vista.A_Pantalla(l);
         return QPointF(p.x, p.y);
     };
     pintor.setPen(QPen(QColor(255, 220, 80), 2));
@@ -101,10 +101,10 @@ void Visor_Plano::wheelEvent(QWheelEvent* evento)
     evento->accept();
 }
 
-Lugar Visor_Plano::Enganchar(QPointF raton) const
+Lugar_Plano Visor_Plano::Enganchar(QPointF raton) const
 {
-    const Lugar lugar = vista.A_Terreno(raton.x(), raton.y());
-    const Punto_Plano* const cerca = plano.Cercano(lugar, CERCA / vista.Escala());
+    const Lugar_Plano lugar = vista.A_Terreno(raton.x(), raton.y());
+    const Punto_De_Plano* const cerca = plano.Cercano(lugar, CERCA / vista.Escala());
     return cerca ? cerca->lugar : lugar;
 }
 
@@ -177,7 +177,7 @@ void Visor_Plano::keyPressEvent(QKeyEvent* evento)
     update();
 }
 
-void Visor_Plano::Medir(Lugar lugar)
+void Visor_Plano::Medir(Lugar_Plano lugar)
 {
     if (!desde || hasta) {
         desde = lugar;
@@ -192,11 +192,11 @@ void Visor_Plano::Medir(Lugar lugar)
     update();
 }
 
-void Visor_Plano::Decir(Lugar lugar)
+void Visor_Plano::Decir(Lugar_Plano lugar)
 {
     if (midiendo && desde) return;
     QString texto = QStringLiteral("X %1   Y %2").arg(Metros(lugar.x), Metros(lugar.y));
-    if (const Punto_Plano* const p = plano.Cercano(lugar, CERCA / vista.Escala())) {
+    if (const Punto_De_Plano* const p = plano.Cercano(lugar, CERCA / vista.Escala())) {
         if (!p->nombre.isEmpty()) texto += QStringLiteral("   Punto ") + p->nombre;
         if (p->cota) texto += QStringLiteral("   Z ") + Metros(*p->cota);
         if (p->repetido) texto += QStringLiteral("   (repetido)");

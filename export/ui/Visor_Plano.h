@@ -38,14 +38,14 @@ protected:
     void keyPressEvent(QKeyEvent* evento) override;
 
 private:
-    void Decir(Lugar lugar);
-    void Medir(Lugar lugar);
-    Lugar Enganchar(QPointF raton) const;
+    void Decir(Lugar_Plano lugar);
+    void Medir(Lugar_Plano lugar);
+    Lugar_Plano Enganchar(QPointF raton) const;
 
     Plano plano;
     Vista_Plano vista;
     bool encajado = true; // the window has to show all again when its size changes
     QPointF agarre;
     bool arrastrando = false, midiendo = false;
-    std::optional<Lugar> desde, hasta, marcado;
+    std::optional<Lugar_Plano> desde, hasta, marcado;
 };

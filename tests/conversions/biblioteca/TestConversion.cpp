@@ -30,7 +30,7 @@ private Q_SLOTS:
 void TestConversion::con_cero_no_queda_destino()
 {
     QTemporaryDir d;
-    const Peticion p{d.filePath("a.txt"), d.filePath("a.ssh"), {}};
+    const Peticion_Funcion p{d.filePath("a.txt"), d.filePath("a.ssh"), {}};
     Poner(p.entrada, "x");
     const auto bien = [] { return QByteArray("nuevo"); };
     const auto mal = []() -> QByteArray { throw Fallo_Conversion{"roto", 7, "x"}; };
@@ -55,7 +55,7 @@ void TestConversion::el_destino_no_puede_ser_el_origen()
     QVERIFY(QFile::link(ruta, d.filePath("b.plt")));
     for (const char* otro : {"a.plt", "./a.plt", "b.plt"}) {
         Informe_Lectura informe;
-        const Peticion p{ruta, d.path() + u'/' + QLatin1String(otro), {}};
+        const Peticion_Funcion p{ruta, d.path() + u'/' + QLatin1String(otro), {}};
         QCOMPARE(Conversion::Convertir(p, informe, Conversion::Omisiones::No_Cuentan,
                                        [] { return QByteArray("x"); }),
                  0);
@@ -85,7 +85,7 @@ void TestConversion::una_carpeta_no_es_origen_ni_destino()
 void TestConversion::la_tabla_sabe_sus_argumentos()
 {
     const Funcion f{"prueba", "INDICE ENTRADA SALIDA [APLICACION]",
-                    [](const Peticion& p, Informe_Lectura&) {
+                    [](const Peticion_Funcion& p, Informe_Lectura&) {
                         return p.entrada == u"e" && p.salida == u"s" ? int(p.datos.size()) : -9;
                     }};
     QCOMPARE(Argumentos_De(f).minimo, 3);

@@ -43,7 +43,7 @@ void TestLector_DXF::el_dibujo_del_programa_vuelve()
         capas << capa.nombre;
     QCOMPARE(capas, (QStringList{"PUNTOS_2D", "PUNTOS_3D", "NUMEROS", "COTAS", "CODIGOS"}));
     QCOMPARE(plano.puntos.size(), std::size_t(4));
-    QCOMPARE(plano.puntos[0].lugar, (Lugar{1.5, 3}));
+    QCOMPARE(plano.puntos[0].lugar, (Lugar_Plano{1.5, 3}));
     QVERIFY(!plano.puntos[0].cota);
     QCOMPARE(plano.puntos[3].cota, 6.25);
     QCOMPARE(plano.puntos[1].color, 3);
@@ -51,8 +51,8 @@ void TestLector_DXF::el_dibujo_del_programa_vuelve()
         textos << t.texto;
     QCOMPARE(textos, (QStringList{"P1", "5.000", "Á", "P2", "6.250"}));
     QCOMPARE(plano.textos[0].altura, 2.0);
-    QCOMPARE(plano.textos[0].lugar, (Lugar{2.5, 3}));
-    QCOMPARE(*plano.Buscar("p2"), (Lugar{3, 4}));
+    QCOMPARE(plano.textos[0].lugar, (Lugar_Plano{2.5, 3}));
+    QCOMPARE(*plano.Buscar("p2"), (Lugar_Plano{3, 4}));
 }
 
 void TestLector_DXF::las_capas_dan_su_color()
@@ -80,9 +80,9 @@ void TestLector_DXF::lineas_y_curvas()
     QCOMPARE(plano.lineas.size(), std::size_t(5));
     QCOMPARE(Distancia(plano.lineas[0].vertices[0], plano.lineas[0].vertices[1]), 5.0);
     QCOMPARE(plano.lineas[1].vertices.size(), std::size_t(4));
-    QCOMPARE(plano.lineas[1].vertices.back(), (Lugar{0, 0}));
+    QCOMPARE(plano.lineas[1].vertices.back(), (Lugar_Plano{0, 0}));
     QCOMPARE(plano.lineas[2].vertices.size(), std::size_t(2));
-    for (const Lugar v : plano.lineas[3].vertices)
+    for (const Lugar_Plano v : plano.lineas[3].vertices)
         QVERIFY(std::abs(Distancia(v, {10, 10}) - 2) < 1e-9);
     QVERIFY(Distancia(plano.lineas[3].vertices.front(), plano.lineas[3].vertices.back()) < 1e-9);
     QVERIFY(Distancia(plano.lineas[4].vertices.back(), {0, 1}) < 1e-9);

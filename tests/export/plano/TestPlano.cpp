@@ -51,7 +51,7 @@ void TestPlano::un_punto_lleva_sus_rotulos()
 void TestPlano::lo_repetido_y_lo_lejano_se_marcan()
 {
     Plano plano = Cuadrado();
-    for (const Punto_Plano& p : plano.puntos)
+    for (const Punto_De_Plano& p : plano.puntos)
         QVERIFY(!p.repetido && !p.lejano);
     plano.Poner_Punto("5-5", {51, 50}, {}, "");
     plano.Poner_Punto("LEJOS", {1e6, 1e6}, {}, "");
@@ -59,7 +59,7 @@ void TestPlano::lo_repetido_y_lo_lejano_se_marcan()
     plano.Poner_Punto("", {50, 52}, {}, "");
     plano.Marcar();
     int repetidos = 0, lejanos = 0;
-    for (const Punto_Plano& p : plano.puntos) {
+    for (const Punto_De_Plano& p : plano.puntos) {
         repetidos += p.repetido;
         lejanos += p.lejano;
         QCOMPARE(p.repetido, p.nombre == "5-5");
@@ -72,7 +72,7 @@ void TestPlano::lo_repetido_y_lo_lejano_se_marcan()
         montones.Poner_Punto(QString::number(i), {7, 7}, {}, "");
     montones.Poner_Punto("otro", {9, 9}, {}, "");
     montones.Marcar();
-    for (const Punto_Plano& p : montones.puntos)
+    for (const Punto_De_Plano& p : montones.puntos)
         QVERIFY(!p.lejano);
     Plano().Marcar();
 }
@@ -104,8 +104,8 @@ void TestPlano::se_busca_por_el_nombre()
 {
     Plano plano = Cuadrado();
     plano.textos.push_back({"Fuente", {3, 4}, 1, 0, 0, 7});
-    QCOMPARE(*plano.Buscar(" 10-3 "), (Lugar{100, 30}));
-    QCOMPARE(*plano.Buscar("FUENTE"), (Lugar{3, 4}));
+    QCOMPARE(*plano.Buscar(" 10-3 "), (Lugar_Plano{100, 30}));
+    QCOMPARE(*plano.Buscar("FUENTE"), (Lugar_Plano{3, 4}));
     QVERIFY(!plano.Buscar("11-11") && !plano.Buscar("  "));
 }
 
@@ -113,14 +113,14 @@ void TestPlano::la_vista_va_y_vuelve()
 {
     Vista_Plano vista;
     vista.Encajar({456000, 4478000, 457000, 4478500}, 800, 600);
-    const Lugar p = vista.A_Pantalla({456123.25, 4478321.5});
-    const Lugar vuelta = vista.A_Terreno(p.x, p.y);
+    const Lugar_Plano p = vista.A_Pantalla({456123.25, 4478321.5});
+    const Lugar_Plano vuelta = vista.A_Terreno(p.x, p.y);
     QVERIFY(std::abs(vuelta.x - 456123.25) < 1e-6 && std::abs(vuelta.y - 4478321.5) < 1e-6);
     // North is up, east to the right.
     QVERIFY(vista.A_Pantalla({456123, 4478400}).y < p.y);
     QVERIFY(vista.A_Pantalla({456200, 4478321}).x > p.x);
     vista.Arrastrar(10, -20);
-    const Lugar movido = vista.A_Pantalla({456123.25, 4478321.5});
+    const Lugar_Plano movido = vista.A_Pantalla({456123.25, 4478321.5});
     QVERIFY(std::abs(movido.x - p.x - 10) < 1e-6 && std::abs(movido.y - p.y + 20) < 1e-6);
 }
 
@@ -128,12 +128,12 @@ void TestPlano::el_zoom_deja_quieto_lo_de_debajo()
 {
     Vista_Plano vista;
     vista.Encajar({0, 0, 100, 100}, 800, 600);
-    const Lugar antes = vista.A_Terreno(123, 456);
+    const Lugar_Plano antes = vista.A_Terreno(123, 456);
     for (const double veces : {1.25, 4.0, 0.1, 3.0}) {
         const double escala = vista.Escala();
         vista.Acercar(veces, 123, 456);
         QCOMPARE(vista.Escala(), escala * veces);
-        const Lugar ahora = vista.A_Terreno(123, 456);
+        const Lugar_Plano ahora = vista.A_Terreno(123, 456);
         QVERIFY(Distancia(antes, ahora) < 1e-9);
     }
     for (int i = 0; i < 500; ++i)
@@ -154,8 +154,9 @@ void TestPlano::encajar_lo_muestra_todo()
     QFETCH(QList<double>, caja);
     Vista_Plano vista;
     vista.Encajar({caja[0], caja[1], caja[2], caja[3]}, 640, 400);
-    for (const Lugar esquina : {Lugar{caja[0], caja[1]}, Lugar{caja[2], caja[3]}}) {
-        const Lugar p = vista.A_Pantalla(esquina);
+    for (const Lugar_Plano esquina :
+         {Lugar_Plano{caja[0], caja[1]}, Lugar_Plano{caja[2], caja[3]}}) {
+        const Lugar_Plano p = vista.A_Pantalla(esquina);
         QVERIFY(p.x >= 0 && p.x <= 640 && p.y >= 0 && p.y <= 400);
     }
     const Caja_Plano vista_caja = vista.En_Vista();

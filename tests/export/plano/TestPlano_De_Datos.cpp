@@ -50,7 +50,7 @@ void TestPlano_De_Datos::por_sus_coordenadas()
     const Plano_Hecho hecho = Plano_De_Sesion(*Base_Datos, {1, "KRT300", 1, {}});
     QCOMPARE(Desp_X, QString("0"));
     QCOMPARE(hecho.plano.puntos.size(), std::size_t(2));
-    QCOMPARE(hecho.plano.puntos[1].lugar, (Lugar{2, 1}));
+    QCOMPARE(hecho.plano.puntos[1].lugar, (Lugar_Plano{2, 1}));
     QVERIFY(!hecho.plano.puntos[1].cota);
     QVERIFY(hecho.plano.puntos[0].cota.has_value());
     QCOMPARE(hecho.omitidos, 1);
@@ -59,8 +59,8 @@ void TestPlano_De_Datos::por_sus_coordenadas()
 // The field book's first point, whose coordinates were computed by who made the book.
 void TestPlano_De_Datos::las_medidas_se_reducen()
 {
-    const Lugar estacion{456191.339, 4478320.433};
-    const Lugar punto = Radiar(estacion, 309.6186, {329.4595, 101.9210, 29.798});
+    const Lugar_Plano estacion{456191.339, 4478320.433};
+    const Lugar_Plano punto = Radiar(estacion, 309.6186, {329.4595, 101.9210, 29.798});
     QVERIFY2(Distancia(punto, {456174.183, 4478296.086}) < 0.002,
              qPrintable(QString("%1 %2").arg(punto.x, 0, 'f', 4).arg(punto.y, 0, 'f', 4)));
 }
@@ -83,14 +83,14 @@ void TestPlano_De_Datos::sin_orientacion_no_hay_plano()
     const Plano_Hecho sin = Plano_De_Sesion(*Base_Datos, {1, "KRT300", 0, {}});
     QCOMPARE(sin.omitidos, 1);
     QVERIFY(std::ranges::none_of(sin.plano.puntos,
-                                 [](const Punto_Plano& p) { return p.nombre == "P1"; }));
+                                 [](const Punto_De_Plano& p) { return p.nombre == "P1"; }));
     Poner_Registro(*base, "KRT300", {0}, "o", "Orientación", "P",
                    {{"Orientación", 8, "5,3", ".", "0.000"}});
     Poner_Sesion(*base, 2, "KRT300", 0, lineas + QList<Linea_De_Prueba>{{"P1", "o+0001000"}});
     const Plano_Hecho con = Plano_De_Sesion(*Base_Datos, {2, "KRT300", 0, {}});
     QCOMPARE(con.omitidos, 0);
     QVERIFY(std::ranges::any_of(con.plano.puntos,
-                                [](const Punto_Plano& p) { return p.nombre == "P1"; }));
+                                [](const Punto_De_Plano& p) { return p.nombre == "P1"; }));
 }
 
 void TestPlano_De_Datos::radiar_a_los_cuatro_vientos_data()

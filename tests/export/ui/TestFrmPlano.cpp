@@ -80,7 +80,7 @@ void TestFrmPlano::una_sesion_se_ve_en_su_plano()
             QCOMPARE(w.windowTitle(), QString("Plano de la sesión 1"));
             const Plano& plano = Hijo<Visor_Plano>(w, "Visor").Mostrado();
             QCOMPARE(plano.puntos.size(), std::size_t(2));
-            QCOMPARE(plano.puntos[0].lugar, (Lugar{1, 2}));
+            QCOMPARE(plano.puntos[0].lugar, (Lugar_Plano{1, 2}));
             QCOMPARE(Hijo<QLabel>(w, "LblAvisos").text(), QString("2 puntos   sin dibujar: 1"));
             Hijo<QPushButton>(w, "BtnCan").click();
         },
@@ -119,7 +119,7 @@ void TestFrmPlano::un_punto_se_busca()
     Hijo<QLineEdit>(panel, "TxBuscar").setText("17");
     Hijo<QPushButton>(panel, "BtnBuscar").click();
     const Visor_Plano& visor = panel.Visor();
-    const Lugar p = visor.Vista().A_Pantalla(visor.Mostrado().puntos[17].lugar);
+    const Lugar_Plano p = visor.Vista().A_Pantalla(visor.Mostrado().puntos[17].lugar);
     QVERIFY(std::abs(p.x - visor.width() / 2.0) < 1 && std::abs(p.y - visor.height() / 2.0) < 1);
     QVERIFY(Hijo<QLabel>(panel, "LblDicho").text().contains("Punto 17"));
     Hijo<QLineEdit>(panel, "TxBuscar").setText("no");
@@ -135,7 +135,7 @@ void TestFrmPlano::la_rueda_y_el_teclado_acercan()
     visor.show();
     visor.Poner(Nube(50));
     const double antes = visor.Vista().Escala();
-    const Lugar debajo = visor.Vista().A_Terreno(100, 100);
+    const Lugar_Plano debajo = visor.Vista().A_Terreno(100, 100);
     QWheelEvent rueda({100, 100}, visor.mapToGlobal(QPointF(100, 100)), {}, {0, 120}, {}, {},
                       Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&visor, &rueda);
@@ -146,13 +146,13 @@ void TestFrmPlano::la_rueda_y_el_teclado_acercan()
     QTest::keyClick(&visor, Qt::Key_Plus);
     QVERIFY(visor.Vista().Escala() > antes);
     QTest::keyClick(&visor, Qt::Key_Minus);
-    const Lugar medio = visor.Vista().A_Terreno(300, 200);
+    const Lugar_Plano medio = visor.Vista().A_Terreno(300, 200);
     QTest::keyClick(&visor, Qt::Key_Right);
     QVERIFY(visor.Vista().A_Terreno(300, 200).x > medio.x);
     QTest::keyClick(&visor, Qt::Key_Up);
     QVERIFY(visor.Vista().A_Terreno(300, 200).y > medio.y);
     // Dragging takes the ground along.
-    const Lugar agarrado = visor.Vista().A_Terreno(200, 200);
+    const Lugar_Plano agarrado = visor.Vista().A_Terreno(200, 200);
     QTest::mousePress(&visor, Qt::LeftButton, {}, QPoint(200, 200));
     QTest::mouseMove(&visor, QPoint(250, 230));
     QTest::mouseRelease(&visor, Qt::LeftButton, {}, QPoint(250, 230));
@@ -171,8 +171,8 @@ void TestFrmPlano::se_mide_entre_dos_puntos()
     QStringList dichos;
     connect(&visor, &Visor_Plano::dicho, this, [&](const QString& texto) { dichos << texto; });
     visor.Poner_Medida(true);
-    for (const Lugar l : {Lugar{0, 0}, Lugar{30, 40}}) {
-        const Lugar p = visor.Vista().A_Pantalla(l);
+    for (const Lugar_Plano l : {Lugar_Plano{0, 0}, Lugar_Plano{30, 40}}) {
+        const Lugar_Plano p = visor.Vista().A_Pantalla(l);
         // Near enough: the pointer takes the point itself.
         QTest::mouseClick(&visor, Qt::LeftButton, {}, QPoint(int(p.x) + 3, int(p.y) - 2));
     }
