@@ -369,7 +369,7 @@ void TestCopias::sesenta_y_cuatro_danos_al_azar()
         }
         Base_Datos.reset();
     }
-    QVERIFY(dichos > 20);
+    QVERIFY2(dichos > 20, qPrintable(QString::number(dichos)));
 }
 
 void TestCopias::donde_esta_la_base()

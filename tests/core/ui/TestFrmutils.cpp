@@ -297,6 +297,7 @@ void TestFrmutils::dice_donde_esta_la_base_y_vuelve_a_una_copia()
     QCOMPARE(abierta.veces, 1);
     QCOMPARE(Ultima_Sesion(), QStringLiteral("1"));
     QCOMPARE(interfaz->avisos.size(), 3);
+    interfaz->avisos.clear();
     QVERIFY(!Dialogos::Cargado<FrmCopias>());
 }
 

@@ -164,6 +164,7 @@ void TestFrmExportar::solo_cuatro_formatos_van_al_dibujo()
     QFETCH(QString, formato);
     QFETCH(bool, dibujo);
     // Without a drawing dialog nothing goes there.
+    Peticiones_De_Exportar().Abrir_DXF = nullptr;
     Con_Dialogo(
         [](FrmExportar& frm) { QVERIFY(!Hijo<QRadioButton>(frm, "OptFor", 3).isEnabled()); },
         formato);
