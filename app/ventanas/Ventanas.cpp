@@ -29,11 +29,6 @@
 
 namespace {
 
-void No_Disponible(const QString& que)
-{
-    Interfaz_Actual().Mensaje(Piezas::Texto_No_Disponible(que), Icono::Informacion);
-}
-
 template <typename Dialogo> auto Mostrar(const QString& titulo = {})
 {
     return [titulo] {

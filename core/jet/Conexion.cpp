@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
+#include <QThread>
 #include <sqlite3.h>
 
 namespace {
@@ -19,6 +20,8 @@ namespace {
 constexpr std::size_t SENTENCIAS_GUARDADAS = 64;
 // Another program may be storing a long session; longer than this it is taken to hold the file.
 constexpr int ESPERA_BLOQUEO_MS = 10000;
+constexpr int ESPERA_CAMBIO_MS = 300, PAUSA_CAMBIO_MS = 20;
+constexpr int NO_ES_BASE = 3343;
 
 QHash<QString, std::weak_ptr<Conexion>>& Abiertas()
 {
@@ -124,18 +127,33 @@ Conexion::~Conexion()
         Abiertas().erase(it);
 }
 
+bool Conexion::Movido() const
+{
+    int movido = 0;
+    if (base) sqlite3_file_control(base, "main", SQLITE_FCNTL_HAS_MOVED, &movido);
+    return movido != 0;
+}
+
 void Conexion::Abrir(bool crear)
 {
-    // A program that compacts may put another file in this one's place while it is being opened.
-    const QDeadlineTimer plazo(ESPERA_BLOQUEO_MS);
-    do {
-        Abrir_Fichero(crear);
-        int movido = 0;
-        sqlite3_file_control(base, "main", SQLITE_FCNTL_HAS_MOVED, &movido);
-        if (!movido) return Configurar();
+    // A program that compacts may put another file in this one's place while it is being opened:
+    // what is read then belongs to two files and looks damaged. What still does a moment later is.
+    const QDeadlineTimer plazo(ESPERA_BLOQUEO_MS), cambio(ESPERA_CAMBIO_MS);
+    while (true) {
+        try {
+            Abrir_Fichero(crear);
+        } catch (const Error_Ejecucion& e) {
+            const bool otra_vez =
+                !crear && e.numero == NO_ES_BASE && !(Movido() ? plazo : cambio).hasExpired();
+            if (!otra_vez) throw;
+            Soltar();
+            QThread::msleep(PAUSA_CAMBIO_MS);
+            continue;
+        }
+        if (!Movido()) return Configurar();
         Soltar();
-    } while (!plazo.hasExpired());
-    throw Con_Detalle(3045, fichero);
+        if (plazo.hasExpired()) throw Con_Detalle(3045, fichero);
+    }
 }
 
 void Conexion::Abrir_Manejador(int modo)

@@ -72,6 +72,7 @@ private:
     friend class Sentencia;
     explicit Conexion(const QString& fichero);
     void Abrir(bool crear);
+    bool Movido() const;
     void Abrir_Fichero(bool crear);
     void Abrir_Manejador(int modo);
     void Configurar();

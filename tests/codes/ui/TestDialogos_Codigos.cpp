@@ -84,6 +84,9 @@ void TestDialogos_Codigos::init()
     Ventana::Poner_Area(area.get());
     Conectar_Dialogos_Codigos();
     Peticiones_De_Codigos().Enviar = [this](const QString& t) { sala->enviados << t; };
+    Peticiones_De_Codigos().Recibir_En_FrmSplash2 = [this](const Destino_Libreria& d) {
+        sala->en_splash2 << d;
+    };
 }
 
 void TestDialogos_Codigos::cleanup()
