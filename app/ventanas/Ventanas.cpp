@@ -59,7 +59,7 @@ void Conectar_Descargas()
 void Formatos_De_Toolbar()
 {
     if (Familia_Actual().serie == Serie::Nivel)
-        Mostrar<FrmFormatosNV400>()();
+        Mostrar<FrmFormatosNV400>("Mantenimiento de Formatos")();
     else
         Mostrar<Frmformatos>("Mantenimiento de Formatos")();
 }
