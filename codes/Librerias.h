@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/librerias.md
+
 #include "core/Familia.h"
 #include "core/jet/Base.h"
 

@@ -14,9 +14,9 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <poll.h>
+#include <QSocketNotifier>
 #include <sys/file.h>
 #include <sys/ioctl.h>
-#include <QSocketNotifier>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif

@@ -15,16 +15,16 @@ using Abrir_Salida = std::function<void(const Trabajo_Exportar&)>;
 /// One way out. What can't be done yet has null in place of its writer or an empty dialog, and is
 /// barred everywhere.
 struct Salida_Exportar {
-    QString tipo;                     ///< its kind for the engine, compared without case
-    QString palabra;                  ///< its word on the command line; empty: not offered there
-    int opcion = -1;                  ///< index of its `OptFor`; -1: none
-    QString rotulo;                   ///< text of its `OptFor`
+    QString tipo;    ///< its kind for the engine, compared without case
+    QString palabra; ///< its word on the command line; empty: not offered there
+    int opcion = -1; ///< index of its `OptFor`; -1: none
+    QString rotulo;  ///< text of its `OptFor`
     QString etiqueta = {}, extension = {}; ///< of its files, in the file dialog
     QStringList formatos = {};             ///< names of the only formats it takes; empty: any
     bool pide_separador = false; ///< shows `Caracter`; options of the form `Opciones_Texto`
     /// Shows `VersionExcel` and `ChkNumeros`; options of the form `Opciones_Libro`.
     bool pide_version = false;
-    bool se_muestra = false;     ///< the viewer opens on the file, however it ended
+    bool se_muestra = false; ///< the viewer opens on the file, however it ended
     Escritor escribir = nullptr;
     Escritor escribir_nivel = nullptr;          ///< the same with the level in force
     const Abrir_Salida& (*dialogo)() = nullptr; ///< in place of the two writers

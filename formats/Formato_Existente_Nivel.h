@@ -10,8 +10,8 @@ class Formato_Existente_Nivel : public Formato_Existente {
 public:
     Formato_Existente_Nivel(const Sesion_Elegida& sesion, const QString& destino);
 
-    Dos_Mitades mitades;    ///< `CbEstructura`
-    QString estilo;         ///< `LblEstilo`
+    Dos_Mitades mitades;     ///< `CbEstructura`
+    QString estilo;          ///< `LblEstilo`
     Opciones_Nivel casillas; ///< `ChkAnillo`, `ChkNivelacion`
 
     bool Ver() override;

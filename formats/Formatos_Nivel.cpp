@@ -42,9 +42,9 @@ void Escribir_Mitades(Base& bd, const Formato& formato, const Campos_Nivel& camp
 // Whether a format of the name stands there, in whatever capitals.
 bool Hay_Formato(Base& bd, const Formato& formato)
 {
-    Recorrido filas = bd.Recorrer("Select * from Formatos1 where ucase(nombre)=" +
-                                  Literal_Formato(formato.nombre.toUpper()) + " and Maquina = '" +
-                                  formato.maquina + "'");
+    Recorrido filas = bd.Recorrer(
+        "Select * from Formatos1 where ucase(nombre)=" + Literal_Formato(formato.nombre.toUpper()) +
+        " and Maquina = '" + formato.maquina + "'");
     return filas.Siguiente();
 }
 

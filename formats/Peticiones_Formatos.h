@@ -18,7 +18,7 @@ struct Trabajo_Exportar {
     QString maquina; ///< of the session
     int ope = 0;
     QString formato;
-    QString fichero = {}; ///< chosen for it in `FrmExportar`; empty before
+    QString fichero = {};      ///< chosen for it in `FrmExportar`; empty before
     Opciones_Nivel nivel = {}; ///< chosen with a level format
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/ficheros-brutos.md
+
 #include "rawfiles/Registros_Serie_A.h"
 
 /// How the records of series A stand in a file.

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/ficheros-brutos.md
+
 #include <QString>
 
 /// A session of series B as a CLIP file. With `patron` "*.ter" its rows "station,offset,height" are

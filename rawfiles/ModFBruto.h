@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/ficheros-brutos.md
+
 #include "session/Consultas_Sesion.h"
 
 /// The file filter of a session: "descripción|patrón" pairs joined by "|". Families other than

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/ficheros-brutos.md
+
 #include "rawfiles/Lineas_Sesion.h"
 
 #include <QMap>

@@ -33,10 +33,10 @@ private:
     Ajustes ajustes;
     Fallos pendientes;
     Estado estado = Estado::Espera;
-    int linea = 0;      ///< 0 start line, 1... the records, then the end line
-    int ruidosa = 0;    ///< last line that had its noise
+    int linea = 0;        ///< 0 start line, 1... the records, then the end line
+    int ruidosa = 0;      ///< last line that had its noise
     bool enviada = false; ///< the line under way has gone out itself, and not its noise alone
-    QByteArray entrada; ///< the PC's line so far
+    QByteArray entrada;   ///< the PC's line so far
 };
 
 /// Checksum of a level's line: sum of the bytes, low six bits, plus 32, as a character.

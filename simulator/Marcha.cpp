@@ -47,8 +47,9 @@ simulador::Hacer_Aparato(const Opciones& o, const std::optional<QList<QByteArray
             Aparato_Texto::Ajustes{registros, o.retardo, o.fallos}, std::move(salida),
             std::move(nota));
     if (o.aparato == QLatin1String("NV400"))
-        return std::make_unique<Aparato_Nivel>(Aparato_Nivel::Ajustes{registros, !o.seguir, o.fallos},
-                                               std::move(salida), std::move(nota));
+        return std::make_unique<Aparato_Nivel>(
+            Aparato_Nivel::Ajustes{registros, !o.seguir, o.fallos}, std::move(salida),
+            std::move(nota));
     return std::make_unique<Aparato_Tramas>(
         Aparato_Tramas::Ajustes{registros, o.bloque, !o.seguir, o.fin_linea, o.fallos},
         std::move(salida), std::move(nota));

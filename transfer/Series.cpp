@@ -24,12 +24,11 @@ template <class Clase> std::unique_ptr<Emisor> Hacer_Emisor(const Datos_Envio& d
 }
 
 const Serie_En_Linea SERIES[] = {
-    {Serie::A, Hacer<Receptor_KRT300>, Guardar_Descarga_KRT300,
-     QStringLiteral("trama"), Hacer_Emisor<Emisor_KRT300>},
-    {Serie::B, Hacer<Receptor_KRT800>, Guardar_Descarga_KRT800,
-     QStringLiteral("línea"), Hacer_Emisor<Emisor_KRT800>},
-    {Serie::Nivel, Hacer<Receptor_NV400>, Guardar_Descarga_NV400,
-     QStringLiteral("línea"), nullptr},
+    {Serie::A, Hacer<Receptor_KRT300>, Guardar_Descarga_KRT300, QStringLiteral("trama"),
+     Hacer_Emisor<Emisor_KRT300>},
+    {Serie::B, Hacer<Receptor_KRT800>, Guardar_Descarga_KRT800, QStringLiteral("línea"),
+     Hacer_Emisor<Emisor_KRT800>},
+    {Serie::Nivel, Hacer<Receptor_NV400>, Guardar_Descarga_NV400, QStringLiteral("línea"), nullptr},
 };
 
 } // namespace

@@ -31,10 +31,10 @@ struct Pedido {
     QString formato, fichero;
     const Salida_Exportar* salida = nullptr;
     int separador = 0;
-    std::optional<int> version;  // entry of VersionExcel
+    std::optional<int> version; // entry of VersionExcel
     bool numeros = false;
-    std::optional<bool> titulos;  // otherwise those of the format
-    std::optional<QStringList> desplazamiento;  // X, Y, Z as typed
+    std::optional<bool> titulos;               // otherwise those of the format
+    std::optional<QStringList> desplazamiento; // X, Y, Z as typed
     Opciones_Nivel nivel;
 };
 
@@ -59,10 +59,10 @@ bool Si_O_No(const QString& opcion, const QString& valor)
 
 Pedido Leer_Pedido(const QStringList& palabras)
 {
-    const Argumentos a(palabras,
-                       {"formato", "tipo", "salida", "separador", "desplazamiento", "version",
-                        "titulos"},
-                       {"numeros", "anillo", "nivelacion"});
+    const Argumentos a(
+        palabras,
+        {"formato", "tipo", "salida", "separador", "desplazamiento", "version", "titulos"},
+        {"numeros", "anillo", "nivelacion"});
     Pedido p;
     p.id = Numero_De(a.Sueltos(1, 1).first(), "ID");
     p.formato = a.Obligada("formato");
@@ -142,8 +142,8 @@ std::unique_ptr<Formato_Existente> Modelo_De(const Sesion_Elegida& sesion, bool 
 QString Uso_Exportar()
 {
     return "exportar ID --formato NOMBRE --tipo " + Palabras_Tipo().join('|') +
-           " --salida FICHERO [--separador " + Palabras_Separador().join('|') +
-           "] [--version \"" + Versiones_De_Libro().join("\"|\"") +
+           " --salida FICHERO [--separador " + Palabras_Separador().join('|') + "] [--version \"" +
+           Versiones_De_Libro().join("\"|\"") +
            "\"] [--numeros] [--titulos si|no] [--desplazamiento X,Y,Z] [--anillo] [--nivelacion]";
 }
 
@@ -171,7 +171,8 @@ int Orden_Exportar(const Contexto& c, const QStringList& palabras)
     // The titles of a locked format are not to be changed, here as in the dialog.
     if (pedido.titulos && *pedido.titulos != formato.cabeceras) {
         if (formato.bloqueado) {
-            c.Mensaje("El formato " + pedido.formato + " no es modificable: sus títulos no se cambian");
+            c.Mensaje("El formato " + pedido.formato +
+                      " no es modificable: sus títulos no se cambian");
             return RECHAZADO;
         }
         formato.cabeceras = *pedido.titulos;

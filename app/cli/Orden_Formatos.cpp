@@ -20,8 +20,8 @@ bool Elegir_Campos(const Contexto& c, Dos_Listas& listas, const QStringList& cam
     for (const QString& campo : campos) {
         const qsizetype lugar = listas.disponibles.indexOf(campo);
         if (lugar < 0) {
-            c.Mensaje("El campo \"" + campo + "\" no está disponible; los hay: " +
-                      listas.disponibles.join(", "));
+            c.Mensaje("El campo \"" + campo +
+                      "\" no está disponible; los hay: " + listas.disponibles.join(", "));
             return false;
         }
         listas.Agregar({int(lugar)});
@@ -38,7 +38,8 @@ int Guardar_Nuevo(Formato_Nuevo& formato)
 void Preparar_Nuevo(Formato_Nuevo& formato, const Argumentos& a, int ope)
 {
     formato.Crear();
-    formato.Elegir_Tipo(int(Buscar_Trozo(formato.tag_tipos, QString::number(ope), QChar(SEP_LISTA))) - 1);
+    formato.Elegir_Tipo(
+        int(Buscar_Trozo(formato.tag_tipos, QString::number(ope), QChar(SEP_LISTA))) - 1);
     formato.Escribir_Nombre(a.Obligada("nombre"));
     formato.descripcion = a.Opcion("descripcion");
     formato.cabeceras = a.Hay("titulos");

@@ -9,9 +9,9 @@ int Orden_Monitorizar(const Contexto& c, const QStringList& palabras)
 {
     using Textos = Monitorizacion::Textos;
     static constexpr std::pair<const char*, QString Textos::*> TEXTOS[] = {
-        {"trabajo", &Textos::trabajo},         {"descripcion", &Textos::descripcion},
-        {"operario", &Textos::operario},       {"temperatura", &Textos::temperatura},
-        {"fecha", &Textos::fecha},             {"hora", &Textos::hora},
+        {"trabajo", &Textos::trabajo},   {"descripcion", &Textos::descripcion},
+        {"operario", &Textos::operario}, {"temperatura", &Textos::temperatura},
+        {"fecha", &Textos::fecha},       {"hora", &Textos::hora},
     };
     QStringList con_valor{"lecturas", "coordenadas", "salida"};
     for (const auto& [opcion, texto] : TEXTOS)

@@ -64,9 +64,8 @@ int Orden_Rescatar(const Contexto& c, const QStringList& palabras)
     const int ope = Operacion_De(a, diario);
     if (a.Hay("ope")) instalacion.Comprobar_Operacion(a.Numero("ope"), "D");
 
-    const Resultado_Recepcion r =
-        Rescatar(fichero, {QString(), nombre, ope, 0, Clave_Estacion, Nombre_Estacion},
-                 a.Hay("forzar"));
+    const Resultado_Recepcion r = Rescatar(
+        fichero, {QString(), nombre, ope, 0, Clave_Estacion, Nombre_Estacion}, a.Hay("forzar"));
     for (const QString& sesion : r.sesiones)
         c.Linea(sesion);
     if (const QString falta = Frase_Faltas(r.faltas, Serie_De(Familia_Actual())->unidad);

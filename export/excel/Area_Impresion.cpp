@@ -28,8 +28,8 @@ void Escribir_Referencias(Salida_Biff& salida, const Forma_Excel& forma, const L
 
 template <class Area> Name_58 Nombre_De(quint16 hoja)
 {
-    return {NOMBRE_INTEGRADO, 0, 1, quint16(sizeof(Area)), quint16(0), quint16(hoja + 1), 0, 0, 0,
-            0};
+    return {
+        NOMBRE_INTEGRADO, 0, 1, quint16(sizeof(Area)), quint16(0), quint16(hoja + 1), 0, 0, 0, 0};
 }
 
 void Escribir_Area(Salida_Biff& salida, const Forma_Excel& forma, const Rango& r, quint16 hoja)
@@ -37,16 +37,16 @@ void Escribir_Area(Salida_Biff& salida, const Forma_Excel& forma, const Rango& r
     const quint16 fila = quint16(r.fila), fila_hasta = quint16(r.fila_hasta);
     QByteArray nombre(1, char(NOMBRE_AREA_IMPRESION));
     if (forma.unicode) {
-        const Area_3D_8 area{PTG_AREA_3D,        hoja,
-                             fila,               fila_hasta,
-                             quint16(r.columna), quint16(r.columna_hasta)};
+        const Area_3D_8 area{
+            PTG_AREA_3D, hoja, fila, fila_hasta, quint16(r.columna), quint16(r.columna_hasta)};
         salida.Escribir(Nombre_De<Area_3D_8>(hoja), '\0' + nombre + Bytes_De(area).toByteArray());
         return;
     }
     Name_58 cabeza = Nombre_De<Area_3D_5>(hoja);
     cabeza.ixals = quint16(hoja + 1);
-    const Area_3D_5 area{PTG_AREA_3D,       quint16(-(hoja + 1)), {}, hoja, hoja, fila, fila_hasta,
-                         quint8(r.columna), quint8(r.columna_hasta)};
+    const Area_3D_5 area{
+        PTG_AREA_3D,       quint16(-(hoja + 1)),   {}, hoja, hoja, fila, fila_hasta,
+        quint8(r.columna), quint8(r.columna_hasta)};
     salida.Escribir(cabeza, nombre + Bytes_De(area).toByteArray());
 }
 

@@ -84,12 +84,12 @@ void Escribir_Xf(const Forma_Excel& forma, Salida_Biff& salida, const Aspecto& a
                              XF_AREA_34, quint32(0)});
         break;
     case Version_Excel::Excel_5:
-        salida.Escribir(Xf_5{quint16(a.fuente), a.formato, quint16(proteccion | padre),
-                             XF_ABAJO, a.atributos, quint32(XF_AREA_58), quint32(0)});
+        salida.Escribir(Xf_5{quint16(a.fuente), a.formato, quint16(proteccion | padre), XF_ABAJO,
+                             a.atributos, quint32(XF_AREA_58), quint32(0)});
         break;
     case Version_Excel::Excel_8:
-        salida.Escribir(Xf_8{quint16(a.fuente), a.formato, quint16(proteccion | padre),
-                             XF_ABAJO, 0, 0, a.atributos, quint32(0), quint32(0), XF_AREA_58});
+        salida.Escribir(Xf_8{quint16(a.fuente), a.formato, quint16(proteccion | padre), XF_ABAJO, 0,
+                             0, a.atributos, quint32(0), quint32(0), XF_AREA_58});
         break;
     }
 }

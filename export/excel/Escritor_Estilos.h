@@ -20,7 +20,7 @@ public:
 private:
     void Escribir_Formatos(const Forma_Excel& forma, Salida_Biff& salida) const;
 
-    std::vector<int> decimales;                              ///< in use, in the order of their looks
+    std::vector<int> decimales; ///< in use, in the order of their looks
     std::array<quint16, Celda::MAX_DECIMALES + 1> lugares{}; ///< in `decimales`, from 1; 0: none
 };
 

@@ -159,7 +159,8 @@ std::size_t Escritor_Hoja::Escribir_Vacias(const std::vector<Celda_Situada>& cel
            celdas[ultima + 1].columna == celdas[ultima].columna + 1)
         ++ultima;
     if (ultima == primera) {
-        salida.Escribir(Blank{{quint16(fila), celdas[primera].columna, estilos.Xf_De(celdas[primera])}});
+        salida.Escribir(
+            Blank{{quint16(fila), celdas[primera].columna, estilos.Xf_De(celdas[primera])}});
         return 1;
     }
     QByteArray aspectos;

@@ -87,8 +87,8 @@ void Aspectos_Leidos::Tomar_Formato(const Registro_Biff& registro, Version_Excel
     const qsizetype antes = version == Version_Excel::Excel_3   ? 1
                             : version == Version_Excel::Excel_8 ? 5
                                                                 : 3;
-    dibujos[numero] = registro.cuerpo.size() > antes ? registro.cuerpo.sliced(antes).toByteArray()
-                                                     : QByteArray();
+    dibujos[numero] =
+        registro.cuerpo.size() > antes ? registro.cuerpo.sliced(antes).toByteArray() : QByteArray();
 }
 
 void Aspectos_Leidos::Tomar_Xf(const Registro_Biff& registro, Version_Excel version)

@@ -42,8 +42,8 @@ private:
     QByteArray Dibujo_De(quint16 formato) const;
     void Tomar_Xf(const Registro_Biff& registro, Version_Excel version);
 
-    std::vector<bool> negritas;             ///< of each font, in the order of the records
-    std::map<quint16, QByteArray> dibujos;  ///< of the formats, by their number
+    std::vector<bool> negritas;            ///< of each font, in the order of the records
+    std::map<quint16, QByteArray> dibujos; ///< of the formats, by their number
     quint16 formatos_leidos = 0;
     std::vector<Xf> xfs;
 };

@@ -137,15 +137,15 @@ void Tabla_Excel::Update()
 void Tabla_Excel::Quitar_Columnas_Desde(int campo)
 {
     if (campo >= columnas.size()) return;
-    hoja.Quitar({cabecera, primera_columna + campo, cabecera,
-                 primera_columna + int(columnas.size()) - 1});
+    hoja.Quitar(
+        {cabecera, primera_columna + campo, cabecera, primera_columna + int(columnas.size()) - 1});
     columnas.resize(campo);
 }
 
 void Tabla_Excel::Imprimir(int registros, int campos)
 {
-    hoja.Poner_Area_Impresion({cabecera + 1, primera_columna, cabecera + registros,
-                               primera_columna + campos - 1});
+    hoja.Poner_Area_Impresion(
+        {cabecera + 1, primera_columna, cabecera + registros, primera_columna + campos - 1});
 }
 
 void Tabla_Excel::CancelUpdate()

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/impresion.md
+
 #include "core/jet/Base.h"
 #include "export/Datos_Formateados.h"
 

@@ -27,7 +27,8 @@ void Leer_Mitades(const Origen_Exportar& s, Datos_Nivel& nivel)
         bool con_numero = false;
         const int numero = campos.Texto(3).toInt(&con_numero);
         (cabecera ? nivel.cabecera : nivel.detalle)
-            .push_back({Nombre_Campo_Nivel(campo), con_numero ? numero : -1, int(campos.Entero(2))});
+            .push_back(
+                {Nombre_Campo_Nivel(campo), con_numero ? numero : -1, int(campos.Entero(2))});
     }
 }
 

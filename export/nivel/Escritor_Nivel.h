@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/textos.md
+
 #include "export/Tarea_Exportar.h"
 
 // The report of a levelling run on its ways out; stage 1 is `Cargar_Nivel`.

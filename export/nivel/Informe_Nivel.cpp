@@ -23,14 +23,10 @@ struct Columna {
     QString (*escribir)(const QString&) = nullptr;
 };
 constexpr Columna DE_ANILLO[] = {
-    {u"Nº Señal ", 3, 8},
-    {u"Fecha y Hora   ", 4, 16, Lado::Izquierda, Fecha_Y_Hora},
-    {u"Inc.Z Anillo", 5, 12},
-    {u"Inc.Z Total", 6, 11},
-    {u"Long Anillo", 7, 11},
-    {u"Long Total", 8, 10},
-    {u"Cota      ", 9, 10},
-    {u"Codigo 1         ", 10, 16},
+    {u"Nº Señal ", 3, 8},     {u"Fecha y Hora   ", 4, 16, Lado::Izquierda, Fecha_Y_Hora},
+    {u"Inc.Z Anillo", 5, 12}, {u"Inc.Z Total", 6, 11},
+    {u"Long Anillo", 7, 11},  {u"Long Total", 8, 10},
+    {u"Cota      ", 9, 10},   {u"Codigo 1         ", 10, 16},
 };
 constexpr Columna DE_CAMBIO[] = {
     {u"Nº Señal", 2, 8},
@@ -91,7 +87,8 @@ public:
         for (const Columna& c : propia.columnas) {
             const QString valor = datos.Celda(registro, c.campo);
             titulos.celdas << Celda_Informe{QString::fromUtf16(c.titulo)};
-            valores.celdas << Celda_Informe{c.escribir ? c.escribir(valor) : valor, c.ancho, c.lado};
+            valores.celdas << Celda_Informe{c.escribir ? c.escribir(valor) : valor, c.ancho,
+                                            c.lado};
         }
         Blanco();
         linea(titulos);

@@ -48,5 +48,4 @@ struct Linea_Informe {
 /// @param opciones  which lines are wanted. Deliberate: `anillo` opens the change points, and
 ///                  `nivelacion` the rings
 void Hacer_Informe(const Datos_Nivel& datos, bool titulos, const Opciones_Nivel& opciones,
-                   Avance_Exportar& avance,
-                   const std::function<void(const Linea_Informe&)>& linea);
+                   Avance_Exportar& avance, const std::function<void(const Linea_Informe&)>& linea);

@@ -83,10 +83,9 @@ QGroupBox* FrmExportar::Hacer_Opciones()
     VersionExcel = Piezas::Combo("VersionExcel");
     ChkNumeros = Piezas::Casilla("ChkNumeros", "Números como números");
     auto* const lado = new QVBoxLayout;
-    for (QWidget* const pieza :
-         {static_cast<QWidget*>(Label4), static_cast<QWidget*>(Caracter),
-          static_cast<QWidget*>(Label3), static_cast<QWidget*>(VersionExcel),
-          static_cast<QWidget*>(ChkNumeros)})
+    for (QWidget* const pieza : {static_cast<QWidget*>(Label4), static_cast<QWidget*>(Caracter),
+                                 static_cast<QWidget*>(Label3), static_cast<QWidget*>(VersionExcel),
+                                 static_cast<QWidget*>(ChkNumeros)})
         lado->addWidget(pieza);
     lado->addStretch();
     auto* const caja = new QHBoxLayout(grupo);
@@ -139,9 +138,8 @@ void FrmExportar::Mostrar_Modelo()
     Llenar(*VersionExcel, modelo->versiones, modelo->version);
     for (QWidget* const pieza : {static_cast<QWidget*>(Label4), static_cast<QWidget*>(Caracter)})
         pieza->setVisible(modelo->caracter_visible);
-    for (QWidget* const pieza :
-         {static_cast<QWidget*>(Label3), static_cast<QWidget*>(VersionExcel),
-          static_cast<QWidget*>(ChkNumeros)})
+    for (QWidget* const pieza : {static_cast<QWidget*>(Label3), static_cast<QWidget*>(VersionExcel),
+                                 static_cast<QWidget*>(ChkNumeros)})
         pieza->setVisible(modelo->version_visible);
     ChkNumeros->setChecked(modelo->numeros);
     Text1->setText(modelo->fichero);

@@ -4,10 +4,10 @@
 #include "core/ui/Dialogos.h"
 #include "core/ui/Piezas.h"
 #include "formats/Peticiones_Formatos.h"
-#include "formats/ui/FrmExistFormNV400.h"
 #include "formats/ui/FrmExistformato.h"
-#include "formats/ui/FrmNuevoFormatoNV400.h"
+#include "formats/ui/FrmExistFormNV400.h"
 #include "formats/ui/FrmNuevoformato.h"
+#include "formats/ui/FrmNuevoFormatoNV400.h"
 
 void Conectar_Dialogos_Formatos()
 {

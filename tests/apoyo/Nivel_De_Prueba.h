@@ -14,10 +14,10 @@ struct Campo {
     const char* numero;
 };
 inline const Campo CAMPOS[] = {
-    {"0", "Trabajo", 16, "2"},  {"0", "Punto Inicial", 8, "3"}, {"0", "Cota Inicial", 11, "4"},
-    {"0", "Fecha", 8, "5"},     {"0", "Hora", 5, "6"},          {"1", "Tipo", 4, "0"},
-    {"1", "Punto", 8, "5"},     {"1", "Lectura", 9, "2"},       {"1", "Distancia", 9, "3"},
-    {"1", "Cota", 11, "4"},     {"1", "Fecha", 8, "7"},         {"1", "Hora", 5, "8"},
+    {"0", "Trabajo", 16, "2"}, {"0", "Punto Inicial", 8, "3"}, {"0", "Cota Inicial", 11, "4"},
+    {"0", "Fecha", 8, "5"},    {"0", "Hora", 5, "6"},          {"1", "Tipo", 4, "0"},
+    {"1", "Punto", 8, "5"},    {"1", "Lectura", 9, "2"},       {"1", "Distancia", 9, "3"},
+    {"1", "Cota", 11, "4"},    {"1", "Fecha", 8, "7"},         {"1", "Hora", 5, "8"},
     {"1", "Sin sitio", 5, ""},
 };
 

@@ -336,8 +336,12 @@ void TestCaminos::lo_que_no_se_repite_se_dice_data()
     QTest::addColumn<QString>("maquina");
     QTest::addColumn<QString>("libreta");
     QTest::addColumn<QString>("falta");
-    QTest::newRow("KRT300") << "KRT300" << "campo_krt300.txt" << "1 trama rechazada y no repetida";
-    QTest::newRow("NV400") << "NV400" << "campo_nv400.txt" << "1 línea rechazada y no repetida";
+    QTest::newRow("KRT300") << "KRT300"
+                            << "campo_krt300.txt"
+                            << "1 trama rechazada y no repetida";
+    QTest::newRow("NV400") << "NV400"
+                           << "campo_nv400.txt"
+                           << "1 línea rechazada y no repetida";
 }
 
 void TestCaminos::lo_que_no_se_repite_se_dice()
@@ -367,8 +371,8 @@ void TestCaminos::la_espera_acaba_con_lo_que_se_para()
 void TestCaminos::el_nombre_se_mira_antes_de_descargar()
 {
     for (const QString& nombre : {QString(), QString("  "), QString(51, 'x')}) {
-        const Salida s = Cli({"descargar", "--modelo", "KRT300", "--ope", "0", "--puerto", "/no/hay",
-                              "--nombre", nombre});
+        const Salida s = Cli({"descargar", "--modelo", "KRT300", "--ope", "0", "--puerto",
+                              "/no/hay", "--nombre", nombre});
         QCOMPARE(s.estado, 2);
         QVERIFY2(s.errores.startsWith("El nombre de la sesión"), qPrintable(s.errores));
     }
@@ -387,8 +391,8 @@ void TestCaminos::una_senal_conserva_lo_recibido()
     QFETCH(int, senal);
     Simular("KRT300", Libreta("jornada_krt300.txt"), {"--baudios", "4800"});
     QProcess p;
-    p.start(INSTALACION "/miraldos-cli", {"--dir", dir, "descargar", "--modelo", "KRT300", "--ope", "0",
-                                          "--puerto", Ruta("com1"), "--nombre", "Obra"});
+    p.start(INSTALACION "/miraldos-cli", {"--dir", dir, "descargar", "--modelo", "KRT300", "--ope",
+                                          "0", "--puerto", Ruta("com1"), "--nombre", "Obra"});
     QTRY_COMPARE_WITH_TIMEOUT(Diarios().size(), 1, 20000);
     QTest::qWait(300);
     // While it runs nobody else makes a session of it.
@@ -416,7 +420,8 @@ void TestCaminos::rescatar_no_cambia_de_familia_ni_de_operacion()
     };
     Salida s = rescatar({"--modelo", "KRT800"});
     QCOMPARE(s.estado, 1);
-    QVERIFY2(s.errores.contains("La recepción es de un KRT300 y no de un KRT800"), qPrintable(s.errores));
+    QVERIFY2(s.errores.contains("La recepción es de un KRT300 y no de un KRT800"),
+             qPrintable(s.errores));
     s = rescatar({"--modelo", "KRT300", "--ope", "1"});
     QCOMPARE(s.estado, 1);
     QVERIFY2(s.errores.contains("es de la operación 0 y no de la 1"), qPrintable(s.errores));

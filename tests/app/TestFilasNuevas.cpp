@@ -135,9 +135,9 @@ void TestFilasNuevas::los_mismos_bytes_en_todas_partes()
     Poner_Formato(p, "KRT300", 1,
                   {"Punto", "Coordenada X", "Coordenada Y", "Código", "Ángulo Horizontal",
                    "Distancia", "Altura Instrumento"});
-    const Salida s =
-        Orden(p, {"exportar", "1", "--formato", "MÍO", "--tipo", "txf", "--separador", "coma",
-                  "--titulos", "si", "--desplazamiento", "123456789.5,,", "--salida", p.Ruta("s.txt")});
+    const Salida s = Orden(p, {"exportar", "1", "--formato", "MÍO", "--tipo", "txf", "--separador",
+                               "coma", "--titulos", "si", "--desplazamiento", "123456789.5,,",
+                               "--salida", p.Ruta("s.txt")});
     const QString sesiones = Orden(p, {"sesiones", "--maquina", "KRT300"}).texto;
     std::setlocale(LC_ALL, "C");
     QLocale::setDefault(antes);

@@ -183,8 +183,8 @@ void TestOrdenesSesion::exportar_escribe_libros_y_bases()
 {
     QVERIFY(QFile::copy(INSTALACION "/DAT/plantilla.xls", base->Ruta("DAT/plantilla.xls")));
     const QStringList orden{"exportar", "1", "--formato", "NXYZ"};
-    QCOMPARE(Correr(orden + QStringList{"--tipo", "xls", "--salida", base->Ruta("s.xls"), "--numeros",
-                                        "--titulos", "si", "--version", "Excel 95"}),
+    QCOMPARE(Correr(orden + QStringList{"--tipo", "xls", "--salida", base->Ruta("s.xls"),
+                                        "--numeros", "--titulos", "si", "--version", "Excel 95"}),
              int(HECHO));
     const Libro_Excel libro = Abrir_Libro(base->Ruta("s.xls"));
     QCOMPARE(libro.Hoja(0).Leer(1, 3).texto, QString("Coordenada Z"));
@@ -196,15 +196,16 @@ void TestOrdenesSesion::exportar_escribe_libros_y_bases()
     QCOMPARE(libro.Hoja(0).Leer(4, 0).texto, QString("P20"));
     // What the order was told is no choice of the dialog.
     QVERIFY(!base->Leer("Posicion.ini").contains("numeros"));
-    QCOMPARE(Correr(orden + QStringList{"--tipo", "mdb", "--salida", base->Ruta("s.mdb")}), int(HECHO));
+    QCOMPARE(Correr(orden + QStringList{"--tipo", "mdb", "--salida", base->Ruta("s.mdb")}),
+             int(HECHO));
     QVERIFY(base->Leer("s.mdb").contains("Standard Jet DB"));
 }
 
 void TestOrdenesSesion::exportar_toma_los_titulos_del_formato()
 {
     Base_Datos->Execute("UPDATE Formatos1 SET cabeceras = 'SI'");
-    const QStringList orden{"--si", "exportar", "1", "--formato", "NXYZ", "--tipo", "txf", "--salida",
-                            base->Ruta("s.txt")};
+    const QStringList orden{"--si",   "exportar", "1",        "--formato",        "NXYZ",
+                            "--tipo", "txf",      "--salida", base->Ruta("s.txt")};
     QCOMPARE(Correr(orden), int(HECHO));
     QVERIFY(base->Leer("s.txt").startsWith("Punto Coordenada X"));
     QCOMPARE(Correr(orden + QStringList{"--titulos", "no"}), int(HECHO));
@@ -217,7 +218,8 @@ void TestOrdenesSesion::el_nivel_se_formatea_y_se_exporta()
     Nivel_De_Prueba::Poner_Campos(*base);
     Nivel_De_Prueba::Poner_Sesion(*base, 3, Nivel_De_Prueba::Libreta("campo_nv400.txt"));
     const QStringList nuevo{"formato-nuevo", "--maquina", "NV400", "--ope", "0", "--nombre", "Mío"};
-    QCOMPARE(Correr(nuevo + QStringList{"--cabecera", "Trabajo, Fecha", "--campos", "Punto,Cota,Trabajo"}),
+    QCOMPARE(Correr(nuevo +
+                    QStringList{"--cabecera", "Trabajo, Fecha", "--campos", "Punto,Cota,Trabajo"}),
              int(RECHAZADO));
     QVERIFY(errores.contains("El campo \"Trabajo\" no está disponible; los hay: Tipo, Lectura"));
     QCOMPARE(Correr(nuevo), int(MAL_USO));
@@ -226,13 +228,14 @@ void TestOrdenesSesion::el_nivel_se_formatea_y_se_exporta()
              int(HECHO));
     // An order closes the database behind it.
     Base_Datos = Base::Abrir(base->Ruta("MDB/EstTotal.mdb"));
-    QCOMPARE(base->Columna("SELECT descripcion FROM Formatos1 WHERE Nombre = 'Mío'"), QStringList{"Cotas"});
+    QCOMPARE(base->Columna("SELECT descripcion FROM Formatos1 WHERE Nombre = 'Mío'"),
+             QStringList{"Cotas"});
     QCOMPARE(Correr(nuevo + QStringList{"--campos", "Punto"}), int(RECHAZADO));
     QVERIFY(errores.contains("(3022)"));
 
-    const QStringList exportar{"--si",   "exportar", "3",        "--formato",
-                               "Mío",    "--tipo",   "txt",      "--salida",
-                               base->Ruta("s.txt"),  "--separador", "coma"};
+    const QStringList exportar{"--si",   "exportar", "3",        "--formato",         "Mío",
+                               "--tipo", "txt",      "--salida", base->Ruta("s.txt"), "--separador",
+                               "coma"};
     QCOMPARE(Correr(exportar + QStringList{"--nivelacion"}), int(HECHO));
     const QString texto = Ansi::A_Texto(base->Leer("s.txt"));
     QVERIFY2(texto.startsWith("Trabajo         ,Fecha   \r\nANILLO A        ,12/03/24\r\n\r\n"
@@ -268,23 +271,27 @@ void TestOrdenesSesion::exportar_dice_que_falta_data()
     QTest::newRow("formato") << con("1", "NADA", "txf") << int(RECHAZADO)
                              << "No existe el formato NADA para la sesión; los hay: NXYZ, CERRADO";
     QTest::newRow("sesion") << con("7", "NXYZ", "txf") << int(RECHAZADO) << "No existe la sesión 7";
-    QTest::newRow("vacia") << con("2", "NXYZ", "txf") << int(RECHAZADO) << "No hay datos disponibles!!!";
-    QTest::newRow("nivel") << con("3", "NXYZ", "txf") << int(RECHAZADO) << "No hay formatos disponibles";
+    QTest::newRow("vacia") << con("2", "NXYZ", "txf") << int(RECHAZADO)
+                           << "No hay datos disponibles!!!";
+    QTest::newRow("nivel") << con("3", "NXYZ", "txf") << int(RECHAZADO)
+                           << "No hay formatos disponibles";
     QTest::newRow("anillo de otra familia")
         << con("1", "NXYZ", "txf") + QStringList{"--anillo"} << int(MAL_USO)
         << "Las opciones --anillo y --nivelacion son de las sesiones del nivel";
     QTest::newRow("tipo") << con("1", "NXYZ", "pdf") << int(MAL_USO)
                           << "El tipo es txf, txt, xls o mdb: pdf";
-    QTest::newRow("version de un texto") << con("1", "NXYZ", "txf") + QStringList{"--version", "Excel 97"}
-                                         << int(MAL_USO) << "La opción --version no vale para el tipo txf";
-    QTest::newRow("numeros de una base") << con("1", "NXYZ", "mdb") + QStringList{"--numeros"} << int(MAL_USO)
-                                         << "La opción --numeros no vale para el tipo mdb";
-    QTest::newRow("separador de un libro") << con("1", "NXYZ", "xls") + QStringList{"--separador", "coma"}
-                                           << int(MAL_USO)
-                                           << "La opción --separador no vale para el tipo xls";
-    QTest::newRow("version que no hay") << con("1", "NXYZ", "xls") + QStringList{"--version", "Excel 2000"}
-                                        << int(MAL_USO)
-                                        << "La versión es Excel 3.0, Excel 4.0, Excel 95 o Excel 97: Excel 2000";
+    QTest::newRow("version de un texto")
+        << con("1", "NXYZ", "txf") + QStringList{"--version", "Excel 97"} << int(MAL_USO)
+        << "La opción --version no vale para el tipo txf";
+    QTest::newRow("numeros de una base")
+        << con("1", "NXYZ", "mdb") + QStringList{"--numeros"} << int(MAL_USO)
+        << "La opción --numeros no vale para el tipo mdb";
+    QTest::newRow("separador de un libro")
+        << con("1", "NXYZ", "xls") + QStringList{"--separador", "coma"} << int(MAL_USO)
+        << "La opción --separador no vale para el tipo xls";
+    QTest::newRow("version que no hay")
+        << con("1", "NXYZ", "xls") + QStringList{"--version", "Excel 2000"} << int(MAL_USO)
+        << "La versión es Excel 3.0, Excel 4.0, Excel 95 o Excel 97: Excel 2000";
     QTest::newRow("titulos a medias") << con("1", "NXYZ", "txf") + QStringList{"--titulos", "quiza"}
                                       << int(MAL_USO) << "La opción --titulos es si o no: quiza";
     QTest::newRow("titulos de uno cerrado")
@@ -310,8 +317,12 @@ void TestOrdenesSesion::exportar_dice_que_falta()
     QFETCH(int, estado);
     QFETCH(QString, dice);
     Poner_Sesion(*base, 3, "NV400", 0, {{" ", "g,01,A,"}});
-    base->Fila("Formatos1", {{"Nombre", "CERRADO"}, {"Maquina", "KRT300"}, {"cabeceras", "NO"},
-                             {"Modificable", "NO"}, {"ope", 1}, {"Ids", "x "}});
+    base->Fila("Formatos1", {{"Nombre", "CERRADO"},
+                             {"Maquina", "KRT300"},
+                             {"cabeceras", "NO"},
+                             {"Modificable", "NO"},
+                             {"ope", 1},
+                             {"Ids", "x "}});
     QCOMPARE(Correr(palabras), estado);
     QVERIFY2(QString::fromUtf8(errores).contains(dice), errores.constData());
     QVERIFY(salida.isEmpty());

@@ -107,10 +107,11 @@ void TestBasico::formato_redondea_sobre_la_lectura_decimal()
 void TestBasico::el_camino_corto_escribe_lo_mismo()
 {
     std::mt19937_64 azar(20240513);
-    QList<double> numeros = {0.0,     -0.0,      0.0005,     -0.0004,      0.9995,   999.9995,
-                             1.005,   2.5,       -2.5,       456191.3385,  1e12,     1e13 + 0.5,
-                             1e15,    -1e15,     1e300,      -1e-300,      0.499999, 123456789012.345,
-                             1e9 - 1, 9999999.5, 0.49999999, 999999999.95, 1e13 - 1};
+    QList<double> numeros = {
+        0.0,     -0.0,      0.0005,     -0.0004,      0.9995,   999.9995,
+        1.005,   2.5,       -2.5,       456191.3385,  1e12,     1e13 + 0.5,
+        1e15,    -1e15,     1e300,      -1e-300,      0.499999, 123456789012.345,
+        1e9 - 1, 9999999.5, 0.49999999, 999999999.95, 1e13 - 1};
     for (int i = 0; i < 20000; ++i) {
         const double a = std::uniform_real_distribution<double>(-8, 8)(azar);
         const double x = std::pow(10, a) * std::uniform_real_distribution<double>(-1, 1)(azar);
@@ -145,9 +146,8 @@ void TestBasico::un_numero_guardado_se_lee_igual()
         QCOMPARE(Basico::Leer_Numero(texto), por_lo_largo(texto));
         QCOMPARE(Basico::Leer_Numero(" " + texto + "  "), por_lo_largo(texto));
     }
-    for (const char* texto :
-         {"12,5", "-0.5", "+3", "7", "7.", "1e3", "00012", "123456789012345678", "0.1234567890123456",
-          "- 5", "4500000.5"})
+    for (const char* texto : {"12,5", "-0.5", "+3", "7", "7.", "1e3", "00012", "123456789012345678",
+                              "0.1234567890123456", "- 5", "4500000.5"})
         QCOMPARE(Basico::Leer_Numero(QString(texto)), por_lo_largo(texto));
     for (const char* texto : {"", " ", "-", ".", ",5x", "1a", "1.2.3", "1,2,3", "--1", "1-"}) {
         const auto numero = [](auto&& leer) {

@@ -28,8 +28,7 @@ inline bool Escribir(const QString& tipo, const QString& fichero, const Datos_Fo
                      const Opciones_Exportar& opciones)
 {
     Avance_Exportar avance;
-    const Origen_Exportar origen{*Base_Datos, 1,        "KRT300", 0, "F", datos.campos,
-                                 opciones,    avance};
+    const Origen_Exportar origen{*Base_Datos, 1, "KRT300", 0, "F", datos.campos, opciones, avance};
     return Escritor_De(tipo)({origen, datos, fichero, Modo_En_Vigor().campos_con_marca});
 }
 

@@ -106,8 +106,8 @@ void TestFormatos_Nivel::el_mismo_nombre_en_las_dos_mitades()
     QCOMPARE(Guardados(), (QStringList{"0Hora0", "1Hora0", "1Punto1", "1Fecha2"}));
     QCOMPARE(Campos_Mitad(*Base_Datos, "NV400", "F", Mitad_Nivel::Detalle),
              (QStringList{"Hora", "Punto", "Fecha"}));
-    QVERIFY_THROWS_EXCEPTION(
-        Error_Ejecucion, Guardar_Mitad(*Base_Datos, "NV400", "D'Or", Mitad_Nivel::Detalle, {"Hora"}));
+    QVERIFY_THROWS_EXCEPTION(Error_Ejecucion, Guardar_Mitad(*Base_Datos, "NV400", "D'Or",
+                                                            Mitad_Nivel::Detalle, {"Hora"}));
 }
 
 void TestFormatos_Nivel::el_existente_guarda_la_mitad_al_cambiar()
@@ -119,8 +119,8 @@ void TestFormatos_Nivel::el_existente_guarda_la_mitad_al_cambiar()
     QCOMPARE(m.listas.elegidos, (QStringList{"Trabajo", "Hora"}));
     QCOMPARE(m.listas.disponibles, (QStringList{"Punto Inicial", "Cota Inicial", "Fecha"}));
     int avisos = 0;
-    const auto conexion = connect(&Sucesos::Unico(), &Sucesos::formatos_cambiados, this,
-                                  [&] { ++avisos; });
+    const auto conexion =
+        connect(&Sucesos::Unico(), &Sucesos::formatos_cambiados, this, [&] { ++avisos; });
     m.Elegir_Mitad(Mitad_Nivel::Detalle);
     QCOMPARE(m.listas.elegidos, (QStringList{"Punto", "Cota"}));
     QCOMPARE(avisos, 0); // nothing was changed

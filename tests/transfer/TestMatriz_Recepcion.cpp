@@ -21,7 +21,8 @@ private Q_SLOTS:
     void nada_se_pierde_ni_se_dice_mal();
 
 private:
-    std::unique_ptr<simulador::Aparato> Aparato(const QString& clave, const QString& fallo, bool seguir);
+    std::unique_ptr<simulador::Aparato> Aparato(const QString& clave, const QString& fallo,
+                                                bool seguir);
     void Hablar(qsizetype trozo, qsizetype corte);
     QStringList Filas(const QStringList& sesiones) const;
     static QStringList Libro(const QString& clave);
@@ -67,7 +68,8 @@ QStringList TestMatriz_Recepcion::Libro(const QString& clave)
         else if (clave == u"NV400")
             libro << QStringLiteral("g,03,%1,%2,P%3,").arg(n).arg(n / 7).arg(i);
         else
-            libro << QStringLiteral("+%1").arg(i) << QStringLiteral("h+%1").arg(n, 7, 10, QChar(u'0'))
+            libro << QStringLiteral("+%1").arg(i)
+                  << QStringLiteral("h+%1").arg(n, 7, 10, QChar(u'0'))
                   << QStringLiteral("d+%1").arg(n / 3, 8, 10, QChar(u'0'));
     }
     return libro;
@@ -77,7 +79,8 @@ QStringList TestMatriz_Recepcion::Libro(const QString& clave)
 QStringList TestMatriz_Recepcion::Aceptados(const QString& clave, const QByteArray& bytes)
 {
     QByteArray datos;
-    if (clave == u"KRT800") return QString::fromLatin1(bytes).split("\r\n").mid(0, bytes.count("\r\n"));
+    if (clave == u"KRT800")
+        return QString::fromLatin1(bytes).split("\r\n").mid(0, bytes.count("\r\n"));
     if (clave == u"NV400") {
         QStringList lineas;
         for (const QByteArray& l : bytes.split('\n'))
@@ -100,7 +103,7 @@ QStringList TestMatriz_Recepcion::Aceptados(const QString& clave, const QByteArr
 }
 
 std::unique_ptr<simulador::Aparato> TestMatriz_Recepcion::Aparato(const QString& clave,
-                                                                   const QString& fallo, bool seguir)
+                                                                  const QString& fallo, bool seguir)
 {
     simulador::Fallos fallos;
     for (const QString& uno : fallo.split(u' ', Qt::SkipEmptyParts))
@@ -144,7 +147,8 @@ QStringList TestMatriz_Recepcion::Filas(const QStringList& sesiones) const
 {
     QStringList filas;
     for (const QString& s : sesiones)
-        filas += base->Columna("SELECT Datos FROM Registros WHERE ID = " + s + " ORDER BY Secuencia");
+        filas +=
+            base->Columna("SELECT Datos FROM Registros WHERE ID = " + s + " ORDER BY Secuencia");
     return filas;
 }
 
@@ -169,14 +173,18 @@ void TestMatriz_Recepcion::nada_se_pierde_ni_se_dice_mal_data()
         {"suma:1x3", false, -1, "", "", ""},
         {"suma:3 suma:4", true, -1, "2 tramas rechazadas y no repetidas", "",
          "2 líneas rechazadas y no repetidas"},
-        {"suma:1", true, -1, "1 trama rechazada y no repetida", "", "1 línea rechazada y no repetida"},
-        {"suma:4", true, -1, "1 trama rechazada y no repetida", "", "1 línea rechazada y no repetida"},
+        {"suma:1", true, -1, "1 trama rechazada y no repetida", "",
+         "1 línea rechazada y no repetida"},
+        {"suma:4", true, -1, "1 trama rechazada y no repetida", "",
+         "1 línea rechazada y no repetida"},
         {"ruido:0", false, -1, "", "", ""},
         {"ruido:3", false, -1, "", "", ""},
         {"fin:3", false, -1, "", "", ""},
         {"fin:0", false, -1, "", "", ""},
-        {"eot:1", false, -1, "1 trama sin terminar", "10 bytes detrás del último fin de línea", sin_acabar},
-        {"eot:3", false, -1, "1 trama sin terminar", "10 bytes detrás del último fin de línea", sin_acabar},
+        {"eot:1", false, -1, "1 trama sin terminar", "10 bytes detrás del último fin de línea",
+         sin_acabar},
+        {"eot:3", false, -1, "1 trama sin terminar", "10 bytes detrás del último fin de línea",
+         sin_acabar},
         {"silencio:0", false, -1, sin_acabar, sin_acabar, sin_acabar},
         {"silencio:2", false, -1, sin_acabar, sin_acabar, sin_acabar},
         {"", false, 1, sin_acabar, sin_acabar, sin_acabar},
@@ -191,7 +199,9 @@ void TestMatriz_Recepcion::nada_se_pierde_ni_se_dice_mal_data()
                 QTest::addRow("%s %s%s corte %d, de %d", qPrintable(clave), qPrintable(c.fallo),
                               c.seguir ? " sigue" : "", c.corte, trozo)
                     << clave << c.fallo << c.seguir << c.corte << trozo
-                    << (serie == Serie::A ? c.tramas : serie == Serie::B ? c.texto : c.nivel);
+                    << (serie == Serie::A   ? c.tramas
+                        : serie == Serie::B ? c.texto
+                                            : c.nivel);
             }
 }
 
@@ -225,7 +235,8 @@ void TestMatriz_Recepcion::nada_se_pierde_ni_se_dice_mal()
     // The padding of the last block and the level's sum stay in their rows.
     const auto llanas = [&](QStringList lineas) {
         for (QString& l : lineas) {
-            if (clave == u"NV400" && l.size() > 2 && l.endsWith(u',') && l.count(u',') > 5) l.chop(2);
+            if (clave == u"NV400" && l.size() > 2 && l.endsWith(u',') && l.count(u',') > 5)
+                l.chop(2);
             l = Basico::RTrim(l);
         }
         return lineas;

@@ -2,9 +2,9 @@
 
 #include "core/Error_Ejecucion.h"
 #include "core/Familia.h"
-#include "core/Renovacion.h"
 #include "core/jet/Base.h"
 #include "core/jet/Esquema.h"
+#include "core/Renovacion.h"
 
 #include <QFile>
 

@@ -239,7 +239,9 @@ void Dibujos(Escenario& e)
     e.Retratar_Modal("FrmImpEdtCol", [] {
         Peticiones_De_Impresion().Editar_Columnas({"Punto", "Coordenada X", "Coordenada Y"});
     });
-    e.Retratar_Modal("FrmImpDat", [] { Peticiones_De_Impresion().Pedir_Trabajo({"Presa", "Ana"}); });
+    e.Retratar_Modal("FrmImpDat", [] {
+        Peticiones_De_Impresion().Pedir_Trabajo({"Presa", "Ana"});
+    });
     e.Retratar_Modal("FrmPlano", [&] { Puertas_De_Descargas().Ver_Plano(*sesion); });
     Avance_Exportar callado;
     Transformar_DXF(Dibujo_De_Sesion(trabajo), Modo_DXF::Tres_D, {}, callado);

@@ -80,9 +80,10 @@ bool Descarga::Empezar_Recepcion()
     if (!Iniciar_Habilitado() || !Empezar()) return false;
     if (const QString motivo = Diario_Recepcion::Impedimento(); !motivo.isEmpty()) {
         const Caja_Abierta caja(*this);
-        Interfaz_Actual().Mensaje("No se puede escribir en la carpeta LOG (" + motivo +
-                                      "); lo que se reciba estará sólo en memoria hasta que se guarde",
-                                  Icono::Exclamacion);
+        Interfaz_Actual().Mensaje(
+            "No se puede escribir en la carpeta LOG (" + motivo +
+                "); lo que se reciba estará sólo en memoria hasta que se guarde",
+            Icono::Exclamacion);
     }
     const Serie_En_Linea* const serie = Serie_De(*familia);
     receptor = serie ? serie->receptor() : nullptr;
@@ -153,7 +154,8 @@ void Descarga::Recibir_Byte()
 QString Descarga::Etiqueta_Recibiendo() const
 {
     if (diario.Fallo().isEmpty()) return RECIBIENDO;
-    return RECIBIENDO + " No se puede escribir lo recibido, que queda en memoria: " + diario.Fallo();
+    return RECIBIENDO +
+           " No se puede escribir lo recibido, que queda en memoria: " + diario.Fallo();
 }
 
 void Descarga::Saltar_a_Sesiones()
@@ -264,9 +266,10 @@ void Descarga::Guardar_En_Otra_Carpeta()
 
 void Descarga::Avisar_Sin_Guardar() const
 {
-    Informe_Error("No se ha podido guardar la descarga; " +
-                      (perdido ? QStringLiteral("lo recibido no se ha podido conservar") : SE_CONSERVA),
-                  *resultado.error);
+    Informe_Error(
+        "No se ha podido guardar la descarga; " +
+            (perdido ? QStringLiteral("lo recibido no se ha podido conservar") : SE_CONSERVA),
+        *resultado.error);
 }
 
 QString Descarga::Que_Falta() const

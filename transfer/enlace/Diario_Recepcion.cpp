@@ -110,8 +110,8 @@ bool Diario_Recepcion::Entregar()
     if (!al_disco.isActive()) al_disco.start();
     bool bien = Abrir();
     if (bien) {
-        const qint64 escritos = fichero.write(bytes.constData() + entregados,
-                                              bytes.size() - entregados);
+        const qint64 escritos =
+            fichero.write(bytes.constData() + entregados, bytes.size() - entregados);
         entregados += qMax<qint64>(escritos, 0);
         bien = entregados == bytes.size();
     }

@@ -34,5 +34,6 @@ bool Es_Repeticion(QStringView datos_mala, QStringView suma_mala, QStringView da
                    QStringView suma_buena)
 {
     if (datos_mala == datos_buena) return true;
-    return suma_mala == suma_buena && 4 * En_Comun(datos_mala, datos_buena) >= 3 * datos_buena.size();
+    return suma_mala == suma_buena &&
+           4 * En_Comun(datos_mala, datos_buena) >= 3 * datos_buena.size();
 }

@@ -61,7 +61,8 @@ void Apartar(const QString& ruta)
         fichero.setFileTime(Reloj_Actual().Ahora(), QFileDevice::FileModificationTime);
     fichero.close();
     if (!fichero.rename(apartada))
-        Anotar("Rescate", "No se puede cambiar el nombre de " + ruta + ": " + fichero.errorString());
+        Anotar("Rescate",
+               "No se puede cambiar el nombre de " + ruta + ": " + fichero.errorString());
 }
 
 QStringList Lineas_De(const QString& sesion)
@@ -102,8 +103,9 @@ void Ofrecer_Sustituir(const Rescate& diario, const QStringList& enteras)
     for (const QString& torso : Torsos(diario, enteras)) {
         const qsizetype lineas = Lineas_De(torso).size();
         if (Interfaz_Actual().Preguntar(
-                QStringLiteral("La sesión %1 quedó a medias de esta misma recepción (%2 registros), "
-                               "¿ Desea eliminarla ?")
+                QStringLiteral(
+                    "La sesión %1 quedó a medias de esta misma recepción (%2 registros), "
+                    "¿ Desea eliminarla ?")
                     .arg(torso)
                     .arg(lineas)))
             Eliminar_Sesion(torso.toLongLong());
@@ -189,8 +191,8 @@ Resultado_Recepcion Rescatar(const QString& fichero, Datos_Recepcion datos, bool
         const Contenido_Diario contenido = Leer_Contenido(fichero, datos.maquina);
         datos.buffer = contenido.buffer;
         if (datos.buffer.isEmpty())
-            throw Error_Ejecucion(62,
-                                  "El fichero " + fichero + " no contiene ningún registro completo");
+            throw Error_Ejecucion(62, "El fichero " + fichero +
+                                          " no contiene ningún registro completo");
         r = Procesar_Recepcion(datos);
         r.faltas += contenido.faltas;
         if (!r.guardada || r.error || r.faltas.interrumpida) return r;

@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/krt300.md
+
 #include "transfer/enlace/Emisor.h"
 
 /// Sends to a KRT300 or PX7 in acknowledged frames. Coordinates: opening, header, blocks, closing;

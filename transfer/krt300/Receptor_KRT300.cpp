@@ -20,7 +20,8 @@ bool Trama_Buena(QStringView trama)
 
 bool Es_La_Misma(QStringView mala, QStringView otra)
 {
-    const qsizetype suma = std::min(LARGO_SUMA, mala.size()), suma_otra = std::min(LARGO_SUMA, otra.size());
+    const qsizetype suma = std::min(LARGO_SUMA, mala.size()),
+                    suma_otra = std::min(LARGO_SUMA, otra.size());
     return Es_Repeticion(mala.chopped(suma), mala.last(suma), otra.chopped(suma_otra),
                          otra.last(suma_otra));
 }
@@ -67,8 +68,9 @@ void Receptor_KRT300::Repasar_Rechazadas(const QString& buena)
     const int cifra = buena[buena.size() - LARGO_COLA].digitValue();
     const bool primera = buenas++ == 0;
     const int debida = primera ? 0 : (ultima_cifra + 1) % CIFRAS;
-    const int irreconocibles = int(std::ranges::count_if(
-        std::exchange(rechazadas, {}), [&](const QString& mala) { return !Es_La_Misma(mala, buena); }));
+    const int irreconocibles =
+        int(std::ranges::count_if(std::exchange(rechazadas, {}),
+                                  [&](const QString& mala) { return !Es_La_Misma(mala, buena); }));
     const int salto = cifra < 0 ? CIFRAS : (cifra - debida + CIFRAS) % CIFRAS;
     if (buenas == 2 && salto == 0) en_duda = 0;
     if (primera && salto == 0)

@@ -27,8 +27,8 @@ private:
 
     bool en_trama = false;
     bool acabada = false;
-    QString trama;                   ///< inner text of the open frame
-    QStringList rechazadas;          ///< refused since the last good frame, each of them once
-    int perdidas = 0, en_duda = 0;   ///< refused for good; so, unless the digits turn out to count
+    QString trama;                    ///< inner text of the open frame
+    QStringList rechazadas;           ///< refused since the last good frame, each of them once
+    int perdidas = 0, en_duda = 0;    ///< refused for good; so, unless the digits turn out to count
     int buenas = 0, ultima_cifra = 0; ///< good frames, and the digit of the last one
 };

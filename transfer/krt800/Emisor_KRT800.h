@@ -1,5 +1,7 @@
 #pragma once
 
+// The form: docs/formas/krt800.md
+
 #include "transfer/enlace/Emisor.h"
 
 /// Sends to a KRT800: one character after another with a pause behind each, which is all the flow

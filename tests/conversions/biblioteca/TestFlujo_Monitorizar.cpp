@@ -55,17 +55,21 @@ void TestFlujo_Monitorizar::cleanup()
 
 void TestFlujo_Monitorizar::pide_sus_dos_ficheros()
 {
-    guion->ficheros = {Fichero_Elegido{Muestra("lecturas.dat")}, Fichero_Elegido{Muestra("coord.xyz")}};
+    guion->ficheros = {Fichero_Elegido{Muestra("lecturas.dat")},
+                       Fichero_Elegido{Muestra("coord.xyz")}};
     Flujo_Monitorizar f;
     QVERIFY(f.Abrir());
     QCOMPARE(guion->peticiones.size(), 2);
     QCOMPARE(guion->peticiones[0].titulo, QString("Seleccione Fichero de Lecturas"));
-    QCOMPARE(guion->peticiones[0].filtro, QString("ASCII (*.dat)|*.dat|Todos los archivos (*.*)|*.*"));
+    QCOMPARE(guion->peticiones[0].filtro,
+             QString("ASCII (*.dat)|*.dat|Todos los archivos (*.*)|*.*"));
     QCOMPARE(guion->peticiones[1].titulo, QString("Seleccione Fichero de Coordenadas"));
-    QCOMPARE(guion->peticiones[1].filtro, QString("ASCII (*.xyz)|*.xyz|Todos los archivos (*.*)|*.*"));
+    QCOMPARE(guion->peticiones[1].filtro,
+             QString("ASCII (*.xyz)|*.xyz|Todos los archivos (*.*)|*.*"));
     const QStringList cabecera = Ansi::A_Texto(Bytes(Muestra("cabecera.dat"))).split("\r\n");
     QVERIFY(!cabecera[0].isEmpty());
-    QCOMPARE((QStringList{f.textos.temperatura, f.textos.fecha, f.textos.hora}), cabecera.mid(0, 3));
+    QCOMPARE((QStringList{f.textos.temperatura, f.textos.fecha, f.textos.hora}),
+             cabecera.mid(0, 3));
 }
 
 void TestFlujo_Monitorizar::cancelar_no_sigue()
@@ -97,7 +101,8 @@ void TestFlujo_Monitorizar::el_texto_es_el_de_la_muestra()
     guion->ficheros = {Fichero_Elegido{p->Ruta("r.txt")}};
     QVERIFY(De_Muestra().Aceptar());
     QCOMPARE(guion->peticiones[0].titulo, QString("Seleccione Fichero de Resultados"));
-    QCOMPARE(guion->peticiones[0].filtro, QString("ASCII (*.txt)|*.txt|Todos los archivos (*.*)|*.*"));
+    QCOMPARE(guion->peticiones[0].filtro,
+             QString("ASCII (*.txt)|*.txt|Todos los archivos (*.*)|*.*"));
     QVERIFY(guion->peticiones[0].guardar);
     QCOMPARE(guion->Textos(), QStringList{"Fichero generado correctamente"});
     QCOMPARE(p->Leer("r.txt"), Bytes(Muestra("resultados.txt")));
@@ -158,7 +163,8 @@ void TestFlujo_Monitorizar::mas_de_cien_lineas_no_caben()
 {
     const auto con = [&](int lineas, const QByteArray& linea) {
         p->Escribir("t.txt", QByteArray(linea + "\r\n").repeated(lineas));
-        return Numero_De_Error([&] { Escribir_Libro_Resultados(p->Ruta("t.txt"), p->Ruta("t.xls")); });
+        return Numero_De_Error(
+            [&] { Escribir_Libro_Resultados(p->Ruta("t.txt"), p->Ruta("t.xls")); });
     };
     QCOMPARE(con(100, "a;b"), 0);
     QCOMPARE(Abrir_Libro(p->Ruta("t.xls")).Hoja(0).Rango_Con_Valores().fila_hasta, 100);

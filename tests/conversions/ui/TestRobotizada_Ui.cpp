@@ -55,7 +55,8 @@ void TestRobotizada_Ui::los_textos_y_la_cabecera()
     QStringList rotulos;
     for (const QLabel* r : f.findChildren<QLabel*>())
         rotulos << r->text();
-    QCOMPARE(rotulos, (QStringList{"Trabajo", "Descripción", "Operario", "Temperatura", "Fecha", "Hora"}));
+    QCOMPARE(rotulos,
+             (QStringList{"Trabajo", "Descripción", "Operario", "Temperatura", "Fecha", "Hora"}));
 }
 
 void TestRobotizada_Ui::aceptar_escribe_lo_elegido()

@@ -245,8 +245,18 @@ void TestEscritor_Biff::lo_que_se_imprime()
     // xlrd knows no names of the plain forms: the record is a built-in name of one character, whose
     // formula of seven bytes is the area, rows before columns.
     const QByteArray bytes = Escribir_Libro(libro, Version_Excel(version));
-    QVERIFY(bytes.contains(QByteArray::fromHex("1802" "0e00" "2000" "00" "01" "0700" "06"
-                                               "25" "0100" "2c01" "01" "07")));
+    QVERIFY(bytes.contains(QByteArray::fromHex("1802"
+                                               "0e00"
+                                               "2000"
+                                               "00"
+                                               "01"
+                                               "0700"
+                                               "06"
+                                               "25"
+                                               "0100"
+                                               "2c01"
+                                               "01"
+                                               "07")));
 }
 
 void TestEscritor_Biff::una_hoja_vacia()

@@ -66,8 +66,8 @@ void TestEscritor_Excel::el_libro_es_el_de_siempre_data()
     QTest::addColumn<bool>("numeros");
     for (const Forma_Excel& f : Formas_Excel())
         for (const bool numeros : {false, true})
-            QTest::newRow(qPrintable(QStringView(f.nombre).toString() +
-                                     (numeros ? ", numbers" : "")))
+            QTest::newRow(
+                qPrintable(QStringView(f.nombre).toString() + (numeros ? ", numbers" : "")))
                 << QStringView(f.nombre).toString() << numeros;
 }
 
@@ -145,17 +145,19 @@ void TestEscritor_Excel::los_fallos_se_dicen_data()
     QTest::addColumn<Icono>("icono");
     const QString general = "Se produjo un error al realizar la exportación a Formato 'EXCEL'\r(";
     const QString sin_nombre = "Debe especificar un nombre de fichero válido";
-    QTest::newRow("name") << "a*b.xls" << "Excel 8.0" << true << sin_nombre << Icono::Exclamacion;
-    QTest::newRow("template") << "s.xls" << "Excel 8.0" << false << sin_nombre
-                              << Icono::Exclamacion;
-    QTest::newRow("no version") << "s.xls" << "" << true
+    QTest::newRow("name") << "a*b.xls"
+                          << "Excel 8.0" << true << sin_nombre << Icono::Exclamacion;
+    QTest::newRow("template") << "s.xls"
+                              << "Excel 8.0" << false << sin_nombre << Icono::Exclamacion;
+    QTest::newRow("no version") << "s.xls"
+                                << "" << true
                                 << "El fichero 'plantilla.xls' no ha sido encontrado,asegurese "
                                    "de\r\nque exista en el directorio 'DAT' de su aplicación."
                                 << Icono::Critico;
-    QTest::newRow("version") << "s.xls" << "Excel 9" << true << general + "3170) "
-                             << Icono::Critico;
-    QTest::newRow("folder") << "no/s.xls" << "Excel 8.0" << true << general + "76) "
-                            << Icono::Critico;
+    QTest::newRow("version") << "s.xls"
+                             << "Excel 9" << true << general + "3170) " << Icono::Critico;
+    QTest::newRow("folder") << "no/s.xls"
+                            << "Excel 8.0" << true << general + "76) " << Icono::Critico;
 }
 
 void TestEscritor_Excel::los_fallos_se_dicen()
@@ -164,8 +166,8 @@ void TestEscritor_Excel::los_fallos_se_dicen()
     QFETCH(QString, conexion);
     QFETCH(bool, plantilla);
     if (!plantilla) QVERIFY(QFile::remove(p->Ruta("DAT/plantilla.xls")));
-    QVERIFY(!Escribir("XLS", p->Ruta("ficheros/" + fichero), Datos(FILAS),
-                      Opciones(conexion, false)));
+    QVERIFY(
+        !Escribir("XLS", p->Ruta("ficheros/" + fichero), Datos(FILAS), Opciones(conexion, false)));
     QCOMPARE(guion->avisos.size(), 1);
     QFETCH(QString, texto);
     QVERIFY2(guion->avisos[0].texto.startsWith(texto), qPrintable(guion->avisos[0].texto));

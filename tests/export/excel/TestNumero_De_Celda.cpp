@@ -42,10 +42,30 @@ void TestNumero_De_Celda::los_numeros_llanos()
 void TestNumero_De_Celda::lo_demas_es_texto_data()
 {
     QTest::addColumn<QString>("texto");
-    for (const char* texto :
-         {"", " ", "NAN", "inf", "1E5", "007", "00.5", "-01", "12,5", ".5", "5.", "-", "+", "--1",
-          "1 2", "1.2.3", "0x10", "1-", "1234567890123456", "0.1234567890123456",
-          "0.0000000000000000000000000000001", "\t1", "P1", "1.5m"})
+    for (const char* texto : {"",
+                              " ",
+                              "NAN",
+                              "inf",
+                              "1E5",
+                              "007",
+                              "00.5",
+                              "-01",
+                              "12,5",
+                              ".5",
+                              "5.",
+                              "-",
+                              "+",
+                              "--1",
+                              "1 2",
+                              "1.2.3",
+                              "0x10",
+                              "1-",
+                              "1234567890123456",
+                              "0.1234567890123456",
+                              "0.0000000000000000000000000000001",
+                              "\t1",
+                              "P1",
+                              "1.5m"})
         QTest::newRow(texto) << texto;
     QTest::newRow("digits of another script") << QString(QChar(0x0663));
 }

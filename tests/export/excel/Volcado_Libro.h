@@ -64,7 +64,8 @@ inline QStringList Volcar_Libro(const Libro_Excel& libro, const QString& nombre_
 inline QStringList Volcar_Con_Xlrd(const QString& fichero, const QStringList& opciones = {})
 {
     QProcess python;
-    python.start("/usr/bin/python3", QStringList{RAIZ_FUENTES "/tests/export/excel/volcar_xls.py", fichero} + opciones);
+    python.start("/usr/bin/python3",
+                 QStringList{RAIZ_FUENTES "/tests/export/excel/volcar_xls.py", fichero} + opciones);
     python.waitForFinished(600000);
     const QByteArray quejas = python.readAllStandardError();
     if (python.exitCode() != 0 || !quejas.isEmpty()) return {QString::fromUtf8(quejas)};

@@ -70,8 +70,8 @@ void TestEscritor_MDB::dos_nombres_que_se_vuelven_uno()
 
 void TestEscritor_MDB::las_filas_marcadas_pierden_su_marca()
 {
-    QVERIFY(Escribir("MDB", Ruta(), Datos({{"\6x", "a"}, {"\5", "b"}, {"c", "\6d"}}, {"A", "B"}),
-                     {}));
+    QVERIFY(
+        Escribir("MDB", Ruta(), Datos({{"\6x", "a"}, {"\5", "b"}, {"c", "\6d"}}, {"A", "B"}), {}));
     const QList<QList<Lectura_Jet::Celda>> filas = Lectura_Jet::Cortar(p->Leer("ficheros/s.mdb"));
     QCOMPARE(filas.size(), 3);
     QCOMPARE(*filas[0][0], QString("x"));
@@ -103,8 +103,8 @@ void TestEscritor_MDB::los_fallos_se_dicen_data()
     QTest::addColumn<QString>("texto");
     QTest::addColumn<Icono>("icono");
     const QString general = "Se produjo un error al Exportar los Datos a .MDB\r(";
-    QTest::newRow("name") << "a*b.mdb" << "Debe especificar un nombre de fichero válido"
-                          << Icono::Exclamacion;
+    QTest::newRow("name") << "a*b.mdb"
+                          << "Debe especificar un nombre de fichero válido" << Icono::Exclamacion;
     QTest::newRow("folder") << "no/s.mdb" << general + "3044) " << Icono::Critico;
     QTest::newRow("a folder") << "." << general + "75) " << Icono::Critico;
 }

@@ -186,7 +186,10 @@ void TestEscritor_Nivel::cada_estilo_sale_igual()
     QStringList lineas{"b,01,OBRA,RN1,1000,010224,0800,"};
     QString esperado;
     for (qsizetype i = 0; i < letras.size(); ++i) {
-        lineas << QString("%1,01,%2,2500,1250,P%3,4,010224,081%3,C,").arg(letras[i]).arg(1000 + i).arg(i);
+        lineas << QString("%1,01,%2,2500,1250,P%3,4,010224,081%3,C,")
+                      .arg(letras[i])
+                      .arg(1000 + i)
+                      .arg(i);
         // Unit 1: thousandths, hundredths, thousandths.
         esperado += QString("   %1       P%2   1.%3    25.000      1.2500 08:1%2\r\n")
                         .arg(letras[i])
@@ -201,10 +204,12 @@ void TestEscritor_Nivel::cada_estilo_sale_igual()
 void TestEscritor_Nivel::un_valor_largo_pierde_su_principio()
 {
     Poner_Formato(*p, "G", {"Trabajo"}, {"Punto", "Fecha", "Hora"});
-    Poner_Sesion(*p, 2,
-                 {"b,01,UN TRABAJO DE NOMBRE LARGO,RN1,", "g,01,1000,2500,1250,PUNTO12345,4,1/2/24,9,C,"});
+    Poner_Sesion(
+        *p, 2,
+        {"b,01,UN TRABAJO DE NOMBRE LARGO,RN1,", "g,01,1000,2500,1250,PUNTO12345,4,1/2/24,9,C,"});
     // Left-aligned the end goes, right-aligned the beginning; a date of another form stays.
-    QCOMPARE(Texto({.texto = ";\6N"}, "G", 2), QString("UN TRABAJO DE NO\r\n\r\nNTO12345;  1/2/24;    9\r\n"));
+    QCOMPARE(Texto({.texto = ";\6N"}, "G", 2),
+             QString("UN TRABAJO DE NO\r\n\r\nNTO12345;  1/2/24;    9\r\n"));
 }
 
 void TestEscritor_Nivel::sin_detalle_sale_la_cabecera()
@@ -225,16 +230,23 @@ void TestEscritor_Nivel::sin_cabecera_sale_el_detalle()
 void TestEscritor_Nivel::un_campo_sin_sitio_queda_vacio()
 {
     Poner_Formato(*p, "G", {}, {"Punto", "Sin sitio", "Desconocido", "Lectura"});
-    QVERIFY(Texto({.texto = ";\6S"}, "G").startsWith("   Punto;Sin s;  Lectura\r\n\r\n     RN1;     ;  1.15384\r\n") ||
-            Texto({.texto = ";\6S"}, "G").startsWith("   Punto;sitio;  Lectura\r\n\r\n     RN1;     ;  1.15384\r\n"));
+    QVERIFY(Texto({.texto = ";\6S"}, "G")
+                .startsWith("   Punto;Sin s;  Lectura\r\n\r\n     RN1;     ;  1.15384\r\n") ||
+            Texto({.texto = ";\6S"}, "G")
+                .startsWith("   Punto;sitio;  Lectura\r\n\r\n     RN1;     ;  1.15384\r\n"));
 }
 
 void TestEscritor_Nivel::el_formato_de_otra_familia_no_se_mezcla()
 {
     Poner_Formato(*p, "F", {"Hora"}, {"Cota"}, "KRT300");
-    p->Fila("Campos", {{"Maquina", "KRT300"}, {"ID", "1"}, {"Campo", "Cota"}, {"Orden", 1}, {"Digitos", 3},
+    p->Fila("Campos", {{"Maquina", "KRT300"},
+                       {"ID", "1"},
+                       {"Campo", "Cota"},
+                       {"Orden", 1},
+                       {"Digitos", 3},
                        {"Caracter", "9"}});
-    QCOMPARE(Texto({.texto = " \6S", .nivel = TODO}), Ansi::A_Texto(Patron("nivel_txf_espacio.txt")));
+    QCOMPARE(Texto({.texto = " \6S", .nivel = TODO}),
+             Ansi::A_Texto(Patron("nivel_txf_espacio.txt")));
 }
 
 void TestEscritor_Nivel::el_fin_se_halla_por_sus_cifras()
@@ -242,8 +254,12 @@ void TestEscritor_Nivel::el_fin_se_halla_por_sus_cifras()
     Poner_Formato(*p, "G", {}, {"Punto"});
     Poner_Sesion(*p, 2, {"u,02,2111261030,NOTA,"});
     QCOMPARE(Texto({.texto = " \6N"}, "G", 2),
-             QString("\r\nFin de Nivelacion     Fecha    Hora  \r\n" + QString(21, ' ') + "21/11/26 10:30\r\n"));
-    QVERIFY(Exportar("Xls", {.texto = "N\6" "Excel 8.0"}, "G", 2));
+             QString("\r\nFin de Nivelacion     Fecha    Hora  \r\n" + QString(21, ' ') +
+                     "21/11/26 10:30\r\n"));
+    QVERIFY(Exportar("Xls",
+                     {.texto = "N\6"
+                               "Excel 8.0"},
+                     "G", 2));
     QCOMPARE(Filas_Del_Libro(Abrir_Libro(Ruta())),
              QString("\nFin de Nivelacion|Fecha   Hora  ||Comentario\n|21/11/26|10:30|NOTA\n"));
 }
@@ -253,7 +269,10 @@ void TestEscritor_Nivel::los_fallos_se_dicen()
     Avance_Exportar avance;
     const auto exportar = [&](const QString& tipo, const QString& fichero) {
         return Exportar_Sesion(1, "NV400", 0, tipo, "F", p->Ruta("ficheros/" + fichero),
-                               {.texto = tipo == u"Xls" ? "N\6" "Excel 8.0" : " \6N"}, avance);
+                               {.texto = tipo == u"Xls" ? "N\6"
+                                                          "Excel 8.0"
+                                                        : " \6N"},
+                               avance);
     };
     for (const char* tipo : {"TxF", "Txt"}) {
         guion->avisos.clear();
@@ -265,7 +284,8 @@ void TestEscritor_Nivel::los_fallos_se_dicen()
     }
     guion->avisos.clear();
     QVERIFY(!exportar("Xls", "no/s"));
-    QVERIFY(guion->avisos[0].texto.startsWith("Se produjo un error al realizar la exportación a Formato 'EXCEL'"));
+    QVERIFY(guion->avisos[0].texto.startsWith(
+        "Se produjo un error al realizar la exportación a Formato 'EXCEL'"));
 }
 
 PRUEBA(TestEscritor_Nivel)

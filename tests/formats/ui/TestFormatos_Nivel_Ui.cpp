@@ -83,7 +83,8 @@ void TestFormatos_Nivel_Ui::los_textos_son_los_suyos()
     QCOMPARE(Hijo<QCheckBox>(e, "Check1").text(), QString(" Incluir Cabeceras"));
     auto& n = Dialogos::Unico<FrmNuevoFormatoNV400>();
     QCOMPARE(Hijo<QCheckBox>(n, "Check2").text(), QString(" Modificable"));
-    for (const QWidget* f : {static_cast<QWidget*>(&m), static_cast<QWidget*>(&e), static_cast<QWidget*>(&n)}) {
+    for (const QWidget* f :
+         {static_cast<QWidget*>(&m), static_cast<QWidget*>(&e), static_cast<QWidget*>(&n)}) {
         auto& combo = Hijo<QComboBox>(*f, "CbEstructura");
         QCOMPARE(combo.itemText(0), QString("Encabezado del Archivo"));
         QCOMPARE(combo.itemData(0).toString(), QString("0"));
@@ -159,8 +160,10 @@ void TestFormatos_Nivel_Ui::nuevo_se_guarda_con_sus_mitades()
     });
     Peticiones_De_Formatos().Mostrar_Nuevo_NV400(modelo);
     QCOMPARE(salidas.size(), 1);
-    QCOMPARE(Campos_Mitad(*Base_Datos, "NV400", "Mío", Mitad_Nivel::Cabecera), QStringList{"Trabajo"});
-    QCOMPARE(Campos_Mitad(*Base_Datos, "NV400", "Mío", Mitad_Nivel::Detalle), QStringList{"Lectura"});
+    QCOMPARE(Campos_Mitad(*Base_Datos, "NV400", "Mío", Mitad_Nivel::Cabecera),
+             QStringList{"Trabajo"});
+    QCOMPARE(Campos_Mitad(*Base_Datos, "NV400", "Mío", Mitad_Nivel::Detalle),
+             QStringList{"Lectura"});
 }
 
 void TestFormatos_Nivel_Ui::mantenimiento_guarda_al_cambiar_de_mitad()

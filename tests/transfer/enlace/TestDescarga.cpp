@@ -499,7 +499,9 @@ void TestDescarga::lo_que_falta_conserva_y_se_dice_data()
     const auto linea = [](const QByteArray& carga) {
         return carga + Suma_Nivel(QString::fromLatin1(carga)).toLatin1() + ",\r\n";
     };
-    const QByteArray mala = "\x02_A33" "1999\x03", eot = "\x04";
+    const QByteArray mala = "\x02_A33"
+                            "1999\x03",
+                     eot = "\x04";
     const QByteArray a = Trama("_+P1_A11"), b = Trama("_A22", '1'), c = Trama("_A33", '2');
     QTest::newRow("KRT300 entero") << "KRT300" << 0 << a + b + eot << "" << 2;
     QTest::newRow("KRT300 EOT en una trama")
@@ -521,9 +523,10 @@ void TestDescarga::lo_que_falta_conserva_y_se_dice_data()
                                     << "13 bytes detrás del último fin de línea" << 0;
     QTest::newRow("KRT800 sólo CR") << "KRT800" << 0 << "JOB 1\rSS 1,2\r" + eot
                                     << "13 bytes detrás del último fin de línea" << 0;
-    QTest::newRow("KRT800 sin el último fin")
-        << "KRT800" << 0 << "JOB 1\r\nSS 1,2" + eot << "6 bytes detrás del último fin de línea" << 1;
-    QTest::newRow("NV400 entero") << "NV400" << 0 << linea("g,1,") + "Z,&,\r\n" << "" << 1;
+    QTest::newRow("KRT800 sin el último fin") << "KRT800" << 0 << "JOB 1\r\nSS 1,2" + eot
+                                              << "6 bytes detrás del último fin de línea" << 1;
+    QTest::newRow("NV400 entero") << "NV400" << 0 << linea("g,1,") + "Z,&,\r\n"
+                                  << "" << 1;
     QTest::newRow("NV400 no repetida") << "NV400" << 0 << linea("g,1,") + "i,2,#,\r\nZ,&,\r\n"
                                        << "1 línea rechazada y no repetida" << 1;
     QTest::newRow("NV400 todas rechazadas") << "NV400" << 0 << QByteArray("i,2,#,\r\nZ,&,\r\n")
@@ -582,7 +585,8 @@ void TestDescarga::un_fallo_al_guardar_se_dice()
     Nueva(clave);
     descarga->BtnIniciar();
     puerto->Llegan(bytes);
-    QCOMPARE(descarga->Etiqueta(), QString("La descarga no se ha guardado; lo recibido se conserva"));
+    QCOMPARE(descarga->Etiqueta(),
+             QString("La descarga no se ha guardado; lo recibido se conserva"));
     QCOMPARE(interfaz->avisos.last().texto,
              "No se ha podido guardar la descarga; lo recibido se conserva\r(6) " +
                  Descripcion_Error(6));
@@ -714,8 +718,7 @@ void TestDescarga::un_puerto_que_no_envia_se_dice()
     Nueva();
     puerto->falla_tras = 0;
     descarga->BtnIniciar();
-    QCOMPARE(descarga->Etiqueta(),
-             QString("No se puede enviar por el puerto; compruebe el cable"));
+    QCOMPARE(descarga->Etiqueta(), QString("No se puede enviar por el puerto; compruebe el cable"));
     QVERIFY(interfaz->avisos.isEmpty());
 }
 

@@ -27,8 +27,9 @@ void TestRecepcion::cada_falta_cuenta_y_se_dice_data()
     fila({.sin_fin = 30}, "30 bytes detrás del último fin de línea");
     fila({.cortadas = 2}, "2 registros cortados al ancho de su columna");
     fila({.sin_sesion = 4}, "4 líneas sin sesión");
-    fila({.sin_acabar = true}, "el aparato no dio por acabados los datos y el último registro puede "
-                               "estar incompleto");
+    fila({.sin_acabar = true},
+         "el aparato no dio por acabados los datos y el último registro puede "
+         "estar incompleto");
     fila({.interrumpida = true}, "el guardado se canceló a medias");
     fila({.rechazadas = 1, .cortadas = 1},
          "1 trama rechazada y no repetida, 1 registro cortado al ancho de su columna");

@@ -40,7 +40,10 @@ private:
     QString Escribir(const QByteArray& bytes, const QString& clave = "KRT300");
     static QByteArray Bajo_Tramas(const QByteArray& libro);
     static Datos_Recepcion Datos(const QString& maquina = "KRT300", int ope = 0);
-    QStringList En_Log() const { return QDir(En_Instalacion("LOG")).entryList({"rec*"}, QDir::Files); }
+    QStringList En_Log() const
+    {
+        return QDir(En_Instalacion("LOG")).entryList({"rec*"}, QDir::Files);
+    }
 
     std::unique_ptr<Base_De_Prueba> base;
     std::unique_ptr<Interfaz_Guion> interfaz;
@@ -280,9 +283,10 @@ void TestRescate::un_torso_se_ofrece_sustituir()
     interfaz->respuestas = {true};
     const Resultado_Recepcion r = Rescatar(f, Datos());
     QCOMPARE(r.sesiones, QStringList{"5"});
-    QCOMPARE(interfaz->Textos(),
-             QStringList{"La sesión 4 quedó a medias de esta misma recepción (2 registros), ¿ Desea "
-                         "eliminarla ?"});
+    QCOMPARE(
+        interfaz->Textos(),
+        QStringList{"La sesión 4 quedó a medias de esta misma recepción (2 registros), ¿ Desea "
+                    "eliminarla ?"});
     QCOMPARE(base->Columna("SELECT ID FROM Sesiones"), QStringList{"5"});
     QCOMPARE(base->Columna("SELECT DISTINCT ID FROM Registros"), QStringList{"5"});
 }
@@ -296,8 +300,8 @@ void TestRescate::lo_que_no_es_su_torso_no_se_toca()
     base->Fila("Sesiones", {{"ID", 3}, {"Fecha", despues}, {"OPE", 0}, {"Maquina", "PX7"}});
     base->Fila("Sesiones", {{"ID", 4}, {"Fecha", despues}, {"OPE", 0}, {"Maquina", "KRT300"}});
     base->Fila("Registros", {{"ID", 4}, {"Secuencia", 1}, {"Punto", "P1"}, {"Datos", "A9999"}});
-    base->Fila("Sesiones", {{"ID", 5}, {"Fecha", despues}, {"OPE", 0}, {"Maquina", "KRT300"},
-                            {"NPuntos", 1}});
+    base->Fila("Sesiones",
+               {{"ID", 5}, {"Fecha", despues}, {"OPE", 0}, {"Maquina", "KRT300"}, {"NPuntos", 1}});
     Rescatar(f, Datos());
     QVERIFY(interfaz->avisos.isEmpty());
     QCOMPARE(base->Columna("SELECT ID FROM Sesiones").size(), 6);

@@ -110,9 +110,8 @@ void TestAlmacen_KRT300::lo_que_no_cabe_se_corta_y_se_cuenta()
     QVERIFY(r.guardada && !r.Completa());
     QCOMPARE(r.faltas.cortadas, 2);
     QCOMPARE(r.filas, 4);
-    QCOMPARE(banco->Filas(),
-             (QStringList{"1/1/P1/A1/", "1/2/P1/A" + QString(254, 'x') + "/", "1/3/P1/A3/",
-                          "1/4/" + QString(50, 'p') + "/A4/"}));
+    QCOMPARE(banco->Filas(), (QStringList{"1/1/P1/A1/", "1/2/P1/A" + QString(254, 'x') + "/",
+                                          "1/3/P1/A3/", "1/4/" + QString(50, 'p') + "/A4/"}));
     QCOMPARE(banco->Puntos(), 2);
     QVERIFY(banco->interfaz.avisos.isEmpty());
     QCOMPARE(banco->Procesar("KRT300", 0, "_A" + QString(254, 'x')).Completa(), true);
@@ -162,7 +161,8 @@ void TestAlmacen_KRT300::un_fallo_al_guardar_no_cuenta_puntos()
     QVERIFY(banco->interfaz.avisos.isEmpty());
     Base_Datos = Base::Abrir(banco->base.Ruta("MDB/EstTotal.mdb"));
     QCOMPARE(r.sesiones, QStringList{"1"});
-    QCOMPARE(banco->base.Columna("SELECT ID FROM Sesiones WHERE NPuntos IS NULL"), QStringList{"1"});
+    QCOMPARE(banco->base.Columna("SELECT ID FROM Sesiones WHERE NPuntos IS NULL"),
+             QStringList{"1"});
 }
 
 void TestAlmacen_KRT300::sin_numero_de_sesion_se_dice_por_que()

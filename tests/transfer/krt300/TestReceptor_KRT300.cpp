@@ -218,8 +218,8 @@ void TestReceptor_KRT300::cuenta_las_no_repetidas_data()
         << Trama("_A0001") + Rota(Trama("_A0002"), 4) + Trama("_A0002") << 0;
     QTest::newRow("cifras que no cuentan, no repetida")
         << Trama("_A0001") + Rota(Trama("_A0002"), 4) + Trama("_A0003") << 1;
-    QTest::newRow("cifras que no cuentan, la primera") << Rota(Trama("_A0001"), 3) + Trama("_A0002")
-                                                       << 1;
+    QTest::newRow("cifras que no cuentan, la primera")
+        << Rota(Trama("_A0001"), 3) + Trama("_A0002") << 1;
     QTest::newRow("fin de trama perdido") << a + b.chopped(1) + b + b + c << 0;
     QByteArray vuelta;
     for (char n = 0; n < 25; ++n)

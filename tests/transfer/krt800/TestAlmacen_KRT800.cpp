@@ -80,8 +80,8 @@ void TestAlmacen_KRT800::una_linea_larga_se_corta_y_avisa_del_formato()
         banco->Procesar("KRT800", 0, "JOB uno\r\n" + QString(256, 'x') + "\r\nJOB dos\r\n");
     QVERIFY(r.guardada && !r.Completa());
     QCOMPARE(r.faltas.cortadas, 1);
-    QCOMPARE(banco->Filas(), (QStringList{"1/1//JOB uno/", "1/2//" + QString(255, 'x') + "/",
-                                          "1/3//JOB dos/"}));
+    QCOMPARE(banco->Filas(),
+             (QStringList{"1/1//JOB uno/", "1/2//" + QString(255, 'x') + "/", "1/3//JOB dos/"}));
     QCOMPARE(banco->interfaz.avisos.size(), 1);
     QCOMPARE(banco->interfaz.avisos[0].titulo, QString("Error de Formato"));
     QCOMPARE(banco->interfaz.avisos[0].icono, Icono::Critico);
