@@ -66,7 +66,7 @@ private:
         }
         return filas;
     }
-    static constexpr Opciones_Nivel TODO{true, true};
+    static constexpr Opciones_Nivel ENTERO{true, true};
     std::unique_ptr<Base_De_Prueba> p;
     std::unique_ptr<Interfaz_Guion> guion;
 };
@@ -115,7 +115,7 @@ void TestEscritor_Nivel::el_libro_es_el_calculado()
 {
     for (const Forma_Excel& forma : Formas_Excel()) {
         const QString conexion = QStringView(forma.nombre).toString();
-        QVERIFY(Exportar("Xls", {.texto = Opciones_Libro{true, conexion}.Unir(), .nivel = TODO}));
+        QVERIFY(Exportar("Xls", {.texto = Opciones_Libro{true, conexion}.Unir(), .nivel = ENTERO}));
         QCOMPARE(Filas_Del_Libro(Abrir_Libro(Ruta())),
                  QString::fromUtf8(Patron("nivel_xls_filas.txt")));
     }
@@ -138,7 +138,7 @@ void TestEscritor_Nivel::el_libro_con_numeros()
 
 void TestEscritor_Nivel::la_base_es_la_calculada()
 {
-    QVERIFY(Exportar("mdb", {.nivel = TODO}));
+    QVERIFY(Exportar("mdb", {.nivel = ENTERO}));
     QCOMPARE(Lectura_Jet::Mdbtools("mdb-export", {"-Q", "-d", "|", Ruta(), "Datos"}),
              QString::fromUtf8(Patron("nivel_mdb_filas.txt")));
 }
@@ -168,7 +168,7 @@ void TestEscritor_Nivel::las_casillas_quitan_sus_lineas()
 void TestEscritor_Nivel::sin_anillos_no_hay_sus_titulos()
 {
     Poner_Sesion(*p, 2, Libreta("campo_nv400_libre.txt"));
-    const QString texto = Texto({.texto = " \6S", .nivel = TODO}, "F", 2);
+    const QString texto = Texto({.texto = " \6S", .nivel = ENTERO}, "F", 2);
     QVERIFY(!texto.contains("Señal") && !texto.contains("Fin de"));
     QVERIFY(texto.contains("   f      CL1   1.20415    18.731      0.0000 09:06\r\n"));
 }
@@ -197,7 +197,7 @@ void TestEscritor_Nivel::cada_estilo_sale_igual()
                         .arg(i * 100, 5, 10, QChar('0'));
     }
     Poner_Sesion(*p, 2, lineas);
-    QCOMPARE(Texto({.texto = " \6N", .nivel = TODO}, "F", 2),
+    QCOMPARE(Texto({.texto = " \6N", .nivel = ENTERO}, "F", 2),
              "OBRA             RN1      1.0000      01/02/24 08:00\r\n\r\n" + esperado);
 }
 
@@ -215,7 +215,7 @@ void TestEscritor_Nivel::un_valor_largo_pierde_su_principio()
 void TestEscritor_Nivel::sin_detalle_sale_la_cabecera()
 {
     Poner_Formato(*p, "G", {"Trabajo"}, {});
-    QCOMPARE(Texto({.texto = " \6S", .nivel = TODO}, "G"),
+    QCOMPARE(Texto({.texto = " \6S", .nivel = ENTERO}, "G"),
              QString("Trabajo         \r\nANILLO A        \r\n\r\n"));
 }
 
@@ -245,7 +245,7 @@ void TestEscritor_Nivel::el_formato_de_otra_familia_no_se_mezcla()
                        {"Orden", 1},
                        {"Digitos", 3},
                        {"Caracter", "9"}});
-    QCOMPARE(Texto({.texto = " \6S", .nivel = TODO}),
+    QCOMPARE(Texto({.texto = " \6S", .nivel = ENTERO}),
              Ansi::A_Texto(Patron("nivel_txf_espacio.txt")));
 }
 
