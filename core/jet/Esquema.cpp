@@ -231,7 +231,7 @@ QString Esquema::Es_Fecha(const Columna& columna)
     // Only a shifted moment is worked out anew, so that the 30th of February is none. The form
     // first: what else the date functions take for a moment ("now") is none that was stored.
     return QStringLiteral(
-               "CASE WHEN %1 GLOB '%2' THEN strftime('%Y-%m-%d %H:%M:%S',%1,'+0 days')=%1 "
+               "CASE WHEN %1 GLOB '%2' THEN strftime('%Y-%m-%d %H:%M:%S',%1,'+0 days') IS %1 "
                "ELSE %1 IS NULL END")
         .replace(QStringLiteral("%1"), columna.nombre)
         .replace(QStringLiteral("%2"), dibujo);

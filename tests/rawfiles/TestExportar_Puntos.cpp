@@ -159,7 +159,7 @@ void TestExportar_Puntos::un_fallo_deja_lo_de_antes()
     banco->Escribir("salida", "lo de antes");
     QVERIFY(QFile::link("/dev/full", banco->Ruta("salida.parcial")));
     QCOMPARE(Exportar(sesion, Forma_Bruta::Lineas), QByteArray("failed"));
-    QVERIFY(banco->Avisos().value(0).contains("(61) "));
+    QVERIFY2(banco->Avisos().value(0).contains("(61) "), qPrintable(banco->Avisos().join(u" ")));
     QCOMPARE(banco->Leer("salida"), QByteArray("lo de antes"));
     QFile::remove(banco->Ruta("salida.parcial"));
     QCOMPARE(Exportar(sesion, Forma_Bruta::Lineas), QByteArray("h1\r\n"));

@@ -53,6 +53,9 @@ void TestProceso_Recepcion::lo_guardado_se_compacta_y_se_anuncia()
     // A new session tells the lists too.
     QCOMPARE(cambiadas.isEmpty(), anuncios == 0);
     QCOMPARE(reabierta.size(), anuncios);
+    // A session of one record of no kind has no points, which is told.
+    for (const auto& aviso : banco->interfaz.avisos)
+        QCOMPARE(aviso.texto, QString("El Fichero no contenía Puntos"));
 }
 
 void TestProceso_Recepcion::sin_base_es_un_error()

@@ -93,6 +93,7 @@ void TestAlmacen_KRT800::una_linea_larga_se_corta_y_avisa_del_formato()
     const Resultado_Recepcion puntos =
         banco->Procesar("KRT800", 4, QString(51, 'p') + ",1,2\r\nP2,3,4\r\n");
     QCOMPARE(puntos.faltas.cortadas, 1);
+    QCOMPARE(banco->interfaz.avisos.last().titulo, QString("Error de Formato"));
     QCOMPARE(banco->base.Columna("SELECT Punto FROM Registros WHERE ID = 2"),
              (QStringList{QString(50, 'p'), "P2"}));
 }

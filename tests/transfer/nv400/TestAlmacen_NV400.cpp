@@ -77,9 +77,10 @@ void TestAlmacen_NV400::un_fallo_avisa_y_no_es_completo()
     const Resultado_Recepcion r = banco->Procesar("NV400", 0, "a,012UNO,x,\r\nt,9,\r\n");
     QVERIFY(!r.guardada && !r.Completa());
     QCOMPARE(r.faltas.sin_sesion, 2);
-    QCOMPARE(banco->interfaz.avisos.size(), 1);
     QVERIFY(banco->interfaz.avisos[0].texto.startsWith(
         "Se produjo un error al guardar los datos de Medición\r("));
+    QCOMPARE(banco->interfaz.avisos.size(), 2);
+    QVERIFY(banco->interfaz.avisos[1].texto.startsWith("La base de datos está dañada:"));
 }
 
 void TestAlmacen_NV400::lo_que_no_cabe_se_corta_y_se_cuenta()
