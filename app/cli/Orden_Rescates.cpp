@@ -32,6 +32,8 @@ bool Rescatado_Entero(const Resultado_Recepcion& r)
     faltas.sin_acabar = false;
     faltas.abiertas = 0;
     faltas.sin_fin = 0;
+    // So are the heads at its end whose records never came.
+    if (r.faltas.sin_acabar) faltas.sueltas = 0;
     return r.guardada && !r.error && faltas.Ninguna();
 }
 
