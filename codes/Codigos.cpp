@@ -72,7 +72,7 @@ QString Motivo_De_Codigo(const Serie_Librerias& serie, const Codigo_Libreria& co
                          const QList<Entidad>& entidades)
 {
     for (const QString& texto : {codigo.codigo, codigo.capa})
-        if (const QString motivo = Motivo_De_Texto(serie, texto); !motivo.isEmpty()) return motivo;
+        if (QString motivo = Motivo_De_Texto(serie, texto); !motivo.isEmpty()) return motivo;
     if (codigo.codigo.size() > serie.largo_codigo)
         return QStringLiteral("El código '%1' tiene más de %2 caracteres")
             .arg(codigo.codigo)

@@ -108,7 +108,7 @@ std::optional<QString> Mantenimiento_Librerias::Pedir_Clave(const QString& titul
     for (;;) {
         const auto escrito = Interfaz_Actual().Pedir_Texto(titulo, texto, propuesta);
         if (!escrito) return std::nullopt;
-        const QString clave = Basico::Trim(escrito->left(serie.ancho_codigo));
+        QString clave = Basico::Trim(escrito->left(serie.ancho_codigo));
         if (clave.isEmpty()) return std::nullopt;
         if (!Buscar_Libreria(*Base_Datos, serie, clave)) return clave;
         texto = QString::fromUtf16(CODIGO_EXISTE);

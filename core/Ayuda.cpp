@@ -24,7 +24,7 @@ QList<Paso> Leer_Pasos(const QString& tipo_ope, const QString& ope)
 
 QList<Paso> Abrir_Pasos(const QString& tipo_ope, const QString& ope)
 {
-    const QList<Paso> pasos = Leer_Pasos(tipo_ope, ope);
+    QList<Paso> pasos = Leer_Pasos(tipo_ope, ope);
     if (pasos.isEmpty())
         Interfaz_Actual().Mensaje(
             QStringLiteral("No hay ayuda disponible en esta máquina para esta acción"),

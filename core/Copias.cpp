@@ -117,7 +117,7 @@ QString Copias::Recuperar(const QString& copia)
     const Examen examen = Examinar_Base(copia, true);
     if (!examen.Sana()) throw Error_Ejecucion::Con(3343, copia);
     const QString nueva = Ruta_MDB + QStringLiteral("/esttotal.pak");
-    const QString aparte = Nombre_Apartada();
+    QString aparte = Nombre_Apartada();
     QFile::remove(nueva);
     Ficheros::Copiar(copia, nueva);
     try {

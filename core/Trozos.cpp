@@ -54,7 +54,7 @@ qint64 Buscar_Trozo(const QString& cadena, const QString& buscado, const QString
 QString Sacar_Trozo(qint64 n, QString& cadena, const QString& sep)
 {
     const Tramo t = Situar(1, cadena, QStringView(sep), sep.size());
-    const QString primero = cadena.left(t.hasta);
+    QString primero = cadena.left(t.hasta);
     if (n != 1) cadena = t.hasta == cadena.size() ? QString() : cadena.mid(t.hasta + sep.size());
     return primero;
 }

@@ -30,7 +30,7 @@ qsizetype Ancho(const char* columna, const char* tabla = "Registros")
 
 QString Sesion_Nueva(const QString& nombre, int ope)
 {
-    const QString id = Nueva_Sesion(nombre.left(Ancho("NFichero", "Sesiones")), ope);
+    QString id = Nueva_Sesion(nombre.left(Ancho("NFichero", "Sesiones")), ope);
     if (id.isEmpty()) throw Error_Ejecucion(6, QStringLiteral("No se pudo crear la sesión"));
     return id;
 }

@@ -137,7 +137,7 @@ std::optional<Vista_Datos> Ver_Datos(Base& bd, const std::optional<Sesion_Elegid
         return std::nullopt;
     }
     try {
-        const Vista_Datos vista = Preparar_Vista(*sesion);
+        Vista_Datos vista = Preparar_Vista(*sesion);
         if (Da_Filas(bd, vista.sql)) return vista;
         Interfaz_Actual().Mensaje(QString::fromUtf16(SIN_DATOS));
     } catch (...) {

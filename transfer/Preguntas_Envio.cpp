@@ -16,7 +16,7 @@ std::optional<QString> Pedir_Fichero_Envio(const QString& titulo, const QString&
 std::optional<QString> Pedir_Separador_Y_Desplazamientos()
 {
     const Peticiones_Sesion& pide = Peticiones_De_Sesion();
-    const QString separador = pide.Pedir_Separador();
+    QString separador = pide.Pedir_Separador();
     if (separador.isEmpty()) return std::nullopt;
     Quitar_Desplazamientos();
     if (Offset_Cargas &&

@@ -30,7 +30,7 @@ int Leer_Separador(const Argumentos& a)
 std::optional<QStringList> Leer_Desplazamiento(const Argumentos& a)
 {
     if (!a.Hay("desplazamiento")) return std::nullopt;
-    const QStringList ejes = a.Opcion("desplazamiento").split(u',');
+    QStringList ejes = a.Opcion("desplazamiento").split(u',');
     if (ejes.size() != 3)
         throw Error_Uso{"El desplazamiento se escribe X,Y,Z: " + a.Opcion("desplazamiento")};
     for (const QString& eje : ejes)

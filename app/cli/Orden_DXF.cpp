@@ -87,7 +87,7 @@ Ajustes_DXF Leer_Ajustes(const Argumentos& a)
 
 QString Leer_Salida(const Argumentos& a)
 {
-    const QString fichero = a.Obligada("salida");
+    QString fichero = a.Obligada("salida");
     if (fichero.isEmpty()) throw Error_Uso{"Falta el nombre del fichero de salida"};
     return fichero;
 }

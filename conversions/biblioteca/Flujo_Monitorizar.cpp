@@ -51,7 +51,7 @@ QString Pedir(const QString& titulo, const QString& filtro, const QString& exten
 QString Pedir_Destino(const Fila_Salida& fila)
 {
     for (;;) {
-        const QString destino =
+        QString destino =
             Pedir("Seleccione Fichero de Resultados", QString::fromUtf16(fila.filtro) + TODOS,
                   QString::fromUtf16(fila.extension), true);
         if (destino.isEmpty() || !QFileInfo::exists(destino)) return destino;

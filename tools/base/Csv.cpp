@@ -40,7 +40,7 @@ private:
     {
         Fila fila{linea, {}};
         while (true) {
-            const std::optional<QString> celda = Cortar_Celda();
+            std::optional<QString> celda = Cortar_Celda();
             if (!celda) return false;
             fila.celdas << *celda;
             if (pos >= texto.size()) break;

@@ -32,7 +32,7 @@ QVariant Valor(const Juego& juego, const Tabla& t, qsizetype fila, const Esquema
     const QString tabla = t.Definicion().nombre;
     if (tabla == QLatin1String("KRT2") && columna.nombre == QLatin1String("DESOPE"))
         return Descripcion(juego, t.Numero(fila, "OPE"));
-    const QString celda = t.Celda(fila, columna.nombre);
+    QString celda = t.Celda(fila, columna.nombre);
     if (columna.tipo == Esquema::Tipo::Entero) return celda.toInt();
     if (tabla == QLatin1String("Campos") && columna.nombre == QLatin1String("Caracter") &&
         celda.isEmpty())

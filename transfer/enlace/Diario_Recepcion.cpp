@@ -161,7 +161,7 @@ bool Diario_Recepcion::Terminar(bool guardada)
 
 QString Diario_Recepcion::Guardar_En(const QString& carpeta)
 {
-    const QString destino = Nombre_En(carpeta);
+    QString destino = Nombre_En(carpeta);
     Ficheros::Escribir(destino, bytes);
     // What had got as far as LOG is the beginning of the same bytes.
     if (!incompleto.isEmpty()) QFile::remove(std::exchange(incompleto, QString()));

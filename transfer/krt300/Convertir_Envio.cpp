@@ -31,7 +31,7 @@ QString Convertir_Puntos(const QString& separador, const QString& fichero, QStri
         proceso.emplace("Convirtiendo a formato KRT (1 de 2)...", largo);
     QList<Punto_Envio> puntos;
     if (!Leer_Puntos(fichero, separador, puntos) || Proceso_Cancelado) return ERROR;
-    const QString malos = Comprobar_Puntos(puntos);
+    QString malos = Comprobar_Puntos(puntos);
     if (!malos.isEmpty()) return malos;
 
     if (proceso)
