@@ -71,7 +71,9 @@ void Interfaz_Guion::Mensaje(const QString& texto, Icono icono, const QString& t
 
 bool Interfaz_Guion::Preguntar(const QString& texto, Icono icono, const QString& titulo)
 {
-    avisos.append({texto, icono, titulo});
+    const Aviso aviso{texto, icono, titulo};
+    avisos.append(aviso);
+    if (al_avisar) al_avisar(aviso);
     return Tomar(respuestas, texto, false);
 }
 

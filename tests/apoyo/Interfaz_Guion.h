@@ -78,7 +78,7 @@ public:
     QList<int> terminado;   ///< statuses of Terminar
     /// Runs at every `Dejar_Pasar` and `Proceso_Avanzar`: a test cancels or re-enters from here.
     std::function<void()> al_pasar;
-    /// Runs at every message box, while it "stands".
+    /// Runs at every message box and question, while it "stands".
     std::function<void(const Aviso&)> al_avisar;
 
     void Mensaje(const QString& texto, Icono icono, const QString& titulo) override;

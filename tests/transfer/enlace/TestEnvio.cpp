@@ -436,6 +436,7 @@ void TestEnvio::mientras_se_pregunta_se_espera()
     QTRY_COMPARE(puerto->enviado, Tramas_KRT300::Cabecera().toLatin1());
     QVERIFY(envio->En_Marcha());
     QCOMPARE(interfaz->avisos.size(), 1);
+    interfaz->al_avisar = {};
 }
 
 void TestEnvio::cerrar_en_la_espera_no_manda_mas()
