@@ -7,6 +7,9 @@
 #include "core/ModEstTotal.h"
 #include "transfer/Peticiones_Transfer.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 const Serie_Librerias& Serie_A()
@@ -76,12 +79,10 @@ void Mantenimiento_A::Actualizar()
 {
     Mantenimiento_Librerias::Actualizar();
     if (esperada.isEmpty() || cambiado) return;
-    for (const Cabecera_Libreria& l : std::as_const(librerias))
-        if (l.codigo == esperada) {
-            esperada.clear();
-            Mostrar(l.codigo);
-            return;
-        }
+    const bool llegada =
+        std::ranges::any_of(librerias, [&](const auto& l) { return l.codigo == esperada; });
+    // The key outlives the list, which is read anew.
+    if (llegada) Mostrar(std::exchange(esperada, QString()));
 }
 
 bool Mantenimiento_A::Hay_Codigo() const
